@@ -1,0 +1,36 @@
+// Pictures of tiles and references to them.
+#pragma once
+
+#include "board/znak.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace dorva {
+
+struct Rgb {
+    std::uint8_t r = 0, g = 0, b = 0;
+    bool operator==(const Rgb&) const = default;
+};
+
+inline constexpr int OBRAZ_SIDE = 32;
+
+// The picture of one code in one world: 32 x 32 pixels, 0xAARRGGBB, row by row.
+using ZnakObraz = std::array<std::uint32_t, OBRAZ_SIDE * OBRAZ_SIDE>;
+
+// A loaded picture file, pixels 0xAARRGGBB row by row. Only its top left part may have been kept.
+struct Bitmapa {
+    int width = 0, height = 0;
+    std::vector<std::uint32_t> piksele;
+};
+
+// Which picture a control shows: that of a code in a world, or in the window's default state.
+struct ObrazRef {
+    static constexpr std::int8_t DOMYSLNY = -1;
+    std::int8_t swiat = DOMYSLNY;
+    Znak znak = NIC;
+    bool operator==(const ObrazRef&) const = default;
+};
+
+} // namespace dorva
