@@ -1,0 +1,11 @@
+// The buffer: the tile that the left button paints.
+#pragma once
+
+#include "edytor.h"
+
+namespace dorva {
+
+// Code, picture and the two texts, always set together.
+void SetBufor(Edytor&, const ZnakPole&);
+
+} // namespace dorva
