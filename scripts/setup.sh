@@ -1,0 +1,28 @@
+#!/bin/sh
+# Installs what building needs and this machine lacks (Debian packages). Elsewhere, or where nothing can
+# be installed, names what is missing; the caller goes on with what can be built without it.
+set -u
+
+packages="cmake ninja-build g++ qt6-base-dev libgtest-dev libbenchmark-dev cc65 fonts-liberation fonts-dejavu-core"
+
+if ! command -v dpkg-query >/dev/null 2>&1; then
+    for tool in cmake ninja c++ ca65; do
+        command -v "$tool" >/dev/null 2>&1 || echo "setup: $tool is missing"
+    done
+    exit 0
+fi
+
+missing=
+for package in $packages; do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing="$missing $package"
+done
+[ -z "$missing" ] && exit 0
+
+echo "setup: installing$missing"
+as_root=
+[ "$(id -u)" = 0 ] || as_root=sudo
+# shellcheck disable=SC2086
+{ $as_root apt-get update -qq &&
+  $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing; } >/dev/null ||
+    echo "setup: could not install$missing; going on without"
+exit 0

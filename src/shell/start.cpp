@@ -1,0 +1,88 @@
+#include "shell/start.h"
+
+#include "stage/etap.h"
+#include "stage/zbior_etapow.h"
+#include "tiles/kolory.h"
+#include "tiles/paleta.h"
+#include "tiles/zestaw.h"
+
+namespace dorva {
+namespace {
+
+constexpr std::string_view PODPIS = " - edytor etapów i budowniczy gry";
+
+void setTitle(Edytor& e, std::string_view version) {
+    e.okno.caption = "Dorva Planszownik [wersja " + std::string(version) + "]" + std::string(PODPIS);
+}
+
+// The parent of the program's folder becomes the current directory and the start of the file dialogs.
+void setFolders(Edytor& e, const std::filesystem::path& folder) {
+    std::error_code error;
+    std::filesystem::current_path(folder / "..", error);
+    e.OstatniaSciezka = std::filesystem::current_path(error);
+    e.KatalogBazowy = folder;
+}
+
+void loadColours(Edytor& e) {
+    LoadPaleta(e);
+    e.KoloryDomyslne = KOLORY_STARTOWE;
+    for (int swiat = 0; swiat < SWIATY_COUNT; ++swiat)
+        LoadKolory(e, swiat);
+    showDomyslne(e, 0, 0, SLOTY_COUNT - 1);
+}
+
+// A file of another length than 60 first blanks the boxes; what is there of whole lines is then read.
+bool readAutorGry(Edytor& e) {
+    const auto length = lengthOf(autorGryPath(e));
+    if (!length)
+        return false;
+    if (*length != AUTOR_GRY_SIZE_BYTES)
+        for (PoleTekstu& pole : e.okno.txtAutorGry)
+            SetTekst(pole, Tekst::spaces(LINIA_WIDTH));
+    for (std::size_t k = 0; k < e.okno.txtAutorGry.size(); ++k) {
+        PoleTekstu& pole = e.okno.txtAutorGry[k];
+        SetTekst(pole, {});
+        const auto bytes = readFirst(e.system, autorGryPath(e), (k + 1) * LINIA_WIDTH);
+        if (!bytes)
+            return false;
+        SetTekst(pole, Tekst::fromBytes(std::span(*bytes).subspan(k * LINIA_WIDTH)));
+    }
+    e.autorPrzejety = *length == AUTOR_GRY_SIZE_BYTES;
+    return true;
+}
+
+// The part of start-up that ends silently at its first failure.
+void loadWork(Edytor& e) {
+    if (!ScanZestawy(e))
+        return;
+    (void)SelectObiektyNR(e, 0);
+    e.NumerEtapu = 1;
+    SelectEtapNR(e, 0);
+    if (!readEtap(e, e.NumerEtapu))
+        return;
+    (void)readAutorGry(e);
+}
+
+} // namespace
+
+void Form_Load(Edytor& e, const std::filesystem::path& folder, std::string_view version) {
+    setTitle(e, version);
+    setFolders(e, folder);
+    sweepTemporary(e.system, e.KatalogBazowy / "ETAPY");
+    sweepTemporary(e.system, e.KatalogBazowy / "PLIKI");
+    loadColours(e);
+    loadWork(e);
+}
+
+void Form_QueryUnload(Edytor& e) {
+    PackEtap(e);
+    if (!writeBiezacyEtap(e))
+        return;
+    (void)writeAutorGry(e);
+}
+
+void Form_Unload(Edytor& e) {
+    closePaleta(e);
+}
+
+} // namespace dorva

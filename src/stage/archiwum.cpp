@@ -1,0 +1,82 @@
+#include "stage/archiwum.h"
+
+#include "stage/etap.h"
+
+namespace dorva {
+namespace {
+
+constexpr std::string_view FILTR_ZAPISU = "Plik archiwum|*.dpa|Wszystkie pliki (*.*)|*.*";
+constexpr std::string_view FILTR_ODCZYTU = "Pliki archiwum|*.dpa|Wszystkie pliki (*.*)|*.*";
+constexpr std::string_view NAZWA_ARCHIWUM = "DPArchiwum.dpa";
+
+constexpr std::size_t rekordArchiwum(int number) {
+    return AUTOR_GRY_SIZE_BYTES + ETAP_SIZE_BYTES * static_cast<std::size_t>(number - 1);
+}
+
+Bajty assemble(const Bajty& autorGry, const std::array<Bajty, ETAPY_COUNT>& etapy) {
+    Bajty archiwum = autorGry;
+    for (const Bajty& etap : etapy)
+        archiwum.insert(archiwum.end(), etap.begin(), etap.end());
+    return archiwum;
+}
+
+// Writes a stage of the archive over the working set. A file that is no whole stage, or whose content
+// the editor failed to take over, is kept aside.
+bool writeEtap(Edytor& e, int number, std::span<const Bajt> image) {
+    const auto path = etapPath(e, number);
+    const bool lost = number == e.NumerEtapu && !e.etapPrzejety;
+    const auto length = lengthOf(path);
+    if (lost || (length && *length != ETAP_SIZE_BYTES))
+        return writeKeepingOld(e.system, path, image);
+    return writeWhole(e.system, path, image);
+}
+
+} // namespace
+
+void cmdSaveArch_Click(Edytor& e) {
+    PackEtap(e);
+    if (!writeBiezacyEtap(e))
+        return;
+    if (!writeAutorGry(e))
+        return;
+    const auto etapy = readAllEtapy(e);
+    if (!etapy)
+        return;
+    const Bajty archiwum = assemble(autorGryBytes(e), *etapy);
+    if (archiwum.size() != ARCHIWUM_SIZE_BYTES) {
+        e.haki.messageBox(komunikaty::NIE_MOZNA_PLIKU);
+        return;
+    }
+    const auto path = askSavePath(e, {std::string(NAZWA_ARCHIWUM), e.OstatniaSciezka, FILTR_ZAPISU});
+    if (!path || !writeWhole(e.system, *path, archiwum))
+        return;
+    e.haki.messageBox(komunikaty::ARCHIWUM_ZAPISANE);
+}
+
+void cmdLoadArch_Click(Edytor& e) {
+    const auto path = e.haki.openDialog({"", e.OstatniaSciezka, FILTR_ODCZYTU});
+    if (!path)
+        return;
+    const auto length = lengthOf(*path);
+    if (!length)
+        return;
+    if (*length != ARCHIWUM_SIZE_BYTES) {
+        e.haki.messageBox(komunikaty::ZLY_FORMAT);
+        return;
+    }
+    e.OstatniaSciezka = *path;
+    const auto archiwum = readFirst(e.system, *path, ARCHIWUM_SIZE_BYTES);
+    if (!archiwum)
+        return;
+    const std::span<const Bajt> bytes(*archiwum);
+    for (std::size_t i = 0; i < e.okno.txtAutorGry.size(); ++i)
+        SetTekst(e.okno.txtAutorGry[i], Tekst::fromBytes(bytes.subspan(i * LINIA_WIDTH, LINIA_WIDTH)));
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        if (!writeEtap(e, number, bytes.subspan(rekordArchiwum(number), ETAP_SIZE_BYTES)))
+            return;
+    if (!writeAutorGry(e))
+        return;
+    (void)readEtap(e, e.NumerEtapu);
+}
+
+} // namespace dorva
