@@ -1,0 +1,85 @@
+#include "pulpit.h"
+#include "stage/archiwum.h"
+
+namespace dorva::test {
+namespace {
+
+class Archiwum : public Pulpit {};
+
+TEST_F(Archiwum, RoundTripRestoresEveryStageAndTheTitleLines) {
+    Bajty lines(60, ' ');
+    lines[0] = 0xA3; // Ł
+    lines[40] = 'a';
+    writeFile(base / "PLIKI/DP1.DTA", lines);
+    start();
+    chosen = root / "gra.dpa";
+    cmdSaveArch_Click(e);
+    EXPECT_EQ(shown, std::vector<std::string>{"Archiwum zostało pomyślnie zapisane"});
+    EXPECT_EQ(dialogs.back().name, "DPArchiwum.dpa");
+    const Bajty archive = readFile(*chosen);
+    ASSERT_EQ(archive.size(), ARCHIWUM_SIZE_BYTES);
+    EXPECT_TRUE(std::equal(lines.begin(), lines.end(), archive.begin()));
+    EXPECT_EQ(archive[28921 + uklad::CEL_MASEK], 32);
+
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        writeFile(etap(number), sampleEtap(33 - number));
+    writeFile(base / "PLIKI/DP1.DTA", Bajty(60, 'Y'));
+    SelectEtapNR(e, 6);
+    cell(3, 3) = BOMBA;
+    cmdLoadArch_Click(e);
+    EXPECT_EQ(e.NumerEtapu, 7);
+    EXPECT_EQ(e.okno.hscMonet, 7);
+    EXPECT_EQ(e.okno.txtAutorGry[0].tekst.znaki[0], '\xA3');
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        EXPECT_EQ(readFile(etap(number)), sampleEtap(number)) << number;
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), lines);
+    EXPECT_EQ(shown.size(), 1U);
+
+    answers = {true, true};
+    cmdSaveArch_Click(e);
+    EXPECT_EQ(readFile(*chosen), archive);
+}
+
+TEST_F(Archiwum, WrongLengthChangesNothing) {
+    start();
+    const auto before = e.OstatniaSciezka;
+    for (std::size_t size : {29851U, 29853U}) {
+        writeFile(root / "zle.dpa", Bajty(size, 1));
+        chosen = root / "zle.dpa";
+        cmdLoadArch_Click(e);
+        EXPECT_EQ(shown.back(), "Niewłaściwy format pliku!");
+    }
+    EXPECT_EQ(e.OstatniaSciezka, before);
+    EXPECT_EQ(readFile(etap(2)), sampleEtap(2));
+    chosen = root / "nie ma";
+    cmdLoadArch_Click(e);
+    EXPECT_EQ(shown.size(), 2U);
+}
+
+TEST_F(Archiwum, SaveEndsSilentlyWithoutAllStages) {
+    start();
+    fs::remove(etap(20));
+    writeFile(etap(21), Bajty(930, 1));
+    chosen = root / "gra.dpa";
+    cmdSaveArch_Click(e);
+    EXPECT_TRUE(dialogs.empty());
+    EXPECT_EQ(readFile(etap(20)).size(), 0U);
+    EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(Archiwum, LoadKeepsDamagedStageFilesAsideAndMayRefuseAField) {
+    start();
+    Bajty archive(ARCHIWUM_SIZE_BYTES, 7);
+    writeFile(root / "x.dpa", archive);
+    const Bajty damaged(500, 3);
+    writeFile(etap(9), damaged);
+    chosen = root / "x.dpa";
+    cmdLoadArch_Click(e);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.9.kopia"), damaged);
+    EXPECT_EQ(readFile(etap(9)), Bajty(ETAP_SIZE_BYTES, 7));
+    EXPECT_EQ(e.okno.hscMonet, 7);
+    EXPECT_EQ(e.okno.optObiektyNR, 1) << "the last flag 7 is refused before the world";
+}
+
+} // namespace
+} // namespace dorva::test

@@ -1,0 +1,116 @@
+#include "pulpit.h"
+
+#include <random>
+
+namespace dorva::test {
+namespace {
+
+class Etap : public Pulpit {};
+
+TEST_F(Etap, UnpackThenPackGivesTheSameBytes) {
+    std::mt19937 random(1);
+    for (int round = 0; round < 200; ++round) {
+        Bajty image(ETAP_SIZE_BYTES);
+        for (Bajt& b : image)
+            b = static_cast<Bajt>(random());
+        std::fill_n(image.begin(), 16, Bajt{0});
+        std::fill_n(image.begin() + 28, 4, Bajt{0});
+        for (int i = 0; i < PLANSZA_CELLS; ++i) {
+            Bajt& b = image[uklad::PLANSZA + static_cast<std::size_t>(i)];
+            if (isEdge(i))
+                b = std::array<Bajt, 3>{0, 5, 6}[b % 3];
+            else if (b == 191)
+                b = 63;
+        }
+        image[uklad::CEL_MASEK] = static_cast<Bajt>(1 + image[uklad::CEL_MASEK] % 99);
+        image[uklad::OSTATNI] %= 3;
+        image[uklad::SWIAT] %= 3;
+        // Not every byte is a stored text; what the coding makes of it is one.
+        const Bajty texts = EncodeTekst(DecodeTekst(std::span(image).subspan(uklad::NAZWA)));
+        const Bajty stored = EncodeTekst(DecodeTekst(texts));
+        std::copy(stored.begin(), stored.end(), image.begin() + uklad::NAZWA);
+        e.obrazEtapu = image;
+        ASSERT_TRUE(UnpackEtap(e));
+        PackEtap(e);
+        ASSERT_EQ(e.obrazEtapu, image);
+    }
+}
+
+TEST_F(Etap, EdgeRuleKeepsOnlyPlainWallsAndNothing) {
+    start();
+    for (auto [before, after] : {std::pair{0, 0}, {5, 5}, {6, 6}, {7, 5}, {63, 5}, {133, 5}, {134, 5}, {191, 5}, {128, 5}}) {
+        cell(0, 0) = cell(19, 39) = cell(7, 0) = cell(12, 39) = znak(before);
+        PackEtap(e);
+        for (Znak z : {cell(0, 0), cell(19, 39), cell(7, 0), cell(12, 39)})
+            EXPECT_EQ(kod(z), after) << before;
+    }
+    e.okno.optNN = 1;
+    cell(0, 3) = znak(134);
+    cell(0, 4) = znak(6);
+    PackEtap(e);
+    EXPECT_EQ(kod(cell(0, 3)), 133);
+    EXPECT_EQ(kod(cell(0, 4)), 6);
+}
+
+TEST_F(Etap, HeroineIsStoredPlainInsideTheEdge) {
+    start();
+    cell(3, 7) = DORVA_INV;
+    PackEtap(e);
+    EXPECT_EQ(e.obrazEtapu[159], 63);
+    EXPECT_EQ(cell(3, 7), DORVA);
+    EXPECT_EQ(e.okno.imgPG[127].obraz.znak, DORVA_INV) << "the picture follows at the next redraw";
+    const Bajty once = e.obrazEtapu;
+    PackEtap(e);
+    EXPECT_EQ(e.obrazEtapu, once);
+}
+
+TEST_F(Etap, RefusedFieldsLeaveTheRestAsItWas) {
+    start();
+    const Okno before = e.okno;
+    e.obrazEtapu.assign(ETAP_SIZE_BYTES, 0);
+    EXPECT_FALSE(UnpackEtap(e));
+    EXPECT_EQ(e.okno.lblKolor[4].value, 0);
+    EXPECT_EQ(cell(5, 5), NIC);
+    EXPECT_EQ(e.okno.imgPG[205].obraz, before.imgPG[205].obraz);
+    EXPECT_EQ(e.okno.hscMonet, before.hscMonet);
+    EXPECT_EQ(e.okno.txtNazwa.tekst, before.txtNazwa.tekst);
+
+    e.obrazEtapu = sampleEtap(9);
+    e.obrazEtapu[uklad::OSTATNI] = 3;
+    EXPECT_FALSE(UnpackEtap(e));
+    EXPECT_EQ(e.okno.hscMonet, 9);
+    EXPECT_EQ(e.okno.chkOstatni, before.chkOstatni);
+
+    e.obrazEtapu[uklad::OSTATNI] = 2;
+    e.obrazEtapu[uklad::SWIAT] = 3;
+    EXPECT_FALSE(UnpackEtap(e));
+    EXPECT_EQ(e.okno.chkOstatni, 2);
+    EXPECT_EQ(e.okno.optObiektyNR, before.optObiektyNR);
+    EXPECT_EQ(e.okno.txtNazwa.tekst, before.txtNazwa.tekst);
+}
+
+TEST_F(Etap, BlockedColoursStayAndTravelAlong) {
+    start();
+    e.okno.chkZachowajKolory = true;
+    const auto colours = e.okno.lblKolor;
+    SelectEtapNR(e, 4);
+    EXPECT_EQ(e.okno.lblKolor, colours);
+    EXPECT_EQ(e.okno.hscMonet, 5);
+    SelectEtapNR(e, 0);
+    const Bajty stored = readFile(etap(5));
+    for (std::size_t i = 0; i < SLOTY_COUNT; ++i)
+        EXPECT_EQ(stored[uklad::KOLORY + i], colours[i].value);
+}
+
+TEST_F(Etap, ShortBoxesAreFilledFullOnesStay) {
+    start();
+    e.okno.txtNazwa.tekst = ascii("ala");
+    e.okno.txtAutor.tekst = ascii(std::string(64, 'q'));
+    PackEtap(e);
+    EXPECT_EQ(e.obrazEtapu.size(), ETAP_SIZE_BYTES);
+    EXPECT_EQ(e.obrazEtapu[uklad::NAZWA + 15], 33);
+    EXPECT_EQ(e.okno.txtAutor.tekst.znaki, std::string(64, 'q'));
+}
+
+} // namespace
+} // namespace dorva::test

@@ -1,0 +1,106 @@
+#include "output/narzedzia.h"
+#include "output/obraz_gry.h"
+#include "pulpit.h"
+
+namespace dorva::test {
+namespace {
+
+class ObrazGry : public Pulpit {};
+
+TEST(Szablon, TitleLines) {
+    const Bajty test = BuildLiniaTytulu(ascii("     TEST ETAPU     "));
+    EXPECT_EQ(test, (Bajty{7, 52, 37, 51, 52, 0, 37, 52, 33, 48, 53, 155, 155, 155, 155, 155, 155, 155, 155, 155, 155, 155}));
+    const int columns[] = {12, 11, 11, 10, 10, 9, 9, 8, 8, 7, 7, 6, 6, 5, 5, 4, 4, 3, 3, 2, 2};
+    for (std::size_t length = 0; length <= 20; ++length) {
+        const Bajty line = BuildLiniaTytulu({std::string(length, 'A')});
+        ASSERT_EQ(line.size(), LINIA_TYTULU_SIZE_BYTES);
+        EXPECT_EQ(line[0], columns[length]);
+        EXPECT_EQ(std::count(line.begin() + 1, line.end(), 155), static_cast<int>(21 - length));
+    }
+    EXPECT_EQ(BuildLiniaTytulu({"  \xA3\xD3" "D\x8F  "})[4], 120);
+}
+
+TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {
+    start();
+    cell(4, 4) = BOMBA;
+    chosen = root / "gra.xex";
+    cmdCreate_Click(e);
+    EXPECT_EQ(shown, std::vector<std::string>{"Został utworzony plik XEX z grą Dorva.\nUruchomić grę na emulatorze Atari?"});
+    EXPECT_EQ(started, std::vector<fs::path>{base / "PLIKI/DP3.BAT"});
+    EXPECT_EQ(fs::current_path(), fs::canonical(base));
+    EXPECT_EQ(dialogs.back().name, "Dorva - wyprawy.xex");
+
+    const Bajty game = readFile(*chosen);
+    ASSERT_EQ(game.size(), GRA_SIZE_BYTES);
+    EXPECT_EQ(readFile(base / "PLIKI/TEST.XEX"), game);
+    Bajty expected = sampleSzablon();
+    constexpr std::pair<int, std::size_t> told[] = {{1, 29724}, {2, 30659}, {16, 43749}, {17, 44689}, {18, 45624}, {32, 58714}};
+    for (auto [number, offset] : told)
+        EXPECT_EQ(game[offset + uklad::CEL_MASEK], number);
+    for (int number = 1; number <= ETAPY_COUNT; ++number) {
+        const Bajty stage = readFile(etap(number));
+        std::copy(stage.begin(), stage.end(), expected.begin() + 29724 + 935 * (number - 1) + (number > 16 ? 5 : 0));
+    }
+    const Bajty line = BuildLiniaTytulu(ascii(std::string(20, 'X')));
+    for (int i = 0; i < 3; ++i)
+        std::copy(line.begin(), line.end(), expected.begin() + 116180 + 22 * i);
+    EXPECT_EQ(game, expected);
+    EXPECT_EQ(game[29724 + 32 + 164], 14) << "unsaved changes are in the game";
+
+    answers = {true, false};
+    cmdCreate_Click(e);
+    EXPECT_EQ(readFile(*chosen), game);
+    EXPECT_EQ(started.size(), 1U) << "No starts nothing";
+}
+
+TEST_F(ObrazGry, GameReadsEverythingBeforeItAsks) {
+    start();
+    fs::remove(etap(30));
+    chosen = root / "gra.xex";
+    cmdCreate_Click(e);
+    writeFile(etap(30), sampleEtap(30));
+    writeFile(base / "PLIKI/DP2.DTA", Bajty(GRA_SIZE_BYTES - 1, 0));
+    cmdCreate_Click(e);
+    cmdTest_Click(e);
+    fs::remove(base / "PLIKI/DP2.DTA");
+    cmdTest_Click(e);
+    EXPECT_TRUE(dialogs.empty());
+    EXPECT_TRUE(shown.empty());
+    EXPECT_FALSE(fs::exists(base / "PLIKI/TEST.XEX"));
+    EXPECT_EQ(e.okno.chkOstatni, 0);
+}
+
+TEST_F(ObrazGry, CancelsLeaveFilesAlone) {
+    start();
+    cmdCreate_Click(e);
+    writeFile(root / "stara.xex", {1});
+    chosen = root / "stara.xex";
+    answers = {false};
+    cmdCreate_Click(e);
+    EXPECT_EQ(readFile(root / "stara.xex"), Bajty{1});
+    EXPECT_FALSE(fs::exists(base / "PLIKI/TEST.XEX"));
+    EXPECT_NE(e.OstatniaSciezka, *chosen);
+}
+
+TEST_F(ObrazGry, TestBuildTakesTheBoardAndMarksItLast) {
+    start();
+    SelectEtapNR(e, 19);
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        fs::remove(etap(number));
+    cmdTest_Click(e);
+    EXPECT_EQ(shown, std::vector<std::string>{"Został utworzony plik XEX z testowanym etapem.\nUruchomić plik na emulatorze Atari?"});
+    EXPECT_EQ(e.okno.chkOstatni, 0);
+    EXPECT_FALSE(fs::exists(etap(20)));
+
+    Bajty expected = sampleSzablon();
+    Bajty stage = sampleEtap(20);
+    stage[uklad::OSTATNI] = 1;
+    std::copy(stage.begin(), stage.end(), expected.begin() + 29724);
+    const Bajty lines[] = {BuildLiniaTytulu(ascii(std::string(20, 'X'))), BuildLiniaTytulu({}), BuildLiniaTytulu(ascii("TEST ETAPU"))};
+    for (int i = 0; i < 3; ++i)
+        std::copy(lines[i].begin(), lines[i].end(), expected.begin() + 116180 + 22 * i);
+    EXPECT_EQ(readFile(base / "PLIKI/TEST.XEX"), expected);
+}
+
+} // namespace
+} // namespace dorva::test

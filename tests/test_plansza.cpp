@@ -1,0 +1,55 @@
+#include "board/plansza.h"
+#include "pulpit.h"
+
+namespace dorva::test {
+namespace {
+
+class Plansza : public Pulpit {
+protected:
+    void SetUp() override {
+        Pulpit::SetUp();
+        start();
+        ClearEtap(e);
+    }
+};
+
+TEST_F(Plansza, StrokeEntersEachCellOnce) {
+    imgZnak_Click(e, 34);
+    imgPG_MouseDown(e, 100, LEWY);
+    imgPG_MouseMove(e, 100, LEWY);
+    EXPECT_EQ(e.okno.obrys, -1) << "no outline before another cell is entered";
+    imgPG_MouseMove(e, 101, LEWY);
+    imgPG_MouseMove(e, 102, LEWY + PRAWY);
+    imgPG_MouseMove(e, 103, 0);
+    EXPECT_EQ(e.okno.imgPG[100].znak, znak(34));
+    EXPECT_EQ(e.okno.imgPG[101], e.okno.imgBufor);
+    EXPECT_EQ(e.okno.imgPG[102].znak, ZIEMIA);
+    EXPECT_EQ(e.okno.imgPG[103].znak, ZIEMIA);
+    EXPECT_EQ(e.okno.obrys, 103);
+}
+
+TEST_F(Plansza, RightButtonPicksOrErasesOneCell) {
+    cell(5, 5) = cell(5, 6) = BOMBA;
+    imgPG_MouseDown(e, 205, PRAWY);
+    EXPECT_EQ(e.okno.lblKodBufor[0], "14");
+    EXPECT_EQ(e.okno.lblKodBufor[1], "$E");
+    e.okno.optPPM = 1;
+    imgPG_MouseDown(e, 205, PRAWY);
+    imgPG_MouseMove(e, 206, PRAWY);
+    EXPECT_EQ(cell(5, 5), ZIEMIA);
+    EXPECT_EQ(cell(5, 6), BOMBA);
+    SelectNN(e, 1);
+    imgPG_MouseDown(e, 206, PRAWY);
+    EXPECT_EQ(kod(cell(5, 6)), 129) << "under INV the eraser writes the INV earth";
+}
+
+TEST_F(Plansza, OtherButtonsOnlyRecount) {
+    cell(5, 5) = MASKA; // not counted yet
+    imgPG_MouseDown(e, 300, SRODKOWY);
+    EXPECT_EQ(e.lastCell, 300);
+    EXPECT_EQ(e.okno.imgPG[300].znak, ZIEMIA);
+    EXPECT_EQ(e.okno.lblInfo[2].caption, "1");
+}
+
+} // namespace
+} // namespace dorva::test

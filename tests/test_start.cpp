@@ -1,0 +1,83 @@
+#include "pulpit.h"
+#include "shell/pola.h"
+
+namespace dorva::test {
+namespace {
+
+class Start : public Pulpit {};
+
+TEST_F(Start, CompleteStartShowsStageOneAndChangesNoFile) {
+    start();
+    EXPECT_TRUE(e.okno.caption.starts_with("Dorva Planszownik [wersja 1.0.2]"));
+    EXPECT_EQ(e.OstatniaSciezka, fs::canonical(root));
+    EXPECT_EQ(e.okno.optObiektyNR, 1);
+    EXPECT_EQ(e.okno.hscMonet, 1);
+    EXPECT_EQ(e.okno.txtAutorGry[2].tekst.znaki, std::string(20, 'X'));
+    EXPECT_TRUE(e.okno.chkOstatniEnabled);
+    Form_QueryUnload(e);
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        EXPECT_EQ(readFile(etap(number)), sampleEtap(number));
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), Bajty(60, 'X'));
+    EXPECT_EQ(namesIn("ETAPY").size(), 32U);
+}
+
+TEST_F(Start, DefaultStateHoldsWithoutStageOne) {
+    fs::remove(etap(1));
+    start();
+    EXPECT_EQ(cell(0, 7), MUREK_PIONOWY);
+    EXPECT_EQ(cell(7, 7), ZIEMIA);
+    EXPECT_EQ(e.okno.lblKolor[4].value, 180);
+    EXPECT_EQ(e.okno.txtAutorGry[0].tekst.znaki, "DORVA PLANSZOWNIK!  ") << "title lines aren't read then";
+    EXPECT_EQ(fs::file_size(etap(1)), 0U);
+    Form_QueryUnload(e);
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia"), Bajty(60, 'X'));
+    EXPECT_EQ(namesIn("ETAPY").size(), 32U) << "an empty file is worth no copy";
+}
+
+TEST_F(Start, TooFewTileSetNamesEndStartUpButLoseNothing) {
+    for (int names : {0, 1, 2, 3, 4}) {
+        for (const std::string& name : namesIn("OBIEKTY/ORN_EXPORT"))
+            fs::remove(base / "OBIEKTY/ORN_EXPORT" / name);
+        for (int i = 0; i < names; ++i)
+            writeFile(base / "OBIEKTY/ORN_EXPORT" / ("F" + std::to_string(i) + ".ND"), {});
+        for (const std::string& name : namesIn("ETAPY"))
+            if (name.find("kopia") != std::string::npos)
+                fs::remove(base / "ETAPY" / name);
+        writeFile(etap(1), sampleEtap(1));
+        e = Edytor{};
+        attach(e);
+        start();
+        const bool complete = names >= 2;
+        EXPECT_EQ(e.okno.optObiektyNR, complete ? 1 : 0) << names;
+        SelectEtapNR(e, 1);
+        EXPECT_EQ(readFile(complete ? etap(1) : base / "ETAPY/DETAP.1.kopia"), sampleEtap(1)) << names;
+    }
+}
+
+TEST_F(Start, TitleLinesOfOtherLengths) {
+    for (std::size_t size : {0U, 20U, 59U, 60U, 70U}) {
+        writeFile(base / "PLIKI/DP1.DTA", Bajty(size, 'Q'));
+        e = Edytor{};
+        attach(e);
+        start();
+        for (std::size_t i = 0; i < 3; ++i)
+            EXPECT_EQ(e.okno.txtAutorGry[i].tekst.znaki, std::string(20, size >= 20 * (i + 1) ? 'Q' : ' ')) << size;
+        Form_QueryUnload(e);
+        EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA").size(), 60U);
+    }
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia"), Bajty(20, 'Q'));
+}
+
+TEST_F(Start, EmptiedBoxIsRefilledAndLeavingFitsTheText) {
+    start();
+    const unsigned before = e.okno.txtAutor.zaznaczenia;
+    txt_Change(e, Pole::Autor, {});
+    EXPECT_EQ(e.okno.txtAutor.tekst, Tekst::spaces(64));
+    EXPECT_EQ(e.okno.txtAutor.zaznaczenia, before + 1);
+    txt_Change(e, Pole::AutorGry1, {"za\xBF\xF3\xB3\xE6"});
+    txt_LostFocus(e, Pole::AutorGry1);
+    EXPECT_EQ(e.okno.txtAutorGry[1].tekst.znaki, "ZA\xAF\xD3\xA3\xC6" + std::string(14, ' '));
+}
+
+} // namespace
+} // namespace dorva::test

@@ -1,0 +1,174 @@
+#include "pulpit.h"
+
+namespace dorva::test {
+namespace {
+
+class ZbiorEtapow : public Pulpit {};
+
+TEST_F(ZbiorEtapow, SwitchStoresTheOldStageAndShowsTheNew) {
+    start();
+    cell(5, 5) = MASKA;
+    SelectEtapNR(e, 1);
+    Bajty expected = sampleEtap(1);
+    expected[uklad::PLANSZA + 205] = 12;
+    EXPECT_EQ(readFile(etap(1)), expected);
+    EXPECT_EQ(e.NumerEtapu, 2);
+    EXPECT_EQ(e.obrazEtapu, sampleEtap(2));
+    EXPECT_EQ(e.okno.optObiektyNR, 2);
+    EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(ZbiorEtapow, EveryStageSurvivesAWalkThroughAll) {
+    start();
+    for (int i = 31; i >= 0; --i)
+        SelectEtapNR(e, i);
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        EXPECT_EQ(readFile(etap(number)), sampleEtap(number)) << number;
+}
+
+TEST_F(ZbiorEtapow, MissingFilesCarryTheBoardAlong) {
+    start();
+    for (int number = 1; number <= 3; ++number)
+        fs::remove(etap(number));
+    cell(9, 9) = KLUCZ;
+    SelectEtapNR(e, 1);
+    EXPECT_EQ(cell(9, 9), KLUCZ);
+    EXPECT_EQ(readFile(etap(2)).size(), 0U);
+    SelectEtapNR(e, 2);
+    EXPECT_EQ(readFile(etap(2))[uklad::PLANSZA + 369], 13);
+    EXPECT_EQ(e.obrazEtapu, Bajty(ETAP_SIZE_BYTES, 0));
+}
+
+TEST_F(ZbiorEtapow, FilesNotTakenOverWholeAreKeptAside) {
+    const Bajty shortFile(930, 7);
+    Bajty longFile = sampleEtap(3);
+    longFile.push_back(99);
+    Bajty refused = sampleEtap(4);
+    refused[uklad::CEL_MASEK] = 100;
+    writeFile(etap(2), shortFile);
+    writeFile(etap(3), longFile);
+    writeFile(etap(4), refused);
+    start();
+    for (int index : {1, 2, 3, 4})
+        SelectEtapNR(e, index);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.2.kopia"), shortFile);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.3.kopia"), longFile);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.4.kopia"), refused);
+    EXPECT_EQ(readFile(etap(3)), sampleEtap(3));
+    for (int number : {2, 3, 4})
+        EXPECT_EQ(readFile(etap(number)).size(), ETAP_SIZE_BYTES);
+
+    writeFile(etap(2), shortFile);
+    SelectEtapNR(e, 1);
+    SelectEtapNR(e, 0);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.2.kopia2"), shortFile);
+}
+
+TEST_F(ZbiorEtapow, LastStageRule) {
+    Bajty last = sampleEtap(32);
+    last[uklad::OSTATNI] = 0;
+    writeFile(etap(32), last);
+    start();
+    SelectEtapNR(e, 31);
+    EXPECT_EQ(e.okno.chkOstatni, 1);
+    EXPECT_FALSE(e.okno.chkOstatniEnabled);
+    chosen = etap(5);
+    cmdLoad_Click(e);
+    EXPECT_EQ(e.okno.chkOstatni, 0) << "a load does not apply the rule";
+    SelectEtapNR(e, 4);
+    EXPECT_TRUE(e.okno.chkOstatniEnabled);
+    EXPECT_EQ(e.okno.chkOstatni, 0);
+}
+
+TEST_F(ZbiorEtapow, FailedWriteGoesBackToTheStageInTheEditor) {
+    start();
+    cell(5, 5) = MASKA;
+    fs::remove(etap(1));
+    fs::create_directory(etap(1));
+    SelectEtapNR(e, 31);
+    EXPECT_EQ(shown, std::vector<std::string>{"Nie można zapisać etapu."});
+    EXPECT_EQ(e.okno.optEtapNR, 0);
+    EXPECT_EQ(e.NumerEtapu, 1);
+    EXPECT_EQ(cell(5, 5), MASKA);
+    EXPECT_TRUE(e.okno.chkOstatniEnabled);
+    EXPECT_EQ(readFile(etap(32)), sampleEtap(32));
+    fs::remove(etap(1));
+    SelectEtapNR(e, 31);
+    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 205], 12);
+}
+
+TEST_F(ZbiorEtapow, LoadTakesOnlyFilesOf931Bytes) {
+    start();
+    for (std::size_t size : {930U, 932U, 0U}) {
+        writeFile(root / "obcy", Bajty(size, 1));
+        chosen = root / "obcy";
+        cmdLoad_Click(e);
+        EXPECT_EQ(shown.back(), "Niewłaściwy format pliku!");
+    }
+    EXPECT_EQ(shown.size(), 3U);
+    EXPECT_EQ(e.OstatniaSciezka, root / "obcy");
+    writeFile(root / "obcy", sampleEtap(17));
+    cmdLoad_Click(e);
+    EXPECT_EQ(e.okno.hscMonet, 17);
+    EXPECT_EQ(e.NumerEtapu, 1);
+    EXPECT_EQ(dialogs.back().filter, "Etapy gry|DETAP.*|Wszystkie pliki (*.*)|*.*");
+    Form_QueryUnload(e);
+    EXPECT_EQ(readFile(etap(1)), sampleEtap(17));
+
+    chosen = root / "nie ma";
+    cmdLoad_Click(e);
+    chosen.reset();
+    cmdLoad_Click(e);
+    EXPECT_EQ(shown.size(), 3U);
+    EXPECT_EQ(e.OstatniaSciezka, root / "nie ma");
+    EXPECT_FALSE(fs::exists(root / "nie ma"));
+}
+
+TEST_F(ZbiorEtapow, SaveAsksBeforeItReplaces) {
+    start();
+    SelectEtapNR(e, 6);
+    chosen = root / "kopia etapu";
+    cmdSave_Click(e);
+    EXPECT_EQ(dialogs.back().name, "DETAP.7");
+    EXPECT_EQ(shown, std::vector<std::string>{"Dane etapu zostały pomyślnie zapisane"});
+    EXPECT_EQ(readFile(*chosen), sampleEtap(7));
+
+    writeFile(root / "inny", {1, 2, 3});
+    chosen = root / "inny";
+    answers = {false};
+    cmdSave_Click(e);
+    EXPECT_EQ(shown.back(), "Plik już istnieje!\nZastąpić?");
+    EXPECT_EQ(readFile(root / "inny"), (Bajty{1, 2, 3}));
+    EXPECT_EQ(e.OstatniaSciezka, root / "kopia etapu");
+
+    chosen = root / "brak" / "folderu";
+    cmdSave_Click(e);
+    EXPECT_EQ(shown.size(), 2U);
+    EXPECT_EQ(e.OstatniaSciezka, *chosen);
+}
+
+TEST_F(ZbiorEtapow, ClearBuildsTheWalledField) {
+    start();
+    answers = {false, true};
+    cmdCzysc_Click(e);
+    EXPECT_EQ(cell(5, 5), znak(5));
+    cmdCzysc_Click(e);
+    EXPECT_EQ(shown.back(), "Czyszczenie usunie całą zawartość mapy!\nKontynuować?");
+    for (int i = 0; i < PLANSZA_CELLS; ++i) {
+        const int row = i / 40, column = i % 40;
+        const bool side = column == 0 || column == 39;
+        const int expected = row == 19 ? 6 : side ? 5 : row == 0 ? 6 : 1;
+        ASSERT_EQ(kod(cell(row, column)), expected) << i;
+    }
+    EXPECT_EQ(e.okno.hscMonet, 1);
+    EXPECT_EQ(e.okno.lblInfo[3].caption, "1");
+    EXPECT_EQ(e.okno.txtNazwa.tekst, Tekst::spaces(32));
+    EXPECT_EQ(readFile(etap(1)), sampleEtap(1));
+    e.okno.optNN = 1;
+    ClearEtap(e);
+    PackEtap(e);
+    EXPECT_EQ(kod(cell(0, 5)), 133) << "134 is not among the edge's kept values";
+}
+
+} // namespace
+} // namespace dorva::test
