@@ -11,12 +11,15 @@ namespace {
 using Liczby = std::array<int, ZNAKI_COUNT>;
 
 Liczby countBoard(const std::array<ZnakPole, PLANSZA_CELLS>& plansza) {
-    std::array<int, 256> byCode{};
-    for (const ZnakPole& cell : plansza)
-        ++byCode[static_cast<std::size_t>(cell.znak)];
+    // Four tables in turn: long runs of one code would otherwise wait for each other's increments.
+    constexpr std::size_t TABLES = 4;
+    std::array<std::array<std::uint16_t, 256>, TABLES> byCode{};
+    for (std::size_t i = 0; i < plansza.size(); ++i)
+        ++byCode[i % TABLES][static_cast<std::size_t>(plansza[i].znak)];
     Liczby liczby{};
-    for (std::size_t i = 0; i < liczby.size(); ++i)
-        liczby[i] = byCode[i] + byCode[i + INV];
+    for (const auto& table : byCode)
+        for (std::size_t i = 0; i < liczby.size(); ++i)
+            liczby[i] += table[i] + table[i + INV];
     return liczby;
 }
 

@@ -110,6 +110,10 @@ inline constexpr std::array<std::string_view, ZNAKI_COUNT> NAZWY_ZNAKOW{
     "DORVA",
 };
 
+// The picker slots whose pictures the icons of the census panel copy.
+inline constexpr std::array<Znak, 10> IKONY_INFO{DORVA, WYJSCIE, MASKA,   MASKA,     KLUCZ,
+                                                 DRZWI, BOMBA,   PULAPKA, PRZEDMIOT, MASZYNA};
+
 // The two visible rows of the picker, left to right; all other slots are hidden.
 inline constexpr int WYBOR_COLUMNS = 22;
 inline constexpr std::array<int, 2 * WYBOR_COLUMNS> WYBOR_ORDER{

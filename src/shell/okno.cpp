@@ -16,6 +16,8 @@ Okno defaultOkno() {
     }
     for (int i : WYBOR_ORDER)
         okno.imgZnak[static_cast<std::size_t>(i)].enabled = true;
+    for (std::size_t k = 0; k < IKONY_INFO.size(); ++k)
+        okno.imgInfo[k] = {ObrazRef::DOMYSLNY, IKONY_INFO[k]};
     okno.lblInfo[0].caption = okno.lblInfo[1].caption = "!";
     okno.lblInfo[3].caption = "1";
     okno.txtAutor.tekst = {std::string(AUTOR_DOMYSLNY)};

@@ -9,10 +9,6 @@ namespace {
 
 constexpr std::string_view KATALOG_EKSPORTU = "OBIEKTY/ORN_EXPORT";
 
-// The picker slots whose pictures the icons of the census panel copy.
-constexpr std::array<Znak, 10> IKONY_INFO{DORVA, WYJSCIE, MASKA,   MASKA,     KLUCZ,
-                                          DRZWI, BOMBA,   PULAPKA, PRZEDMIOT, MASZYNA};
-
 // A picture hook that throws is a picture that can't be loaded.
 std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& path) try {
     return e.haki.loadPicture ? e.haki.loadPicture(path, PASEK_WIDTH, OBRAZ_SIDE) : std::nullopt;
