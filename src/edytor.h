@@ -22,7 +22,7 @@ struct Edytor {
     // the stage
     Bajty obrazEtapu = Bajty(ETAP_SIZE_BYTES, 0); // last packed or read; goes stale as the user edits
     int NumerEtapu = 1;                           // 1..32
-    bool etapPrzejety = false; // the bytes of DETAP.<NumerEtapu> are all in the editor, or came from it
+    bool etapPrzejety = false;  // the bytes of DETAP.<NumerEtapu> are all in the editor, or came from it
     bool autorPrzejety = false; // likewise DP1.DTA
     int lastCell = 0;           // the board cell that the mouse rules handled last
 

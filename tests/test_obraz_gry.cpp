@@ -9,7 +9,8 @@ class ObrazGry : public Pulpit {};
 
 TEST(Szablon, TitleLines) {
     const Bajty test = BuildLiniaTytulu(ascii("     TEST ETAPU     "));
-    EXPECT_EQ(test, (Bajty{7, 52, 37, 51, 52, 0, 37, 52, 33, 48, 53, 155, 155, 155, 155, 155, 155, 155, 155, 155, 155, 155}));
+    EXPECT_EQ(test,
+              (Bajty{7, 52, 37, 51, 52, 0, 37, 52, 33, 48, 53, 155, 155, 155, 155, 155, 155, 155, 155, 155, 155, 155}));
     const int columns[] = {12, 11, 11, 10, 10, 9, 9, 8, 8, 7, 7, 6, 6, 5, 5, 4, 4, 3, 3, 2, 2};
     for (std::size_t length = 0; length <= 20; ++length) {
         const Bajty line = BuildLiniaTytulu({std::string(length, 'A')});
@@ -17,7 +18,9 @@ TEST(Szablon, TitleLines) {
         EXPECT_EQ(line[0], columns[length]);
         EXPECT_EQ(std::count(line.begin() + 1, line.end(), 155), static_cast<int>(21 - length));
     }
-    EXPECT_EQ(BuildLiniaTytulu({"  \xA3\xD3" "D\x8F  "})[4], 120);
+    EXPECT_EQ(BuildLiniaTytulu({"  \xA3\xD3"
+                                "D\x8F  "})[4],
+              120);
 }
 
 TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {
@@ -25,7 +28,8 @@ TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {
     cell(4, 4) = BOMBA;
     chosen = root / "gra.xex";
     cmdCreate_Click(e);
-    EXPECT_EQ(shown, std::vector<std::string>{"Został utworzony plik XEX z grą Dorva.\nUruchomić grę na emulatorze Atari?"});
+    EXPECT_EQ(shown,
+              std::vector<std::string>{"Został utworzony plik XEX z grą Dorva.\nUruchomić grę na emulatorze Atari?"});
     EXPECT_EQ(started, std::vector<fs::path>{base / "PLIKI/DP3.BAT"});
     EXPECT_EQ(fs::current_path(), fs::canonical(base));
     EXPECT_EQ(dialogs.back().name, "Dorva - wyprawy.xex");
@@ -34,7 +38,8 @@ TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {
     ASSERT_EQ(game.size(), GRA_SIZE_BYTES);
     EXPECT_EQ(readFile(base / "PLIKI/TEST.XEX"), game);
     Bajty expected = sampleSzablon();
-    constexpr std::pair<int, std::size_t> told[] = {{1, 29724}, {2, 30659}, {16, 43749}, {17, 44689}, {18, 45624}, {32, 58714}};
+    constexpr std::pair<int, std::size_t> told[] = {{1, 29724},  {2, 30659},  {16, 43749},
+                                                    {17, 44689}, {18, 45624}, {32, 58714}};
     for (auto [number, offset] : told)
         EXPECT_EQ(game[offset + uklad::CEL_MASEK], number);
     for (int number = 1; number <= ETAPY_COUNT; ++number) {
@@ -88,7 +93,8 @@ TEST_F(ObrazGry, TestBuildTakesTheBoardAndMarksItLast) {
     for (int number = 1; number <= ETAPY_COUNT; ++number)
         fs::remove(etap(number));
     cmdTest_Click(e);
-    EXPECT_EQ(shown, std::vector<std::string>{"Został utworzony plik XEX z testowanym etapem.\nUruchomić plik na emulatorze Atari?"});
+    EXPECT_EQ(shown, std::vector<std::string>{
+                         "Został utworzony plik XEX z testowanym etapem.\nUruchomić plik na emulatorze Atari?"});
     EXPECT_EQ(e.okno.chkOstatni, 0);
     EXPECT_FALSE(fs::exists(etap(20)));
 
@@ -96,7 +102,8 @@ TEST_F(ObrazGry, TestBuildTakesTheBoardAndMarksItLast) {
     Bajty stage = sampleEtap(20);
     stage[uklad::OSTATNI] = 1;
     std::copy(stage.begin(), stage.end(), expected.begin() + 29724);
-    const Bajty lines[] = {BuildLiniaTytulu(ascii(std::string(20, 'X'))), BuildLiniaTytulu({}), BuildLiniaTytulu(ascii("TEST ETAPU"))};
+    const Bajty lines[] = {BuildLiniaTytulu(ascii(std::string(20, 'X'))), BuildLiniaTytulu({}),
+                           BuildLiniaTytulu(ascii("TEST ETAPU"))};
     for (int i = 0; i < 3; ++i)
         std::copy(lines[i].begin(), lines[i].end(), expected.begin() + 116180 + 22 * i);
     EXPECT_EQ(readFile(base / "PLIKI/TEST.XEX"), expected);

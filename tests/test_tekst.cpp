@@ -25,8 +25,7 @@ TEST(Tekst, DecodeUndoesEncodeForEveryNormalisedByte) {
 }
 
 TEST(Tekst, UpperCaseCoversTheWholeCodePage) {
-    EXPECT_EQ(upperCase({"a\xB9\xE6\xEA\xB3\xF1\xF3\x9C\x9F\xBF z"}).znaki,
-              "A\xA5\xC6\xCA\xA3\xD1\xD3\x8C\x8F\xAF Z");
+    EXPECT_EQ(upperCase({"a\xB9\xE6\xEA\xB3\xF1\xF3\x9C\x9F\xBF z"}).znaki, "A\xA5\xC6\xCA\xA3\xD1\xD3\x8C\x8F\xAF Z");
     EXPECT_EQ(upperCase({"\xF7\xFF\xDF\xB5"}).znaki, "\xF7\xFF\xDF\xB5") << "no letters, or no capital in the page";
     EXPECT_EQ(upperCase({"\x9A\x9D\x9E\xBA\xBE\xFE"}).znaki, "\x8A\x8D\x8E\xAA\xBC\xDE");
 }

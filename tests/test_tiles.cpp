@@ -10,7 +10,8 @@ namespace {
 Bitmapa sampleStrip(std::uint32_t swiat, int width = 4096, int height = 32) {
     Bitmapa strip{width, height, std::vector<std::uint32_t>(static_cast<std::size_t>(width * height))};
     for (std::size_t i = 0; i < strip.piksele.size(); ++i)
-        strip.piksele[i] = 0xFF000000U | swiat << 16U | static_cast<std::uint32_t>(i % static_cast<std::size_t>(width) / 32);
+        strip.piksele[i] =
+            0xFF000000U | swiat << 16U | static_cast<std::uint32_t>(i % static_cast<std::size_t>(width) / 32);
     return strip;
 }
 
@@ -19,13 +20,14 @@ protected:
     void SetUp() override {
         Pulpit::SetUp();
         std::uint32_t swiat = 0;
-        for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"}) {
-            writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".KOLORY"), Bajty(7, static_cast<Bajt>(10 * ++swiat)));
+        for (const char *name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"}) {
+            writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".KOLORY"),
+                      Bajty(7, static_cast<Bajt>(10 * ++swiat)));
             strips[std::string(name) + ".TILES.BMP"] = sampleStrip(swiat);
         }
     }
     std::uint32_t pixel(ObrazRef ref, std::size_t i = 0) {
-        const ZnakObraz* obraz = e.zestawy.find(ref);
+        const ZnakObraz *obraz = e.zestawy.find(ref);
         return obraz ? (*obraz)[i] : 1;
     }
 };
@@ -35,7 +37,8 @@ TEST_F(Tiles, EveryCodeShowsItsPartOfTheStrip) {
     for (std::int8_t swiat = 0; swiat < 3; ++swiat)
         for (int code : {0, 1, 63, 128, 191}) {
             const int position = code < 128 ? code : code - 64;
-            EXPECT_EQ(pixel({swiat, znak(code)}, 1023), 0xFF000000U | static_cast<std::uint32_t>((swiat + 1) << 16 | position));
+            EXPECT_EQ(pixel({swiat, znak(code)}, 1023),
+                      0xFF000000U | static_cast<std::uint32_t>((swiat + 1) << 16 | position));
         }
     EXPECT_EQ(e.zestawy.find({0, znak(64)}), nullptr);
     EXPECT_EQ(e.zestawy.find({0, znak(255)}), nullptr);
@@ -76,7 +79,7 @@ TEST_F(Tiles, StripsOfOtherSizes) {
 TEST_F(Tiles, ReloadTakesNewColoursOfTheWorldOnShow) {
     start(); // stage 1 stands in world 1
     e.okno.chkZachowajKolory = true;
-    for (const char* name : {"FNT01", "FNT11"})
+    for (const char *name : {"FNT01", "FNT11"})
         writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".ORN.ND.KOLORY"), {1, 2, 3, 4, 5});
     const Bajt slot3 = e.okno.lblKolor[3].value;
     cmdReload_Click(e);
@@ -126,7 +129,8 @@ TEST_F(Tiles, PaletteDialogWritesTheChosenSlot) {
     e.okno.chkZachowajKolory = true;
     PickKolor(e, 0);
     cmdResetKolory_Click(e);
-    EXPECT_EQ(shown, std::vector<std::string>(2, "Nie można zmienić kolorów ponieważ\nustawiony jest znacznik \"Blokuj kolory\"."));
+    EXPECT_EQ(shown, std::vector<std::string>(
+                         2, "Nie można zmienić kolorów ponieważ\nustawiony jest znacznik \"Blokuj kolory\"."));
     EXPECT_EQ(e.WybranySlot, 11);
     Form_Unload(e);
     EXPECT_FALSE(e.okno.lblKolor[11].wybrana || e.okno.dlgPaleta.otwarte);

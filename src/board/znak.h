@@ -27,9 +27,9 @@ inline constexpr int PLANSZA_CELLS = PLANSZA_COLUMNS * PLANSZA_ROWS;
 
 // The tiles that the editor itself knows by name.
 inline constexpr Znak NIC = znak(0), ZIEMIA = znak(1), PULAPKA = znak(2), MUREK_PIONOWY = znak(5),
-                      MUREK_POZIOMY = znak(6), WYJSCIE = znak(9), DRZWI = znak(10), MASKA = znak(12),
-                      KLUCZ = znak(13), BOMBA = znak(14), PRZEDMIOT = znak(55), MASZYNA = znak(56),
-                      POCHODNIA = znak(57), DORVA = znak(63), DORVA_INV = znak(63 + INV);
+                      MUREK_POZIOMY = znak(6), WYJSCIE = znak(9), DRZWI = znak(10), MASKA = znak(12), KLUCZ = znak(13),
+                      BOMBA = znak(14), PRZEDMIOT = znak(55), MASZYNA = znak(56), POCHODNIA = znak(57),
+                      DORVA = znak(63), DORVA_INV = znak(63 + INV);
 
 // True for the codes that a tile set has a picture of.
 constexpr bool isTile(Znak z) {
