@@ -78,7 +78,7 @@ TEST_F(Pliki, EveryFailedStepLeavesTheOldFileOrTheNew) {
 }
 
 TEST_F(Pliki, StartSweepsLeftovers) {
-    writeFile(base / "ETAPY/DETAP.3.4711.dp-tmp", {1});
+    writeFile(base / "ETAPY/dorva-999999999.dp-tmp", {1});
     start();
     EXPECT_EQ(namesIn("ETAPY").size(), 32U);
 }

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,6 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::string_view TEMPORARY_PREFIX = "dorva-";
 constexpr std::string_view TEMPORARY_SUFFIX = ".dp-tmp";
 constexpr ::mode_t NEW_FILE_MODE = 0666;
 
@@ -110,11 +113,17 @@ void flushFolder(const SystemPlikow &system, const fs::path &folder) {
         (void)system.fsync(file.file());
 }
 
+// A name of our own beside the target, told apart by process.
 fs::path temporaryPath(const fs::path &target) {
-    fs::path path = target;
-    path += "." + std::to_string(::getpid());
-    path += TEMPORARY_SUFFIX;
-    return path;
+    return target.parent_path() /
+           (std::string(TEMPORARY_PREFIX) + std::to_string(::getpid()) + std::string(TEMPORARY_SUFFIX));
+}
+
+// True if the process whose number a temporary file carries is still there.
+bool ownerLives(std::string_view name) {
+    const std::string number(name.substr(TEMPORARY_PREFIX.size()));
+    const long pid = std::strtol(number.c_str(), nullptr, 10);
+    return pid > 0 && pid != ::getpid() && (::kill(static_cast<::pid_t>(pid), 0) == 0 || errno == EPERM);
 }
 
 fs::path folderOf(const fs::path &path) {
@@ -155,7 +164,9 @@ const SystemPlikow SYSTEM_PLIKOW{openFile, ::read, ::write, ::fsync, ::close, ::
 
 std::optional<Bajty> readFirst(const SystemPlikow &system, const fs::path &path, std::size_t count) {
     // O_NONBLOCK: a pipe in place of a file answers at once instead of waiting for a writer.
-    const Otwarty file(system, path, O_RDONLY | O_CREAT | O_NONBLOCK);
+    const Otwarty file(system, path, O_RDONLY | O_NONBLOCK);
+    if (!file.ok() && errno == ENOENT)
+        const Otwarty created(system, path, O_WRONLY | O_CREAT);
     if (!file.ok() || !file.isRegular())
         return std::nullopt;
     Bajty bytes(count);
@@ -229,7 +240,8 @@ std::vector<std::string> listNames(const fs::path &folder, std::string_view suff
 
 void sweepTemporary(const SystemPlikow &system, const fs::path &folder) {
     for (const std::string &name : listNames(folder, TEMPORARY_SUFFIX))
-        system.unlink((folder / name).c_str());
+        if (name.starts_with(TEMPORARY_PREFIX) && !ownerLives(name))
+            system.unlink((folder / name).c_str());
 }
 
 } // namespace dorva
