@@ -34,7 +34,7 @@ TEST_F(Pliki, ReadNeverHangsAndCreatesTheMissing) {
     EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, "/dev/zero", 1));
     EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, root, 1));
     EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, root / "nowy", 1));
-    EXPECT_EQ(lengthOf(root / "nowy"), 0U);
+    EXPECT_EQ(lengthOf(SYSTEM_PLIKOW, root / "nowy"), 0U);
 }
 
 int failAt = 0, steps = 0;

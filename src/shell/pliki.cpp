@@ -34,7 +34,7 @@ public:
     [[nodiscard]] int file() const { return file_; }
     [[nodiscard]] bool isRegular() const {
         struct ::stat info {};
-        return ::fstat(file_, &info) == 0 && S_ISREG(info.st_mode);
+        return system_.fstat(file_, &info) == 0 && S_ISREG(info.st_mode);
     }
     [[nodiscard]] bool closeNow() {
         const int file = file_;
@@ -89,7 +89,7 @@ std::optional<fs::path> resolved(fs::path path) {
 // also replace read-only files, devices and directories.
 bool acceptsWriting(const SystemPlikow &system, const fs::path &path, ::mode_t &mode) {
     struct ::stat info {};
-    if (::stat(path.c_str(), &info) != 0)
+    if (system.stat(path.c_str(), &info) != 0)
         return errno == ENOENT;
     mode = info.st_mode & 07777;
     return S_ISREG(info.st_mode) && Otwarty(system, path, O_WRONLY).ok();
@@ -100,7 +100,7 @@ bool writeTemporary(const SystemPlikow &system, const fs::path &path, std::span<
     Otwarty file(system, path, O_WRONLY | O_CREAT | O_EXCL);
     if (!file.ok())
         return false;
-    if (mode && ::fchmod(file.file(), *mode) != 0)
+    if (mode && system.fchmod(file.file(), *mode) != 0)
         return false;
     return writeAll(system, file.file(), bytes) && system.fsync(file.file()) == 0 && file.closeNow();
 }
@@ -146,7 +146,7 @@ std::optional<fs::path> freeKopia(const fs::path &path) {
 bool keepAs(const SystemPlikow &system, const fs::path &old, const fs::path &kopia) {
     if (system.link(old.c_str(), kopia.c_str()) == 0)
         return true;
-    const auto length = lengthOf(old);
+    const auto length = lengthOf(system, old);
     constexpr std::uintmax_t COPY_MAX_BYTES = 64U << 20U;
     if (!length || *length > COPY_MAX_BYTES)
         return false;
@@ -160,7 +160,8 @@ int openFile(const char *path, int flags, ::mode_t mode) {
 
 } // namespace
 
-const SystemPlikow SYSTEM_PLIKOW{openFile, ::read, ::write, ::fsync, ::close, ::rename, ::link, ::unlink};
+const SystemPlikow SYSTEM_PLIKOW{openFile, ::read,   ::write, ::fsync, ::close, ::rename,
+                                 ::link,   ::unlink, ::stat,  ::fstat, ::fchmod};
 
 std::optional<Bajty> readFirst(const SystemPlikow &system, const fs::path &path, std::size_t count) {
     // O_NONBLOCK: a pipe in place of a file answers at once instead of waiting for a writer.
@@ -175,17 +176,16 @@ std::optional<Bajty> readFirst(const SystemPlikow &system, const fs::path &path,
     return bytes;
 }
 
-std::optional<std::uintmax_t> lengthOf(const fs::path &path) {
-    std::error_code error;
-    if (!fs::is_regular_file(path, error))
+std::optional<std::uintmax_t> lengthOf(const SystemPlikow &system, const fs::path &path) {
+    struct ::stat info {};
+    if (system.stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode))
         return std::nullopt;
-    const std::uintmax_t length = fs::file_size(path, error);
-    return error ? std::nullopt : std::optional(length);
+    return static_cast<std::uintmax_t>(info.st_size);
 }
 
-bool fileExists(const fs::path &path) {
-    std::error_code error;
-    return fs::exists(path, error);
+bool fileExists(const SystemPlikow &system, const fs::path &path) {
+    struct ::stat info {};
+    return system.stat(path.c_str(), &info) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
 bool writeWhole(const SystemPlikow &system, const fs::path &path, std::span<const Bajt> bytes) {
@@ -208,7 +208,7 @@ bool writeWhole(const SystemPlikow &system, const fs::path &path, std::span<cons
 }
 
 bool writeKeepingOld(const SystemPlikow &system, const fs::path &path, std::span<const Bajt> bytes) {
-    const auto length = lengthOf(path);
+    const auto length = lengthOf(system, path);
     if (!length || *length == 0)
         return writeWhole(system, path, bytes);
     if (*length == bytes.size()) {

@@ -33,7 +33,7 @@ void loadColours(Edytor &e) {
 
 // A file of another length than 60 first blanks the boxes; what is there of whole lines is then read.
 bool readAutorGry(Edytor &e) {
-    const auto length = lengthOf(autorGryPath(e));
+    const auto length = lengthOf(e.system, autorGryPath(e));
     if (!length)
         return false;
     if (*length != AUTOR_GRY_SIZE_BYTES)

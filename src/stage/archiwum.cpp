@@ -25,7 +25,7 @@ Bajty assemble(const Bajty &autorGry, const std::array<Bajty, ETAPY_COUNT> &etap
 bool writeEtap(Edytor &e, int number, std::span<const Bajt> image) {
     const auto path = etapPath(e, number);
     const bool lost = number == e.NumerEtapu && !e.etapPrzejety;
-    const auto length = lengthOf(path);
+    const auto length = lengthOf(e.system, path);
     if (lost || (length && *length != ETAP_SIZE_BYTES))
         return writeKeepingOld(e.system, path, image);
     return writeWhole(e.system, path, image);
@@ -57,7 +57,7 @@ void cmdLoadArch_Click(Edytor &e) {
     const auto path = e.haki.openDialog({"", e.OstatniaSciezka, FILTR_ODCZYTU});
     if (!path)
         return;
-    const auto length = lengthOf(*path);
+    const auto length = lengthOf(e.system, *path);
     if (!length)
         return;
     if (*length != ARCHIWUM_SIZE_BYTES) {

@@ -63,7 +63,7 @@ void cmdLoad_Click(Edytor &e) {
     if (!path)
         return;
     e.OstatniaSciezka = *path;
-    const auto length = lengthOf(*path);
+    const auto length = lengthOf(e.system, *path);
     if (!length)
         return;
     if (*length != ETAP_SIZE_BYTES) {
@@ -150,7 +150,7 @@ bool readEtap(Edytor &e, int number) {
     e.obrazEtapu = std::move(*image);
     if (!UnpackEtap(e))
         return false;
-    e.etapPrzejety = lengthOf(etapPath(e, number)) == ETAP_SIZE_BYTES;
+    e.etapPrzejety = lengthOf(e.system, etapPath(e, number)) == ETAP_SIZE_BYTES;
     return true;
 }
 
@@ -169,7 +169,7 @@ std::optional<std::filesystem::path> askSavePath(Edytor &e, const DialogPliku &d
     auto path = e.haki.saveDialog(dialog);
     if (!path)
         return std::nullopt;
-    if (fileExists(*path) && !e.haki.messageBox(komunikaty::ZASTAPIC))
+    if (fileExists(e.system, *path) && !e.haki.messageBox(komunikaty::ZASTAPIC))
         return std::nullopt;
     e.OstatniaSciezka = *path;
     return path;

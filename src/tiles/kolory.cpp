@@ -15,7 +15,7 @@ constexpr std::array<std::string_view, SWIATY_COUNT> PLIKI_KOLOROW{"OBIEKTY/ORN_
 // The start of an optional file; it is not created where it is missing.
 std::optional<Bajty> readOptional(const Edytor &e, std::string_view name, std::size_t count) {
     const auto path = e.KatalogBazowy / name;
-    return fileExists(path) ? readFirst(e.system, path, count) : std::nullopt;
+    return fileExists(e.system, path) ? readFirst(e.system, path, count) : std::nullopt;
 }
 
 } // namespace
