@@ -18,14 +18,14 @@ namespace dorva::test {
 
 namespace fs = std::filesystem;
 
-inline Bajty readFile(const fs::path &path) {
+inline Bajty readFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-inline void writeFile(const fs::path &path, const Bajty &bytes) {
+inline void writeFile(const fs::path& path, const Bajty& bytes) {
     std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
 }
 
 inline Tekst ascii(std::string_view text) {
@@ -60,13 +60,13 @@ protected:
         std::string pattern = (fs::temp_directory_path() / "dorva-XXXXXX").string();
         root = ::mkdtemp(pattern.data());
         base = root / "praca";
-        for (const char *folder : {"ETAPY", "PLIKI", "OBIEKTY/ORN_EXPORT"})
+        for (const char* folder : {"ETAPY", "PLIKI", "OBIEKTY/ORN_EXPORT"})
             fs::create_directories(base / folder);
         for (int number = 1; number <= ETAPY_COUNT; ++number)
             writeFile(etap(number), sampleEtap(number));
         writeFile(base / "PLIKI/DP1.DTA", Bajty(60, 'X'));
         writeFile(base / "PLIKI/DP2.DTA", sampleSzablon());
-        for (const char *name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"})
+        for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"})
             writeFile(base / "OBIEKTY/ORN_EXPORT" / name, {});
         attach(e);
     }
@@ -78,20 +78,20 @@ protected:
         fs::remove_all(root, error);
     }
 
-    void attach(Edytor &edytor) {
-        edytor.haki.messageBox = [this](const Komunikat &k) {
+    void attach(Edytor& edytor) {
+        edytor.haki.messageBox = [this](const Komunikat& k) {
             shown.emplace_back(k.text);
             const bool answer = answers.empty() || answers.front();
             if (!answers.empty())
                 answers.pop_front();
             return answer;
         };
-        edytor.haki.openDialog = edytor.haki.saveDialog = [this](const DialogPliku &d) -> std::optional<fs::path> {
+        edytor.haki.openDialog = edytor.haki.saveDialog = [this](const DialogPliku& d) -> std::optional<fs::path> {
             dialogs.push_back(d);
             return chosen;
         };
-        edytor.haki.startProgram = [this](const fs::path &p, OknoProgramu) { started.push_back(p); };
-        edytor.haki.loadPicture = [this](const fs::path &p, int, int) -> std::optional<Bitmapa> {
+        edytor.haki.startProgram = [this](const fs::path& p, OknoProgramu) { started.push_back(p); };
+        edytor.haki.loadPicture = [this](const fs::path& p, int, int) -> std::optional<Bitmapa> {
             const auto found = strips.find(p.filename().string());
             return found == strips.end() ? std::nullopt : std::optional(found->second);
         };
@@ -99,8 +99,8 @@ protected:
 
     void start() { Form_Load(e, base, "1.0.2"); }
     [[nodiscard]] fs::path etap(int number) const { return base / "ETAPY" / ("DETAP." + std::to_string(number)); }
-    Znak &cell(int row, int column) { return e.okno.imgPG[static_cast<std::size_t>(row * 40 + column)].znak; }
-    [[nodiscard]] std::vector<std::string> namesIn(const char *folder) const { return listNames(base / folder, ""); }
+    Znak& cell(int row, int column) { return e.okno.imgPG[static_cast<std::size_t>(row * 40 + column)].znak; }
+    [[nodiscard]] std::vector<std::string> namesIn(const char* folder) const { return listNames(base / folder, ""); }
 
     fs::path root, base;
     Edytor e;

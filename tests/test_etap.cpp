@@ -11,12 +11,12 @@ TEST_F(Etap, UnpackThenPackGivesTheSameBytes) {
     std::mt19937 random(1);
     for (int round = 0; round < 200; ++round) {
         Bajty image(ETAP_SIZE_BYTES);
-        for (Bajt &b : image)
+        for (Bajt& b : image)
             b = static_cast<Bajt>(random());
         std::fill_n(image.begin(), 16, Bajt{0});
         std::fill_n(image.begin() + 28, 4, Bajt{0});
         for (int i = 0; i < PLANSZA_CELLS; ++i) {
-            Bajt &b = image[uklad::PLANSZA + static_cast<std::size_t>(i)];
+            Bajt& b = image[uklad::PLANSZA + static_cast<std::size_t>(i)];
             if (isEdge(i))
                 b = std::array<Bajt, 3>{0, 5, 6}[b % 3];
             else if (b == 191)

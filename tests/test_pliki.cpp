@@ -22,7 +22,7 @@ TEST_F(Pliki, WriteRefusesWhatCouldNotBeOpened) {
     fs::create_directory(root / "katalog");
     ASSERT_EQ(::mkfifo((root / "potok").c_str(), 0600), 0);
     fs::create_symlink("petla", root / "petla");
-    for (const char *name : {"katalog", "potok", "petla", "brak/plik"})
+    for (const char* name : {"katalog", "potok", "petla", "brak/plik"})
         EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, root / name, Bajty{1})) << name;
     EXPECT_EQ(listNames(root, "").size(), 4U) << "no temporary file is left";
     EXPECT_TRUE(fs::is_fifo(root / "potok"));
@@ -47,17 +47,17 @@ template <auto Real, class... Args> auto failing(Args... args) {
     return (*Real)(args...);
 }
 
-int failingOpen(const char *path, int flags, ::mode_t mode) {
+int failingOpen(const char* path, int flags, ::mode_t mode) {
     return ++steps == failAt ? -1 : SYSTEM_PLIKOW.open(path, flags, mode);
 }
 
 TEST_F(Pliki, EveryFailedStepLeavesTheOldFileOrTheNew) {
     SystemPlikow system = SYSTEM_PLIKOW;
     system.open = failingOpen;
-    system.write = [](int f, const void *b, std::size_t n) { return failing<::write>(f, b, n); };
+    system.write = [](int f, const void* b, std::size_t n) { return failing<::write>(f, b, n); };
     system.fsync = [](int f) { return failing<::fsync>(f); };
-    system.rename = [](const char *a, const char *b) { return failing<::rename>(a, b); };
-    system.link = [](const char *a, const char *b) { return failing<::link>(a, b); };
+    system.rename = [](const char* a, const char* b) { return failing<::rename>(a, b); };
+    system.link = [](const char* a, const char* b) { return failing<::link>(a, b); };
     const auto folder = root / "f";
     fs::create_directory(folder);
     int failures = 0;

@@ -36,11 +36,11 @@ TEST_F(Start, DefaultStateHoldsWithoutStageOne) {
 
 TEST_F(Start, TooFewTileSetNamesEndStartUpButLoseNothing) {
     for (int names : {0, 1, 2, 3, 4}) {
-        for (const std::string &name : namesIn("OBIEKTY/ORN_EXPORT"))
+        for (const std::string& name : namesIn("OBIEKTY/ORN_EXPORT"))
             fs::remove(base / "OBIEKTY/ORN_EXPORT" / name);
         for (int i = 0; i < names; ++i)
             writeFile(base / "OBIEKTY/ORN_EXPORT" / ("F" + std::to_string(i) + ".ND"), {});
-        for (const std::string &name : namesIn("ETAPY"))
+        for (const std::string& name : namesIn("ETAPY"))
             if (name.find("kopia") != std::string::npos)
                 fs::remove(base / "ETAPY" / name);
         writeFile(etap(1), sampleEtap(1));

@@ -20,14 +20,14 @@ protected:
     void SetUp() override {
         Pulpit::SetUp();
         std::uint32_t swiat = 0;
-        for (const char *name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"}) {
+        for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"}) {
             writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".KOLORY"),
                       Bajty(7, static_cast<Bajt>(10 * ++swiat)));
             strips[std::string(name) + ".TILES.BMP"] = sampleStrip(swiat);
         }
     }
     std::uint32_t pixel(ObrazRef ref, std::size_t i = 0) {
-        const ZnakObraz *obraz = e.zestawy.find(ref);
+        const ZnakObraz* obraz = e.zestawy.find(ref);
         return obraz ? (*obraz)[i] : 1;
     }
 };
@@ -79,7 +79,7 @@ TEST_F(Tiles, StripsOfOtherSizes) {
 TEST_F(Tiles, ReloadTakesNewColoursOfTheWorldOnShow) {
     start(); // stage 1 stands in world 1
     e.okno.chkZachowajKolory = true;
-    for (const char *name : {"FNT01", "FNT11"})
+    for (const char* name : {"FNT01", "FNT11"})
         writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".ORN.ND.KOLORY"), {1, 2, 3, 4, 5});
     const Bajt slot3 = e.okno.lblKolor[3].value;
     cmdReload_Click(e);

@@ -4,7 +4,7 @@
 
 namespace dorva {
 
-void SetBufor(Edytor &e, const ZnakPole &pole) {
+void SetBufor(Edytor& e, const ZnakPole& pole) {
     e.okno.imgBufor = pole;
     char hex[8];
     std::snprintf(hex, sizeof hex, "$%X", static_cast<unsigned>(kod(pole.znak)));

@@ -10,20 +10,20 @@ namespace {
 // How often each pair of codes (STD and INV together) stands on the board.
 using Liczby = std::array<int, ZNAKI_COUNT>;
 
-Liczby countBoard(const std::array<ZnakPole, PLANSZA_CELLS> &plansza) {
+Liczby countBoard(const std::array<ZnakPole, PLANSZA_CELLS>& plansza) {
     // Four tables in turn: long runs of one code would otherwise wait for each other's increments.
     constexpr std::size_t TABLES = 4;
     std::array<std::array<std::uint16_t, 256>, TABLES> byCode{};
     for (std::size_t i = 0; i < plansza.size(); ++i)
         ++byCode[i % TABLES][static_cast<std::size_t>(plansza[i].znak)];
     Liczby liczby{};
-    for (const auto &table : byCode)
+    for (const auto& table : byCode)
         for (std::size_t i = 0; i < liczby.size(); ++i)
             liczby[i] += table[i] + table[i + INV];
     return liczby;
 }
 
-int count(const Liczby &liczby, Znak z) {
+int count(const Liczby& liczby, Znak z) {
     return liczby[static_cast<std::size_t>(z)];
 }
 
@@ -40,16 +40,16 @@ constexpr std::array<Licznik, 7> LICZNIKI{
 // Tiles that the picker offers only while none stands on the board, in the order of their guard.
 constexpr std::array UNIKATY{MASZYNA, DORVA, WYJSCIE, POCHODNIA};
 
-int figure(const Okno &okno, std::size_t label) {
+int figure(const Okno& okno, std::size_t label) {
     return std::stoi(okno.lblInfo[label].caption);
 }
 
-void colourMaski(Okno &okno) {
+void colourMaski(Okno& okno) {
     const bool broken = figure(okno, F_MASKI) < figure(okno, F_CEL);
     okno.lblInfo[F_MASKI].czerwony = okno.lblInfo[F_CEL].czerwony = broken;
 }
 
-void showFigures(Okno &okno, const Liczby &liczby) {
+void showFigures(Okno& okno, const Liczby& liczby) {
     okno.lblInfo[F_DORVA].caption = count(liczby, DORVA) > 0 ? "ok" : "!";
     okno.lblInfo[F_WYJSCIE].caption = count(liczby, WYJSCIE) > 0 ? "ok" : "!";
     for (auto [label, tile] : LICZNIKI)
@@ -57,7 +57,7 @@ void showFigures(Okno &okno, const Liczby &liczby) {
     okno.lblInfo[F_POCHODNIA].caption = count(liczby, POCHODNIA) > 0 ? "1" : "0";
 }
 
-void colourFigures(Okno &okno, const Liczby &liczby) {
+void colourFigures(Okno& okno, const Liczby& liczby) {
     okno.lblInfo[F_DORVA].czerwony = count(liczby, DORVA) == 0;
     okno.lblInfo[F_WYJSCIE].czerwony = count(liczby, WYJSCIE) == 0;
     colourMaski(okno);
@@ -66,7 +66,7 @@ void colourFigures(Okno &okno, const Liczby &liczby) {
     okno.lblInfo[F_PRZEDMIOTY].czerwony = count(liczby, PRZEDMIOT) % 2 != 0;
 }
 
-void guardUnikaty(Edytor &e, const Liczby &liczby) {
+void guardUnikaty(Edytor& e, const Liczby& liczby) {
     for (Znak unikat : UNIKATY) {
         const bool stands = count(liczby, unikat) > 0;
         e.okno.imgZnak[static_cast<std::size_t>(unikat)].enabled = !stands;
@@ -77,14 +77,14 @@ void guardUnikaty(Edytor &e, const Liczby &liczby) {
 
 } // namespace
 
-void RefreshInfo(Edytor &e) {
+void RefreshInfo(Edytor& e) {
     const Liczby liczby = countBoard(e.okno.imgPG);
     showFigures(e.okno, liczby);
     colourFigures(e.okno, liczby);
     guardUnikaty(e, liczby);
 }
 
-bool SetMonet(Edytor &e, int value) {
+bool SetMonet(Edytor& e, int value) {
     if (value < CEL_MIN || value > CEL_MAX)
         return false;
     if (value == e.okno.hscMonet)
@@ -94,12 +94,12 @@ bool SetMonet(Edytor &e, int value) {
     return true;
 }
 
-void hscMonet_Change(Edytor &e) {
+void hscMonet_Change(Edytor& e) {
     e.okno.lblInfo[F_CEL].caption = std::to_string(e.okno.hscMonet);
     colourMaski(e.okno);
 }
 
-void lblInfo_Click(Edytor &e, int index) {
+void lblInfo_Click(Edytor& e, int index) {
     if (index != F_MASKI && index != F_CEL)
         return;
     const int cel = std::clamp(figure(e.okno, F_MASKI), CEL_MIN, CEL_MAX);

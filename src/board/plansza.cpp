@@ -9,18 +9,18 @@ namespace {
 constexpr int PIPETA = 0;
 
 // The eraser's tile, earth under STD, is whatever the picker's slot 1 holds.
-const ZnakSlot &slotZiemi(const Okno &okno) {
+const ZnakSlot& slotZiemi(const Okno& okno) {
     return okno.imgZnak[static_cast<std::size_t>(kod(ZIEMIA))];
 }
 
-ZnakPole &cellOf(Okno &okno, int index) {
+ZnakPole& cellOf(Okno& okno, int index) {
     return okno.imgPG[static_cast<std::size_t>(index)];
 }
 
 } // namespace
 
-void imgPG_MouseDown(Edytor &e, int index, int button) {
-    Okno &okno = e.okno;
+void imgPG_MouseDown(Edytor& e, int index, int button) {
+    Okno& okno = e.okno;
     e.lastCell = index;
     if (button == LEWY)
         cellOf(okno, index) = okno.imgBufor;
@@ -31,7 +31,7 @@ void imgPG_MouseDown(Edytor &e, int index, int button) {
     RefreshInfo(e);
 }
 
-void imgPG_MouseMove(Edytor &e, int index, int button) {
+void imgPG_MouseMove(Edytor& e, int index, int button) {
     if (index == e.lastCell)
         return;
     e.lastCell = index;
@@ -42,23 +42,23 @@ void imgPG_MouseMove(Edytor &e, int index, int button) {
     e.okno.obrys = index;
 }
 
-void imgZnak_Click(Edytor &e, int index) {
-    const ZnakSlot &slot = e.okno.imgZnak[static_cast<std::size_t>(index)];
+void imgZnak_Click(Edytor& e, int index) {
+    const ZnakSlot& slot = e.okno.imgZnak[static_cast<std::size_t>(index)];
     if (slot.enabled)
         SetBufor(e, slot);
 }
 
-void SelectNN(Edytor &e, int index) {
+void SelectNN(Edytor& e, int index) {
     if (index == e.okno.optNN)
         return;
     e.okno.optNN = index;
     optNN_Click(e, index);
 }
 
-void optNN_Click(Edytor &e, int index) {
+void optNN_Click(Edytor& e, int index) {
     const auto swiat = static_cast<std::int8_t>(e.okno.optObiektyNR);
     for (int i = 0; i < ZNAKI_COUNT; ++i) {
-        ZnakSlot &slot = e.okno.imgZnak[static_cast<std::size_t>(i)];
+        ZnakSlot& slot = e.okno.imgZnak[static_cast<std::size_t>(i)];
         slot.znak = znak(index * INV + i);
         slot.obraz = {swiat, slot.znak};
     }

@@ -8,12 +8,12 @@ namespace dorva {
 // Mouse buttons as the events tell them; several held at once are added up.
 inline constexpr int LEWY = 1, PRAWY = 2, SRODKOWY = 4;
 
-void imgPG_MouseDown(Edytor &, int index, int button);
-void imgPG_MouseMove(Edytor &, int index, int button);
-void imgZnak_Click(Edytor &, int index);
+void imgPG_MouseDown(Edytor&, int index, int button);
+void imgPG_MouseMove(Edytor&, int index, int button);
+void imgZnak_Click(Edytor&, int index);
 
 // Selects STD (0) or INV (1) and runs its click if that is a change.
-void SelectNN(Edytor &, int index);
-void optNN_Click(Edytor &, int index);
+void SelectNN(Edytor&, int index);
+void optNN_Click(Edytor&, int index);
 
 } // namespace dorva

@@ -2,11 +2,11 @@
 
 namespace dorva {
 
-void RunEmulator(Edytor &e) {
+void RunEmulator(Edytor& e) {
     e.haki.startProgram(e.KatalogBazowy / "PLIKI" / "DP3.BAT", OknoProgramu::Hidden);
 }
 
-void cmdORN_Click(Edytor &e) {
+void cmdORN_Click(Edytor& e) {
     e.haki.startProgram(e.KatalogBazowy / "OBIEKTY" / "ORN.exe", OknoProgramu::Normal);
 }
 

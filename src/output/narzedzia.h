@@ -6,9 +6,9 @@
 namespace dorva {
 
 // Starts the emulator launcher, hidden; nothing waits for it.
-void RunEmulator(Edytor &);
+void RunEmulator(Edytor&);
 
 // Starts the companion tile editor.
-void cmdORN_Click(Edytor &);
+void cmdORN_Click(Edytor&);
 
 } // namespace dorva

@@ -12,16 +12,16 @@ constexpr std::string_view FILTR_GRY = "Plik gry|*.xex|Wszystkie pliki (*.*)|*.*
 constexpr std::string_view NAZWA_GRY = "Dorva - wyprawy.xex";
 constexpr std::string_view LINIA_TESTU = "     TEST ETAPU     ";
 
-std::optional<Bajty> readSzablon(Edytor &e) {
+std::optional<Bajty> readSzablon(Edytor& e) {
     return readFirst(e.system, e.KatalogBazowy / "PLIKI" / "DP2.DTA", GRA_SIZE_BYTES);
 }
 
-bool writeTestXex(Edytor &e, const Bajty &obraz) {
+bool writeTestXex(Edytor& e, const Bajty& obraz) {
     return writeWhole(e.system, e.KatalogBazowy / "PLIKI" / "TEST.XEX", obraz);
 }
 
 // The launcher names its files relative to the base folder.
-void offerRun(Edytor &e, const Komunikat &question) {
+void offerRun(Edytor& e, const Komunikat& question) {
     std::error_code error;
     std::filesystem::current_path(e.KatalogBazowy, error);
     if (!error && e.haki.messageBox(question))
@@ -30,7 +30,7 @@ void offerRun(Edytor &e, const Komunikat &question) {
 
 } // namespace
 
-void cmdCreate_Click(Edytor &e) {
+void cmdCreate_Click(Edytor& e) {
     PackEtap(e);
     if (!writeBiezacyEtap(e))
         return;
@@ -55,7 +55,7 @@ void cmdCreate_Click(Edytor &e) {
     offerRun(e, komunikaty::GRA_UTWORZONA);
 }
 
-void cmdTest_Click(Edytor &e) {
+void cmdTest_Click(Edytor& e) {
     const Bajt ostatni = e.okno.chkOstatni;
     e.okno.chkOstatni = 1;
     PackEtap(e);

@@ -5,7 +5,7 @@
 
 namespace dorva {
 
-void cmdCreate_Click(Edytor &);
-void cmdTest_Click(Edytor &);
+void cmdCreate_Click(Edytor&);
+void cmdTest_Click(Edytor&);
 
 } // namespace dorva

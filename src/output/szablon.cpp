@@ -4,7 +4,7 @@
 
 namespace dorva {
 
-Bajty BuildLiniaTytulu(const Tekst &tekst) {
+Bajty BuildLiniaTytulu(const Tekst& tekst) {
     constexpr std::size_t FIRST_COLUMN = 2;
     constexpr Bajt KONIEC_LINII = 155; // ATASCII end of line
     const Bajty zapis = EncodeTekst(trimmed(tekst));
@@ -15,7 +15,7 @@ Bajty BuildLiniaTytulu(const Tekst &tekst) {
     return linia;
 }
 
-void splice(Bajty &obraz, std::size_t offset, std::size_t length, std::span<const Bajt> bytes) {
+void splice(Bajty& obraz, std::size_t offset, std::size_t length, std::span<const Bajt> bytes) {
     const auto first = obraz.begin() + static_cast<std::ptrdiff_t>(offset);
     if (bytes.size() == length) {
         std::copy(bytes.begin(), bytes.end(), first);
@@ -25,9 +25,9 @@ void splice(Bajty &obraz, std::size_t offset, std::size_t length, std::span<cons
     obraz.insert(gap, bytes.begin(), bytes.end());
 }
 
-void spliceTytul(Bajty &obraz, const std::array<Tekst, 3> &linie) {
+void spliceTytul(Bajty& obraz, const std::array<Tekst, 3>& linie) {
     Bajty rekordy;
-    for (const Tekst &linia : linie) {
+    for (const Tekst& linia : linie) {
         const Bajty rekord = BuildLiniaTytulu(linia);
         rekordy.insert(rekordy.end(), rekord.begin(), rekord.end());
     }

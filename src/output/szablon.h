@@ -22,13 +22,13 @@ static_assert(rekordOffset(15) + ETAP_SIZE_BYTES == 44680);
 static_assert(rekordOffset(16) == 44689 && rekordOffset(31) + ETAP_SIZE_BYTES == 59645);
 
 // A title line of the game: start column, stored text, filled up with the end-of-line code 155.
-Bajty BuildLiniaTytulu(const Tekst &);
+Bajty BuildLiniaTytulu(const Tekst&);
 
 // Lays `bytes` over `obraz` at `offset`. Bytes that do not fit exactly make the image longer, as an
 // insertion in place of `length` bytes would.
-void splice(Bajty &obraz, std::size_t offset, std::size_t length, std::span<const Bajt> bytes);
+void splice(Bajty& obraz, std::size_t offset, std::size_t length, std::span<const Bajt> bytes);
 
 // Lays the three title lines over a game image.
-void spliceTytul(Bajty &obraz, const std::array<Tekst, 3> &linie);
+void spliceTytul(Bajty& obraz, const std::array<Tekst, 3>& linie);
 
 } // namespace dorva

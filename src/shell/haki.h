@@ -32,14 +32,14 @@ enum class OknoProgramu { Hidden, Normal };
 
 struct Haki {
     // True for OK and Yes, false for Cancel and No.
-    std::function<bool(const Komunikat &)> messageBox;
+    std::function<bool(const Komunikat&)> messageBox;
     // Nothing where the user cancelled.
-    std::function<std::optional<std::filesystem::path>(const DialogPliku &)> openDialog;
-    std::function<std::optional<std::filesystem::path>(const DialogPliku &)> saveDialog;
+    std::function<std::optional<std::filesystem::path>(const DialogPliku&)> openDialog;
+    std::function<std::optional<std::filesystem::path>(const DialogPliku&)> saveDialog;
     // Starts a program with its full path and no arguments and returns at once.
-    std::function<void(const std::filesystem::path &, OknoProgramu)> startProgram;
+    std::function<void(const std::filesystem::path&, OknoProgramu)> startProgram;
     // Loads a Windows bitmap; only its top left `width` x `height` pixels are wanted.
-    std::function<std::optional<Bitmapa>(const std::filesystem::path &, int width, int height)> loadPicture;
+    std::function<std::optional<Bitmapa>(const std::filesystem::path&, int width, int height)> loadPicture;
 };
 
 namespace komunikaty {

@@ -9,7 +9,7 @@ Okno defaultOkno() {
         okno.imgPG[static_cast<std::size_t>(i)] = {z, {ObrazRef::DOMYSLNY, z}};
     }
     for (int i = 0; i < ZNAKI_COUNT; ++i) {
-        ZnakSlot &slot = okno.imgZnak[static_cast<std::size_t>(i)];
+        ZnakSlot& slot = okno.imgZnak[static_cast<std::size_t>(i)];
         slot.znak = znak(i);
         slot.obraz = {ObrazRef::DOMYSLNY, znak(i)};
         slot.enabled = false;

@@ -16,7 +16,7 @@ namespace dorva {
 struct ZnakPole {
     Znak znak = NIC;
     ObrazRef obraz{};
-    bool operator==(const ZnakPole &) const = default;
+    bool operator==(const ZnakPole&) const = default;
 };
 
 // A slot of the tile picker.
@@ -28,7 +28,7 @@ struct ZnakSlot : ZnakPole {
 struct InfoPole {
     std::string caption = "0";
     bool czerwony = false;
-    bool operator==(const InfoPole &) const = default;
+    bool operator==(const InfoPole&) const = default;
 };
 
 // A text box of fixed width. `zaznaczenia` counts the requests to select the whole text.
@@ -43,7 +43,7 @@ struct Probka {
     Bajt value = 0;
     Rgb tlo{};
     bool wybrana = false; // its text is light red instead of white
-    bool operator==(const Probka &) const = default;
+    bool operator==(const Probka&) const = default;
 };
 
 // The palette dialog: 128 cells of the even colour values, and the preview.

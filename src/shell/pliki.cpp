@@ -21,14 +21,14 @@ constexpr ::mode_t NEW_FILE_MODE = 0666;
 // An open file that is closed when its scope ends.
 class Otwarty {
 public:
-    Otwarty(const SystemPlikow &system, const fs::path &path, int flags, ::mode_t mode = NEW_FILE_MODE)
+    Otwarty(const SystemPlikow& system, const fs::path& path, int flags, ::mode_t mode = NEW_FILE_MODE)
         : system_(system), file_(system.open(path.c_str(), flags | O_CLOEXEC, mode)) {}
     ~Otwarty() {
         if (file_ >= 0)
             system_.close(file_);
     }
-    Otwarty(const Otwarty &) = delete;
-    Otwarty &operator=(const Otwarty &) = delete;
+    Otwarty(const Otwarty&) = delete;
+    Otwarty& operator=(const Otwarty&) = delete;
 
     [[nodiscard]] bool ok() const { return file_ >= 0; }
     [[nodiscard]] int file() const { return file_; }
@@ -43,11 +43,11 @@ public:
     }
 
 private:
-    const SystemPlikow &system_;
+    const SystemPlikow& system_;
     int file_;
 };
 
-bool readAll(const SystemPlikow &system, int file, std::span<Bajt> bytes) {
+bool readAll(const SystemPlikow& system, int file, std::span<Bajt> bytes) {
     while (!bytes.empty()) {
         const ::ssize_t count = system.read(file, bytes.data(), bytes.size());
         if (count < 0 && errno == EINTR)
@@ -59,7 +59,7 @@ bool readAll(const SystemPlikow &system, int file, std::span<Bajt> bytes) {
     return true;
 }
 
-bool writeAll(const SystemPlikow &system, int file, std::span<const Bajt> bytes) {
+bool writeAll(const SystemPlikow& system, int file, std::span<const Bajt> bytes) {
     while (!bytes.empty()) {
         const ::ssize_t count = system.write(file, bytes.data(), bytes.size());
         if (count < 0 && errno == EINTR)
@@ -87,7 +87,7 @@ std::optional<fs::path> resolved(fs::path path) {
 
 // True if an ordinary open for writing would accept the file, or if there is none. A rename alone would
 // also replace read-only files, devices and directories.
-bool acceptsWriting(const SystemPlikow &system, const fs::path &path, ::mode_t &mode) {
+bool acceptsWriting(const SystemPlikow& system, const fs::path& path, ::mode_t& mode) {
     struct ::stat info {};
     if (system.stat(path.c_str(), &info) != 0)
         return errno == ENOENT;
@@ -95,7 +95,7 @@ bool acceptsWriting(const SystemPlikow &system, const fs::path &path, ::mode_t &
     return S_ISREG(info.st_mode) && Otwarty(system, path, O_WRONLY).ok();
 }
 
-bool writeTemporary(const SystemPlikow &system, const fs::path &path, std::span<const Bajt> bytes,
+bool writeTemporary(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes,
                     std::optional<::mode_t> mode) {
     Otwarty file(system, path, O_WRONLY | O_CREAT | O_EXCL);
     if (!file.ok())
@@ -107,14 +107,14 @@ bool writeTemporary(const SystemPlikow &system, const fs::path &path, std::span<
 
 // Makes the rename itself outlive a power cut. The file is in place already, so a failure is no failure
 // of the write.
-void flushFolder(const SystemPlikow &system, const fs::path &folder) {
+void flushFolder(const SystemPlikow& system, const fs::path& folder) {
     const Otwarty file(system, folder, O_RDONLY | O_DIRECTORY);
     if (file.ok())
         (void)system.fsync(file.file());
 }
 
 // A name of our own beside the target, told apart by process.
-fs::path temporaryPath(const fs::path &target) {
+fs::path temporaryPath(const fs::path& target) {
     return target.parent_path() /
            (std::string(TEMPORARY_PREFIX) + std::to_string(::getpid()) + std::string(TEMPORARY_SUFFIX));
 }
@@ -126,12 +126,12 @@ bool ownerLives(std::string_view name) {
     return pid > 0 && pid != ::getpid() && (::kill(static_cast<::pid_t>(pid), 0) == 0 || errno == EPERM);
 }
 
-fs::path folderOf(const fs::path &path) {
+fs::path folderOf(const fs::path& path) {
     return path.has_parent_path() ? path.parent_path() : fs::path(".");
 }
 
 // The first free name of <name>.kopia, .kopia2, .kopia3, ...
-std::optional<fs::path> freeKopia(const fs::path &path) {
+std::optional<fs::path> freeKopia(const fs::path& path) {
     std::error_code error;
     for (int number = 1; number < 10000; ++number) {
         fs::path kopia = path;
@@ -143,7 +143,7 @@ std::optional<fs::path> freeKopia(const fs::path &path) {
 }
 
 // A second name for the old file, or a copy of it where the file system has no hard links.
-bool keepAs(const SystemPlikow &system, const fs::path &old, const fs::path &kopia) {
+bool keepAs(const SystemPlikow& system, const fs::path& old, const fs::path& kopia) {
     if (system.link(old.c_str(), kopia.c_str()) == 0)
         return true;
     const auto length = lengthOf(system, old);
@@ -154,7 +154,7 @@ bool keepAs(const SystemPlikow &system, const fs::path &old, const fs::path &kop
     return bytes && writeWhole(system, kopia, *bytes);
 }
 
-int openFile(const char *path, int flags, ::mode_t mode) {
+int openFile(const char* path, int flags, ::mode_t mode) {
     return ::open(path, flags, mode);
 }
 
@@ -163,7 +163,7 @@ int openFile(const char *path, int flags, ::mode_t mode) {
 const SystemPlikow SYSTEM_PLIKOW{openFile, ::read,   ::write, ::fsync, ::close, ::rename,
                                  ::link,   ::unlink, ::stat,  ::fstat, ::fchmod};
 
-std::optional<Bajty> readFirst(const SystemPlikow &system, const fs::path &path, std::size_t count) {
+std::optional<Bajty> readFirst(const SystemPlikow& system, const fs::path& path, std::size_t count) {
     // O_NONBLOCK: a pipe in place of a file answers at once instead of waiting for a writer.
     const Otwarty file(system, path, O_RDONLY | O_NONBLOCK);
     if (!file.ok() && errno == ENOENT)
@@ -176,19 +176,19 @@ std::optional<Bajty> readFirst(const SystemPlikow &system, const fs::path &path,
     return bytes;
 }
 
-std::optional<std::uintmax_t> lengthOf(const SystemPlikow &system, const fs::path &path) {
+std::optional<std::uintmax_t> lengthOf(const SystemPlikow& system, const fs::path& path) {
     struct ::stat info {};
     if (system.stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode))
         return std::nullopt;
     return static_cast<std::uintmax_t>(info.st_size);
 }
 
-bool fileExists(const SystemPlikow &system, const fs::path &path) {
+bool fileExists(const SystemPlikow& system, const fs::path& path) {
     struct ::stat info {};
     return system.stat(path.c_str(), &info) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
-bool writeWhole(const SystemPlikow &system, const fs::path &path, std::span<const Bajt> bytes) {
+bool writeWhole(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes) {
     const auto target = resolved(path);
     if (!target)
         return false;
@@ -207,7 +207,7 @@ bool writeWhole(const SystemPlikow &system, const fs::path &path, std::span<cons
     return true;
 }
 
-bool writeKeepingOld(const SystemPlikow &system, const fs::path &path, std::span<const Bajt> bytes) {
+bool writeKeepingOld(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes) {
     const auto length = lengthOf(system, path);
     if (!length || *length == 0)
         return writeWhole(system, path, bytes);
@@ -226,7 +226,7 @@ bool writeKeepingOld(const SystemPlikow &system, const fs::path &path, std::span
     return false;
 }
 
-std::vector<std::string> listNames(const fs::path &folder, std::string_view suffix) {
+std::vector<std::string> listNames(const fs::path& folder, std::string_view suffix) {
     std::vector<std::string> names;
     std::error_code error;
     for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
@@ -238,8 +238,8 @@ std::vector<std::string> listNames(const fs::path &folder, std::string_view suff
     return names;
 }
 
-void sweepTemporary(const SystemPlikow &system, const fs::path &folder) {
-    for (const std::string &name : listNames(folder, TEMPORARY_SUFFIX))
+void sweepTemporary(const SystemPlikow& system, const fs::path& folder) {
+    for (const std::string& name : listNames(folder, TEMPORARY_SUFFIX))
         if (name.starts_with(TEMPORARY_PREFIX) && !ownerLives(name))
             system.unlink((folder / name).c_str());
 }

@@ -17,14 +17,17 @@ namespace dorva {
 
 // The system calls that the file layer is made of; each answers as its POSIX namesake.
 struct SystemPlikow {
-    int (*open)(const char *path, int flags, ::mode_t mode);
-    ::ssize_t (*read)(int file, void *bytes, std::size_t count);
-    ::ssize_t (*write)(int file, const void *bytes, std::size_t count);
+    int (*open)(const char* path, int flags, ::mode_t mode);
+    ::ssize_t (*read)(int file, void* bytes, std::size_t count);
+    ::ssize_t (*write)(int file, const void* bytes, std::size_t count);
     int (*fsync)(int file);
     int (*close)(int file);
-    int (*rename)(const char *from, const char *to);
-    int (*link)(const char *from, const char *to);
-    int (*unlink)(const char *path);
+    int (*rename)(const char* from, const char* to);
+    int (*link)(const char* from, const char* to);
+    int (*unlink)(const char* path);
+    int (*stat)(const char* path, struct ::stat* info);
+    int (*fstat)(int file, struct ::stat* info);
+    int (*fchmod)(int file, ::mode_t mode);
 };
 
 // The operating system's own calls.
@@ -32,25 +35,26 @@ extern const SystemPlikow SYSTEM_PLIKOW;
 
 // The first `count` bytes of a regular file. A missing file is created, empty; nothing where the file
 // can't be opened, is no regular file, or holds fewer bytes.
-std::optional<Bajty> readFirst(const SystemPlikow &, const std::filesystem::path &, std::size_t count);
+std::optional<Bajty> readFirst(const SystemPlikow&, const std::filesystem::path&, std::size_t count);
 
 // The length of a regular file in bytes; nothing if there is none.
-std::optional<std::uintmax_t> lengthOf(const std::filesystem::path &);
+std::optional<std::uintmax_t> lengthOf(const SystemPlikow&, const std::filesystem::path&);
 
-bool fileExists(const std::filesystem::path &);
+// Whether something stands at the path; also true where that can't be told.
+bool fileExists(const SystemPlikow&, const std::filesystem::path&);
 
 // Replaces the file by `bytes`: a temporary file in the same folder, flushed, renamed over the old one.
 // Mode bits and symbolic links are kept. On failure the old file is untouched and nothing else is left.
-[[nodiscard]] bool writeWhole(const SystemPlikow &, const std::filesystem::path &, std::span<const Bajt> bytes);
+[[nodiscard]] bool writeWhole(const SystemPlikow&, const std::filesystem::path&, std::span<const Bajt> bytes);
 
 // Like writeWhole, but a file that is not empty is kept beside it first, as "<name>.kopia" (or .kopia2,
 // .kopia3, ...). If that isn't possible, nothing is written.
-[[nodiscard]] bool writeKeepingOld(const SystemPlikow &, const std::filesystem::path &, std::span<const Bajt> bytes);
+[[nodiscard]] bool writeKeepingOld(const SystemPlikow&, const std::filesystem::path&, std::span<const Bajt> bytes);
 
 // The names in a folder that end in `suffix` (exact case), sorted by byte value.
-std::vector<std::string> listNames(const std::filesystem::path &folder, std::string_view suffix);
+std::vector<std::string> listNames(const std::filesystem::path& folder, std::string_view suffix);
 
 // Removes what an interrupted writeWhole may have left in a folder.
-void sweepTemporary(const SystemPlikow &, const std::filesystem::path &folder);
+void sweepTemporary(const SystemPlikow&, const std::filesystem::path& folder);
 
 } // namespace dorva

@@ -11,7 +11,7 @@ constexpr int liniaIndex(Pole pole) {
 
 } // namespace
 
-PoleTekstu &poleOf(Okno &okno, Pole pole) {
+PoleTekstu& poleOf(Okno& okno, Pole pole) {
     switch (pole) {
     case Pole::Nazwa:
         return okno.txtNazwa;
@@ -22,15 +22,15 @@ PoleTekstu &poleOf(Okno &okno, Pole pole) {
     }
 }
 
-void txt_Change(Edytor &e, Pole pole, const Tekst &tekst) {
+void txt_Change(Edytor& e, Pole pole, const Tekst& tekst) {
     SetTekst(poleOf(e.okno, pole), tekst);
 }
 
-void txt_GotFocus(Edytor &e, Pole pole) {
+void txt_GotFocus(Edytor& e, Pole pole) {
     ++poleOf(e.okno, pole).zaznaczenia;
 }
 
-void txt_LostFocus(Edytor &e, Pole pole) {
+void txt_LostFocus(Edytor& e, Pole pole) {
     switch (pole) {
     case Pole::Nazwa:
         leaveNazwa(e);

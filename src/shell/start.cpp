@@ -11,19 +11,19 @@ namespace {
 
 constexpr std::string_view PODPIS = " - edytor etapów i budowniczy gry";
 
-void setTitle(Edytor &e, std::string_view version) {
+void setTitle(Edytor& e, std::string_view version) {
     e.okno.caption = "Dorva Planszownik [wersja " + std::string(version) + "]" + std::string(PODPIS);
 }
 
 // The parent of the program's folder becomes the current directory and the start of the file dialogs.
-void setFolders(Edytor &e, const std::filesystem::path &folder) {
+void setFolders(Edytor& e, const std::filesystem::path& folder) {
     std::error_code error;
     std::filesystem::current_path(folder / "..", error);
     e.OstatniaSciezka = std::filesystem::current_path(error);
     e.KatalogBazowy = folder;
 }
 
-void loadColours(Edytor &e) {
+void loadColours(Edytor& e) {
     LoadPaleta(e);
     e.KoloryDomyslne = KOLORY_STARTOWE;
     for (int swiat = 0; swiat < SWIATY_COUNT; ++swiat)
@@ -32,15 +32,15 @@ void loadColours(Edytor &e) {
 }
 
 // A file of another length than 60 first blanks the boxes; what is there of whole lines is then read.
-bool readAutorGry(Edytor &e) {
+bool readAutorGry(Edytor& e) {
     const auto length = lengthOf(e.system, autorGryPath(e));
     if (!length)
         return false;
     if (*length != AUTOR_GRY_SIZE_BYTES)
-        for (PoleTekstu &pole : e.okno.txtAutorGry)
+        for (PoleTekstu& pole : e.okno.txtAutorGry)
             SetTekst(pole, Tekst::spaces(LINIA_WIDTH));
     for (std::size_t k = 0; k < e.okno.txtAutorGry.size(); ++k) {
-        PoleTekstu &pole = e.okno.txtAutorGry[k];
+        PoleTekstu& pole = e.okno.txtAutorGry[k];
         SetTekst(pole, {});
         const auto bytes = readFirst(e.system, autorGryPath(e), (k + 1) * LINIA_WIDTH);
         if (!bytes)
@@ -52,7 +52,7 @@ bool readAutorGry(Edytor &e) {
 }
 
 // The part of start-up that ends silently at its first failure.
-void loadWork(Edytor &e) {
+void loadWork(Edytor& e) {
     if (!ScanZestawy(e))
         return;
     (void)SelectObiektyNR(e, 0);
@@ -65,7 +65,7 @@ void loadWork(Edytor &e) {
 
 } // namespace
 
-void Form_Load(Edytor &e, const std::filesystem::path &folder, std::string_view version) {
+void Form_Load(Edytor& e, const std::filesystem::path& folder, std::string_view version) {
     setTitle(e, version);
     setFolders(e, folder);
     sweepTemporary(e.system, e.KatalogBazowy / "ETAPY");
@@ -74,14 +74,14 @@ void Form_Load(Edytor &e, const std::filesystem::path &folder, std::string_view 
     loadWork(e);
 }
 
-void Form_QueryUnload(Edytor &e) {
+void Form_QueryUnload(Edytor& e) {
     PackEtap(e);
     if (!writeBiezacyEtap(e))
         return;
     (void)writeAutorGry(e);
 }
 
-void Form_Unload(Edytor &e) {
+void Form_Unload(Edytor& e) {
     closePaleta(e);
 }
 

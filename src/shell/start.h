@@ -9,12 +9,12 @@ namespace dorva {
 
 // Loads everything, in order, before the window is shown. `folder` is where the executable stands,
 // `version` reads "1.0.2". The first failure from the tile sets on ends it silently.
-void Form_Load(Edytor &, const std::filesystem::path &folder, std::string_view version);
+void Form_Load(Edytor&, const std::filesystem::path& folder, std::string_view version);
 
 // Writes the current stage and the title lines back. Never refuses to close.
-void Form_QueryUnload(Edytor &);
+void Form_QueryUnload(Edytor&);
 
 // Closes the palette dialog.
-void Form_Unload(Edytor &);
+void Form_Unload(Edytor&);
 
 } // namespace dorva

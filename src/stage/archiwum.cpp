@@ -13,16 +13,16 @@ constexpr std::size_t rekordArchiwum(int number) {
     return AUTOR_GRY_SIZE_BYTES + ETAP_SIZE_BYTES * static_cast<std::size_t>(number - 1);
 }
 
-Bajty assemble(const Bajty &autorGry, const std::array<Bajty, ETAPY_COUNT> &etapy) {
+Bajty assemble(const Bajty& autorGry, const std::array<Bajty, ETAPY_COUNT>& etapy) {
     Bajty archiwum = autorGry;
-    for (const Bajty &etap : etapy)
+    for (const Bajty& etap : etapy)
         archiwum.insert(archiwum.end(), etap.begin(), etap.end());
     return archiwum;
 }
 
 // Writes a stage of the archive over the working set. A file that is no whole stage, or whose content
 // the editor failed to take over, is kept aside.
-bool writeEtap(Edytor &e, int number, std::span<const Bajt> image) {
+bool writeEtap(Edytor& e, int number, std::span<const Bajt> image) {
     const auto path = etapPath(e, number);
     const bool lost = number == e.NumerEtapu && !e.etapPrzejety;
     const auto length = lengthOf(e.system, path);
@@ -33,7 +33,7 @@ bool writeEtap(Edytor &e, int number, std::span<const Bajt> image) {
 
 } // namespace
 
-void cmdSaveArch_Click(Edytor &e) {
+void cmdSaveArch_Click(Edytor& e) {
     PackEtap(e);
     if (!writeBiezacyEtap(e))
         return;
@@ -53,7 +53,7 @@ void cmdSaveArch_Click(Edytor &e) {
     e.haki.messageBox(komunikaty::ARCHIWUM_ZAPISANE);
 }
 
-void cmdLoadArch_Click(Edytor &e) {
+void cmdLoadArch_Click(Edytor& e) {
     const auto path = e.haki.openDialog({"", e.OstatniaSciezka, FILTR_ODCZYTU});
     if (!path)
         return;

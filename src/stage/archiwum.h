@@ -9,7 +9,7 @@ namespace dorva {
 inline constexpr std::size_t ARCHIWUM_SIZE_BYTES = AUTOR_GRY_SIZE_BYTES + ETAPY_COUNT * ETAP_SIZE_BYTES;
 static_assert(ARCHIWUM_SIZE_BYTES == 29852);
 
-void cmdSaveArch_Click(Edytor &);
-void cmdLoadArch_Click(Edytor &);
+void cmdSaveArch_Click(Edytor&);
+void cmdLoadArch_Click(Edytor&);
 
 } // namespace dorva

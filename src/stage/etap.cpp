@@ -9,37 +9,37 @@
 namespace dorva {
 namespace {
 
-void applyEdgeRule(Okno &okno) {
+void applyEdgeRule(Okno& okno) {
     const Znak krawedz = KodKrawedzi(okno);
     for (int i = 0; i < PLANSZA_CELLS; ++i) {
-        Znak &z = okno.imgPG[static_cast<std::size_t>(i)].znak;
+        Znak& z = okno.imgPG[static_cast<std::size_t>(i)].znak;
         if (isEdge(i) && z != NIC && z != MUREK_PIONOWY && z != MUREK_POZIOMY)
             z = krawedz;
     }
 }
 
 // A box that is still being edited is brought to its form if it is too short; full text stays as it is.
-void fillShort(PoleTekstu &pole, const Tekst &form) {
+void fillShort(PoleTekstu& pole, const Tekst& form) {
     if (pole.tekst.size() < pole.width)
         SetTekst(pole, form);
 }
 
-void append(Bajty &image, std::span<const Bajt> bytes) {
+void append(Bajty& image, std::span<const Bajt> bytes) {
     image.insert(image.end(), bytes.begin(), bytes.end());
 }
 
-std::span<const Bajt> field(const Bajty &image, std::size_t offset, std::size_t length) {
+std::span<const Bajt> field(const Bajty& image, std::size_t offset, std::size_t length) {
     return std::span(image).subspan(offset, length);
 }
 
 } // namespace
 
-Znak KodKrawedzi(const Okno &okno) {
+Znak KodKrawedzi(const Okno& okno) {
     return okno.optNN == 0 ? MUREK_PIONOWY : znak(kod(MUREK_PIONOWY) + INV);
 }
 
-void PackEtap(Edytor &e) {
-    Okno &okno = e.okno;
+void PackEtap(Edytor& e) {
+    Okno& okno = e.okno;
     fillShort(okno.txtNazwa, FitNazwa(okno.txtNazwa.tekst));
     fillShort(okno.txtAutor, NormalizeBox(okno.txtAutor.tekst, AUTOR_WIDTH));
 
@@ -49,10 +49,10 @@ void PackEtap(Edytor &e) {
 
     Bajty image(uklad::KOLORY, 0);
     image.reserve(ETAP_SIZE_BYTES);
-    for (const Probka &probka : okno.lblKolor)
+    for (const Probka& probka : okno.lblKolor)
         image.push_back(probka.value);
     image.resize(uklad::PLANSZA, 0);
-    for (ZnakPole &cell : okno.imgPG) {
+    for (ZnakPole& cell : okno.imgPG) {
         if (cell.znak == DORVA_INV)
             cell.znak = DORVA;
         image.push_back(static_cast<Bajt>(cell.znak));
@@ -65,8 +65,8 @@ void PackEtap(Edytor &e) {
     e.obrazEtapu = std::move(image);
 }
 
-bool UnpackEtap(Edytor &e) {
-    const Bajty &image = e.obrazEtapu;
+bool UnpackEtap(Edytor& e) {
+    const Bajty& image = e.obrazEtapu;
     if (!e.okno.chkZachowajKolory)
         for (int i = 0; i < SLOTY_COUNT; ++i)
             ShowKolor(e, i, image[uklad::KOLORY + static_cast<std::size_t>(i)]);
@@ -85,7 +85,7 @@ bool UnpackEtap(Edytor &e) {
     return true;
 }
 
-bool SetOstatni(Edytor &e, int value) {
+bool SetOstatni(Edytor& e, int value) {
     constexpr int GREYED = 2;
     if (value < 0 || value > GREYED)
         return false;
@@ -93,7 +93,7 @@ bool SetOstatni(Edytor &e, int value) {
     return true;
 }
 
-void SetTekst(PoleTekstu &pole, const Tekst &tekst) {
+void SetTekst(PoleTekstu& pole, const Tekst& tekst) {
     pole.tekst = tekst;
     if (!tekst.znaki.empty())
         return;
@@ -101,16 +101,16 @@ void SetTekst(PoleTekstu &pole, const Tekst &tekst) {
     ++pole.zaznaczenia;
 }
 
-void leaveNazwa(Edytor &e) {
+void leaveNazwa(Edytor& e) {
     SetTekst(e.okno.txtNazwa, FitNazwa(e.okno.txtNazwa.tekst));
 }
 
-void leaveAutor(Edytor &e) {
+void leaveAutor(Edytor& e) {
     SetTekst(e.okno.txtAutor, NormalizeBox(e.okno.txtAutor.tekst, AUTOR_WIDTH));
 }
 
-void leaveAutorGry(Edytor &e, int index) {
-    PoleTekstu &pole = e.okno.txtAutorGry[static_cast<std::size_t>(index)];
+void leaveAutorGry(Edytor& e, int index) {
+    PoleTekstu& pole = e.okno.txtAutorGry[static_cast<std::size_t>(index)];
     SetTekst(pole, NormalizeBox(pole.tekst, LINIA_WIDTH));
 }
 

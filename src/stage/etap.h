@@ -7,23 +7,23 @@ namespace dorva {
 
 // Editor to image buffer. Cleans up the board first (edge rule, heroine), redraws and recounts. A text
 // box that is still being edited and shorter than its width is brought to it.
-void PackEtap(Edytor &);
+void PackEtap(Edytor&);
 
 // Image buffer (931 bytes) to editor. False if a field was refused; what came before it stays applied.
-[[nodiscard]] bool UnpackEtap(Edytor &);
+[[nodiscard]] bool UnpackEtap(Edytor&);
 
 // The wall that the edge rule writes: 5, or 133 under INV.
-Znak KodKrawedzi(const Okno &);
+Znak KodKrawedzi(const Okno&);
 
 // Sets the last-stage box; false for a value above 2.
-[[nodiscard]] bool SetOstatni(Edytor &, int value);
+[[nodiscard]] bool SetOstatni(Edytor&, int value);
 
 // Sets a box from code; an empty text becomes spaces, all selected.
-void SetTekst(PoleTekstu &, const Tekst &);
+void SetTekst(PoleTekstu&, const Tekst&);
 
 // What a box that is left does to its text.
-void leaveNazwa(Edytor &);
-void leaveAutor(Edytor &);
-void leaveAutorGry(Edytor &, int index);
+void leaveNazwa(Edytor&);
+void leaveAutor(Edytor&);
+void leaveAutorGry(Edytor&, int index);
 
 } // namespace dorva

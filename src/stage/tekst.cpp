@@ -62,9 +62,9 @@ constexpr Bajt upper(Bajt c) {
 
 } // namespace
 
-Bajty EncodeTekst(const Tekst &tekst) {
+Bajty EncodeTekst(const Tekst& tekst) {
     Bajty stored = tekst.bytes();
-    for (Bajt &c : stored) {
+    for (Bajt& c : stored) {
         for (auto [wielka, zapis] : POLSKIE)
             if (c == wielka) {
                 c = zapis;
@@ -93,25 +93,25 @@ Tekst DecodeTekst(std::span<const Bajt> bytes) {
 }
 
 Tekst upperCase(Tekst tekst) {
-    for (char &c : tekst.znaki)
+    for (char& c : tekst.znaki)
         c = static_cast<char>(upper(static_cast<Bajt>(c)));
     return tekst;
 }
 
-Tekst FitNazwa(const Tekst &tekst) {
+Tekst FitNazwa(const Tekst& tekst) {
     const std::size_t length = tekst.size();
     const std::size_t before = length < NAZWA_WIDTH ? (NAZWA_WIDTH + 1 - length) / 2 : 0;
     return NormalizeBox({std::string(before, ' ') + tekst.znaki}, NAZWA_WIDTH);
 }
 
-Tekst NormalizeBox(const Tekst &tekst, std::size_t width) {
+Tekst NormalizeBox(const Tekst& tekst, std::size_t width) {
     Tekst fitted = upperCase(tekst);
     if (fitted.size() < width)
         fitted.znaki.resize(width, ' ');
     return fitted;
 }
 
-Tekst trimmed(const Tekst &tekst) {
+Tekst trimmed(const Tekst& tekst) {
     const std::size_t first = tekst.znaki.find_first_not_of(' ');
     if (first == std::string::npos)
         return {};

@@ -26,24 +26,24 @@ struct Tekst {
     static Tekst fromBytes(std::span<const Bajt> bytes) { return {std::string(bytes.begin(), bytes.end())}; }
     [[nodiscard]] std::size_t size() const { return znaki.size(); }
     [[nodiscard]] Bajty bytes() const { return {znaki.begin(), znaki.end()}; }
-    bool operator==(const Tekst &) const = default;
+    bool operator==(const Tekst&) const = default;
 };
 
 // Window text to stored text and back; the length stays, one character is one byte.
-Bajty EncodeTekst(const Tekst &tekst);
+Bajty EncodeTekst(const Tekst& tekst);
 Tekst DecodeTekst(std::span<const Bajt> bytes);
 
 // Upper case over the whole of Windows-1250.
 Tekst upperCase(Tekst tekst);
 
 // Upper case, centred by its length (the odd space to the right), filled up to 32 characters.
-Tekst FitNazwa(const Tekst &tekst);
+Tekst FitNazwa(const Tekst& tekst);
 
 // Upper case, filled up with spaces on the right to `width` characters.
-Tekst NormalizeBox(const Tekst &tekst, std::size_t width);
+Tekst NormalizeBox(const Tekst& tekst, std::size_t width);
 
 // Without the spaces (code 32 only) at both ends.
-Tekst trimmed(const Tekst &tekst);
+Tekst trimmed(const Tekst& tekst);
 
 // Windows-1250 to Unicode and back. The five codes that the code page leaves open stand for U+0081,
 // U+0083, U+0088, U+0090 and U+0098; a character that the page lacks becomes '?'.

@@ -13,7 +13,7 @@ constexpr std::string_view FILTR_ZAPISU = "Etap gry|DETAP.*|Wszystkie pliki (*.*
 constexpr int OSTATNI_INDEX = ETAPY_COUNT - 1;
 
 // Stage 32 is always the last one of the game.
-void applyLastStageRule(Edytor &e, int index) {
+void applyLastStageRule(Edytor& e, int index) {
     if (index == OSTATNI_INDEX)
         (void)SetOstatni(e, 1);
     e.okno.chkOstatniEnabled = index != OSTATNI_INDEX;
@@ -31,22 +31,22 @@ Znak clearedCell(int cell, Znak krawedz) {
 
 } // namespace
 
-std::filesystem::path etapPath(const Edytor &e, int number) {
+std::filesystem::path etapPath(const Edytor& e, int number) {
     return e.KatalogBazowy / "ETAPY" / ("DETAP." + std::to_string(number));
 }
 
-std::filesystem::path autorGryPath(const Edytor &e) {
+std::filesystem::path autorGryPath(const Edytor& e) {
     return e.KatalogBazowy / "PLIKI" / "DP1.DTA";
 }
 
-void SelectEtapNR(Edytor &e, int index) {
+void SelectEtapNR(Edytor& e, int index) {
     if (index == e.okno.optEtapNR)
         return;
     e.okno.optEtapNR = index;
     optEtapNR_Click(e, index);
 }
 
-void optEtapNR_Click(Edytor &e, int index) {
+void optEtapNR_Click(Edytor& e, int index) {
     PackEtap(e);
     if (!writeBiezacyEtap(e)) {
         e.okno.optEtapNR = e.NumerEtapu - 1;
@@ -58,7 +58,7 @@ void optEtapNR_Click(Edytor &e, int index) {
     applyLastStageRule(e, index);
 }
 
-void cmdLoad_Click(Edytor &e) {
+void cmdLoad_Click(Edytor& e) {
     const auto path = e.haki.openDialog({"", e.OstatniaSciezka, FILTR_ODCZYTU});
     if (!path)
         return;
@@ -78,7 +78,7 @@ void cmdLoad_Click(Edytor &e) {
     (void)UnpackEtap(e);
 }
 
-void cmdSave_Click(Edytor &e) {
+void cmdSave_Click(Edytor& e) {
     PackEtap(e);
     if (e.obrazEtapu.size() != ETAP_SIZE_BYTES) {
         e.haki.messageBox(komunikaty::NIE_MOZNA_PLIKU);
@@ -91,14 +91,14 @@ void cmdSave_Click(Edytor &e) {
     e.haki.messageBox(komunikaty::ETAP_ZAPISANY);
 }
 
-void cmdCzysc_Click(Edytor &e) {
+void cmdCzysc_Click(Edytor& e) {
     if (!e.haki.messageBox(komunikaty::CZYSZCZENIE))
         return;
     ClearEtap(e);
     e.okno.txtAutorEnabled = true;
 }
 
-void ClearEtap(Edytor &e) {
+void ClearEtap(Edytor& e) {
     const Znak krawedz = KodKrawedzi(e.okno);
     for (int i = 0; i < PLANSZA_CELLS; ++i)
         e.okno.imgPG[static_cast<std::size_t>(i)].znak = clearedCell(i, krawedz);
@@ -110,7 +110,7 @@ void ClearEtap(Edytor &e) {
     SetTekst(e.okno.txtAutor, Tekst::spaces(AUTOR_WIDTH));
 }
 
-bool writeBiezacyEtap(Edytor &e) {
+bool writeBiezacyEtap(Edytor& e) {
     if (e.obrazEtapu.size() != ETAP_SIZE_BYTES)
         return false;
     const auto path = etapPath(e, e.NumerEtapu);
@@ -120,7 +120,7 @@ bool writeBiezacyEtap(Edytor &e) {
     return written;
 }
 
-Bajty autorGryBytes(Edytor &e) {
+Bajty autorGryBytes(Edytor& e) {
     Bajty bytes;
     for (std::size_t i = 0; i < e.okno.txtAutorGry.size(); ++i) {
         if (e.okno.txtAutorGry[i].tekst.size() < LINIA_WIDTH)
@@ -131,7 +131,7 @@ Bajty autorGryBytes(Edytor &e) {
     return bytes;
 }
 
-bool writeAutorGry(Edytor &e) {
+bool writeAutorGry(Edytor& e) {
     const Bajty bytes = autorGryBytes(e);
     if (bytes.size() != AUTOR_GRY_SIZE_BYTES)
         return false;
@@ -141,7 +141,7 @@ bool writeAutorGry(Edytor &e) {
     return written;
 }
 
-bool readEtap(Edytor &e, int number) {
+bool readEtap(Edytor& e, int number) {
     e.etapPrzejety = false;
     e.obrazEtapu.assign(ETAP_SIZE_BYTES, 0);
     auto image = readFirst(e.system, etapPath(e, number), ETAP_SIZE_BYTES);
@@ -154,7 +154,7 @@ bool readEtap(Edytor &e, int number) {
     return true;
 }
 
-std::optional<std::array<Bajty, ETAPY_COUNT>> readAllEtapy(Edytor &e) {
+std::optional<std::array<Bajty, ETAPY_COUNT>> readAllEtapy(Edytor& e) {
     std::array<Bajty, ETAPY_COUNT> etapy;
     for (int number = 1; number <= ETAPY_COUNT; ++number) {
         auto image = readFirst(e.system, etapPath(e, number), ETAP_SIZE_BYTES);
@@ -165,7 +165,7 @@ std::optional<std::array<Bajty, ETAPY_COUNT>> readAllEtapy(Edytor &e) {
     return etapy;
 }
 
-std::optional<std::filesystem::path> askSavePath(Edytor &e, const DialogPliku &dialog) {
+std::optional<std::filesystem::path> askSavePath(Edytor& e, const DialogPliku& dialog) {
     auto path = e.haki.saveDialog(dialog);
     if (!path)
         return std::nullopt;

@@ -13,40 +13,40 @@ constexpr std::array<std::string_view, SWIATY_COUNT> PLIKI_KOLOROW{"OBIEKTY/ORN_
                                                                    "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND.KOLORY"};
 
 // The start of an optional file; it is not created where it is missing.
-std::optional<Bajty> readOptional(const Edytor &e, std::string_view name, std::size_t count) {
+std::optional<Bajty> readOptional(const Edytor& e, std::string_view name, std::size_t count) {
     const auto path = e.KatalogBazowy / name;
     return fileExists(e.system, path) ? readFirst(e.system, path, count) : std::nullopt;
 }
 
 } // namespace
 
-void LoadPaleta(Edytor &e) {
+void LoadPaleta(Edytor& e) {
     const auto bytes = readOptional(e, PLIK_PALETY, PALETA_SIZE_BYTES);
     e.Paleta = bytes ? parsePaleta(*bytes).value_or(PaletaWbudowana) : PaletaWbudowana;
 }
 
-std::optional<Bajty> readKolory(Edytor &e, int swiat) {
+std::optional<Bajty> readKolory(Edytor& e, int swiat) {
     return readOptional(e, PLIKI_KOLOROW[static_cast<std::size_t>(swiat)], KOLORY_SIZE_BYTES);
 }
 
-void LoadKolory(Edytor &e, int swiat) {
+void LoadKolory(Edytor& e, int swiat) {
     if (const auto bytes = readKolory(e, swiat))
         std::copy(bytes->begin(), bytes->end(),
                   e.KoloryDomyslne[static_cast<std::size_t>(swiat)].begin() + KOLORY_FIRST_SLOT);
 }
 
-void ShowKolor(Edytor &e, int slot, Bajt value) {
-    Probka &probka = e.okno.lblKolor[static_cast<std::size_t>(slot)];
+void ShowKolor(Edytor& e, int slot, Bajt value) {
+    Probka& probka = e.okno.lblKolor[static_cast<std::size_t>(slot)];
     probka.value = value;
     probka.tlo = e.Paleta[value];
 }
 
-void showDomyslne(Edytor &e, int swiat, int first, int last) {
+void showDomyslne(Edytor& e, int swiat, int first, int last) {
     for (int slot = first; slot <= last; ++slot)
         ShowKolor(e, slot, e.KoloryDomyslne[static_cast<std::size_t>(swiat)][static_cast<std::size_t>(slot)]);
 }
 
-void cmdResetKolory_Click(Edytor &e) {
+void cmdResetKolory_Click(Edytor& e) {
     if (e.okno.chkZachowajKolory) {
         e.haki.messageBox(komunikaty::KOLORY_ZABLOKOWANE);
         return;

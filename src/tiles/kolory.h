@@ -6,20 +6,20 @@
 namespace dorva {
 
 // The palette file, or the built-in table where there is none or it is too short.
-void LoadPaleta(Edytor &);
+void LoadPaleta(Edytor&);
 
 // A world's colour file into its row of KoloryDomyslne; left alone where the file is missing or short.
-void LoadKolory(Edytor &, int swiat);
+void LoadKolory(Edytor&, int swiat);
 
 // The five bytes of a world's colour file; nothing if it is missing or short.
-std::optional<Bajty> readKolory(Edytor &, int swiat);
+std::optional<Bajty> readKolory(Edytor&, int swiat);
 
 // The one way to write a slot.
-void ShowKolor(Edytor &, int slot, Bajt value);
+void ShowKolor(Edytor&, int slot, Bajt value);
 
 // The world's default colours into slots first..last of the stage.
-void showDomyslne(Edytor &, int swiat, int first, int last);
+void showDomyslne(Edytor&, int swiat, int first, int last);
 
-void cmdResetKolory_Click(Edytor &);
+void cmdResetKolory_Click(Edytor&);
 
 } // namespace dorva

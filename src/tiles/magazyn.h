@@ -23,7 +23,7 @@ struct Magazyn {
 
     // The picture behind a reference; null for an empty entry, a code without a picture and the default
     // state.
-    [[nodiscard]] const ZnakObraz *find(ObrazRef ref) const {
+    [[nodiscard]] const ZnakObraz* find(ObrazRef ref) const {
         if (ref.swiat < 0 || ref.swiat >= SWIATY_COUNT || !isTile(ref.znak))
             return nullptr;
         return obrazy[static_cast<std::size_t>(ref.swiat * MAGAZYN_STRIDE + kod(ref.znak))].get();
@@ -36,6 +36,6 @@ constexpr int kodOfPosition(int position) {
 }
 
 // The tile at a position of a strip: 32 x 32 pixels, transparent where the strip is too small.
-ZnakObraz cutTile(const Bitmapa &strip, int position);
+ZnakObraz cutTile(const Bitmapa& strip, int position);
 
 } // namespace dorva

@@ -11,7 +11,7 @@ namespace dorva {
 
 struct Rgb {
     std::uint8_t r = 0, g = 0, b = 0;
-    bool operator==(const Rgb &) const = default;
+    bool operator==(const Rgb&) const = default;
 };
 
 inline constexpr int OBRAZ_SIDE = 32;
@@ -30,7 +30,7 @@ struct ObrazRef {
     static constexpr std::int8_t DOMYSLNY = -1;
     std::int8_t swiat = DOMYSLNY;
     Znak znak = NIC;
-    bool operator==(const ObrazRef &) const = default;
+    bool operator==(const ObrazRef&) const = default;
 };
 
 } // namespace dorva

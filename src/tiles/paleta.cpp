@@ -9,45 +9,45 @@ constexpr int COLUMNS = 8;
 constexpr int SLOT_PANELU = 11;
 constexpr int KOLUMNA_PANELU = 2; // luminance 4, the only one that the panel can take
 
-Probka &wybrana(Edytor &e) {
+Probka& wybrana(Edytor& e) {
     return e.okno.lblKolor[static_cast<std::size_t>(e.WybranySlot)];
 }
 
-void showWybrany(Edytor &e) {
+void showWybrany(Edytor& e) {
     e.okno.dlgPaleta.picWybrany = wybrana(e).tlo;
     e.okno.dlgPaleta.lblWybrany = kolorText(wybrana(e).value);
 }
 
 } // namespace
 
-void PickKolor(Edytor &e, int slot) {
+void PickKolor(Edytor& e, int slot) {
     if (e.okno.chkZachowajKolory) {
         e.haki.messageBox(komunikaty::KOLORY_ZABLOKOWANE);
         return;
     }
     e.WybranySlot = slot;
-    for (Probka &probka : e.okno.lblKolor)
+    for (Probka& probka : e.okno.lblKolor)
         probka.wybrana = false;
     wybrana(e).wybrana = true;
     OpenPaleta(e);
 }
 
-void OpenPaleta(Edytor &e) {
-    OknoPalety &okno = e.okno.dlgPaleta;
+void OpenPaleta(Edytor& e) {
+    OknoPalety& okno = e.okno.dlgPaleta;
     for (std::size_t i = 0; i < okno.picPaleta.size(); ++i)
         okno.picPaleta[i] = e.Paleta[2 * i];
     showWybrany(e);
     okno.otwarte = true;
 }
 
-void picPaleta_Click(Edytor &e, int index) {
+void picPaleta_Click(Edytor& e, int index) {
     if (e.WybranySlot == SLOT_PANELU)
         index = index / COLUMNS * COLUMNS + KOLUMNA_PANELU;
     ShowKolor(e, e.WybranySlot, static_cast<Bajt>(2 * index));
     showWybrany(e);
 }
 
-void closePaleta(Edytor &e) {
+void closePaleta(Edytor& e) {
     if (!e.okno.dlgPaleta.otwarte)
         return;
     e.okno.dlgPaleta.otwarte = false;

@@ -6,11 +6,11 @@
 namespace dorva {
 
 // A click on a swatch: selects the slot and opens the dialog, unless colours are blocked.
-void PickKolor(Edytor &, int slot);
-void OpenPaleta(Edytor &);
-void picPaleta_Click(Edytor &, int index);
+void PickKolor(Edytor&, int slot);
+void OpenPaleta(Edytor&);
+void picPaleta_Click(Edytor&, int index);
 
 // Closes the dialog, by whatever means.
-void closePaleta(Edytor &);
+void closePaleta(Edytor&);
 
 } // namespace dorva

@@ -10,13 +10,13 @@ namespace {
 constexpr std::string_view KATALOG_EKSPORTU = "OBIEKTY/ORN_EXPORT";
 
 // A picture hook that throws is a picture that can't be loaded.
-std::optional<Bitmapa> loadStrip(const Edytor &e, const std::filesystem::path &path) try {
+std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& path) try {
     return e.haki.loadPicture ? e.haki.loadPicture(path, PASEK_WIDTH, OBRAZ_SIDE) : std::nullopt;
-} catch (const std::exception &) {
+} catch (const std::exception&) {
     return std::nullopt;
 }
 
-void cutStrip(Magazyn &zestawy, const Bitmapa &strip, int swiat) {
+void cutStrip(Magazyn& zestawy, const Bitmapa& strip, int swiat) {
     for (int position = 0; position < PASEK_TILES; ++position) {
         const auto entry = static_cast<std::size_t>(swiat * MAGAZYN_STRIDE + kodOfPosition(position));
         zestawy.obrazy[entry] = std::make_shared<const ZnakObraz>(cutTile(strip, position));
@@ -26,7 +26,7 @@ void cutStrip(Magazyn &zestawy, const Bitmapa &strip, int swiat) {
 
 } // namespace
 
-bool ScanZestawy(Edytor &e) {
+bool ScanZestawy(Edytor& e) {
     const auto folder = e.KatalogBazowy / KATALOG_EKSPORTU;
     const auto names = listNames(folder, ".ND");
     for (std::size_t swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
@@ -39,7 +39,7 @@ bool ScanZestawy(Edytor &e) {
     return true;
 }
 
-void LoadZestaw(Edytor &e, const std::filesystem::path &path, int swiat) {
+void LoadZestaw(Edytor& e, const std::filesystem::path& path, int swiat) {
     auto stripPath = path;
     stripPath += ".TILES.BMP";
     const auto strip = loadStrip(e, stripPath);
@@ -57,24 +57,24 @@ void LoadZestaw(Edytor &e, const std::filesystem::path &path, int swiat) {
     showDomyslne(e, swiat, KOLORY_FIRST_SLOT, KOLORY_FIRST_SLOT + static_cast<int>(KOLORY_SIZE_BYTES) - 1);
 }
 
-void ShowZestaw(Edytor &e, int swiat) {
-    Okno &okno = e.okno;
+void ShowZestaw(Edytor& e, int swiat) {
+    Okno& okno = e.okno;
     const auto s = static_cast<std::int8_t>(swiat);
     const int half = okno.optNN == 1 ? INV : 0;
     for (int i = 0; i < ZNAKI_COUNT; ++i) {
-        ZnakSlot &slot = okno.imgZnak[static_cast<std::size_t>(i)];
+        ZnakSlot& slot = okno.imgZnak[static_cast<std::size_t>(i)];
         slot.znak = znak(i + half);
         slot.obraz = {s, slot.znak};
     }
     okno.imgBufor.obraz = {s, okno.imgBufor.znak};
-    for (ZnakPole &cell : okno.imgPG)
+    for (ZnakPole& cell : okno.imgPG)
         cell.obraz = {s, cell.znak};
     for (std::size_t k = 0; k < IKONY_INFO.size(); ++k)
         okno.imgInfo[k] = okno.imgZnak[static_cast<std::size_t>(IKONY_INFO[k])].obraz;
     e.BiezacySwiat = swiat;
 }
 
-bool SelectObiektyNR(Edytor &e, int swiat) {
+bool SelectObiektyNR(Edytor& e, int swiat) {
     if (swiat < 0 || swiat >= SWIATY_COUNT)
         return false;
     if (swiat == e.okno.optObiektyNR)
@@ -84,11 +84,11 @@ bool SelectObiektyNR(Edytor &e, int swiat) {
     return true;
 }
 
-void optObiektyNR_Click(Edytor &e, int index) {
+void optObiektyNR_Click(Edytor& e, int index) {
     ShowZestaw(e, index);
 }
 
-void cmdReload_Click(Edytor &e) {
+void cmdReload_Click(Edytor& e) {
     if (!ScanZestawy(e))
         return;
     for (int swiat = 0; swiat < SWIATY_COUNT; ++swiat)
