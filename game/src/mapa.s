@@ -1,0 +1,104 @@
+; The loader map: every segment header, bank switch and filler of the file.
+;
+; A loader copies each segment through the processor's own memory map, so a segment of one byte
+; at PORTB switches the bank for all that follow. The order here is the order in szablon.cfg.
+.include "atari.inc"
+.import sprawdz_pamiec, start
+
+.macro naglowek adres, bajty
+        .word adres, adres + bajty - 1
+.endmacro
+
+.macro wlacz bank
+        naglowek PORTB, 1
+        .byte bank
+.endmacro
+
+; Filler: a segment of zeros into a bank that nobody reads.
+.macro zapas bajty
+        naglowek OKNO, bajty
+        .res bajty, 0
+.endmacro
+
+; A stage as it stands before a builder has laid a real one over it: earth in a wall of stone,
+; one mask to take, the heroine and the exit.
+.macro etap numer
+        naglowek OKNO + numer * ETAP_ODSTEP, ETAP_BAJTY
+        .res 16, 0
+        .byte 34, 192, 64, 128, 180, 44, 238, 116, 0, 0, 0, 228
+        .res 4, 0
+        .res 40, 5
+    .repeat 18, R
+        .byte 5
+      .if R = 8
+        .res 10, 1
+        .byte 63
+        .res 8, 1
+        .byte 12
+        .res 8, 1
+        .byte 9
+        .res 9, 1
+      .else
+        .res 38, 1
+      .endif
+        .byte 5
+    .endrepeat
+        .res 40, 5
+        .byte 1, 0, 0
+        .res 32 + 64, 0
+.endmacro
+
+.segment "N_TEST"
+        .word $FFFF
+        naglowek $0600, $0100
+.segment "N_INIT"
+        naglowek INITAD, 2
+        .word sprawdz_pamiec
+.segment "N_KOD"
+        naglowek $2000, $2000
+.segment "N_DANE"
+        naglowek $8000, $2000
+
+.segment "ZAPAS0"
+        wlacz BANK3
+        zapas 13060 - 5 - 4 - 5
+        wlacz BANK0
+
+.segment "ETAPY0"
+    .repeat 16, I
+        etap I
+    .endrepeat
+.segment "BANK1"
+        wlacz BANK1
+.segment "ETAPY1"
+    .repeat 16, I
+        etap I
+    .endrepeat
+
+.segment "ZAPAS1"
+        wlacz BANK2
+        zapas $4000
+        wlacz BANK3
+        zapas $4000
+        zapas $4000
+        zapas 56535 - 3 * ($4000 + 4) - 4 - 3 * 5 - 4
+        wlacz GLOWNA
+        naglowek $BB00, 3 * TYTUL_BAJTY
+
+.segment "TYTULY"
+.export tytuly
+tytuly:
+        .byte 3                         ; "DORVA PLANSZOWNIK!"
+        .byte 36,47,50,54,33,0,48,44,33,46,51,58,47,55,46,41,43,1
+        .res 3, TYTUL_KONIEC
+    .repeat 2
+        .byte 12
+        .res 21, TYTUL_KONIEC
+    .endrepeat
+
+.segment "OGON"
+        wlacz BANK3
+        zapas 2187 - 5 - 4 - 5 - 6
+        wlacz GLOWNA
+        naglowek RUNAD, 2
+        .word start
