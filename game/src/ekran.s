@@ -2,8 +2,7 @@
 .include "atari.inc"
 .export czekaj_klatke, zrob_czcionke, czcionka
 
-.segment "BSS"
-        .align 1024
+.segment "CZCIONKI"
 czcionka:       .res 1024               ; the ROM font plus nine Polish capitals
 
 .segment "RODATA"

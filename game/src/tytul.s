@@ -7,12 +7,10 @@
 POLE      = 8                           ; screen column of the field's column 0
 LINIE     = 3
 
-.segment "BSS"
-        .align 1024
+.segment "EKRANY"
 ekran:  .res 24 * 40
 
-.segment "RODATA"
-        .align 64
+.segment "LISTY"
 lista:  .byte $70, $70, $70
         .byte $42
         .word ekran
@@ -20,6 +18,7 @@ lista:  .byte $70, $70, $70
         .byte $41
         .word lista
 
+.segment "RODATA"
 naglowek_tytulu:
         .byte 36,47,50,54,33            ; DORVA
 naglowek_koniec:
