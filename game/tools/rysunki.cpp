@@ -1,0 +1,122 @@
+#include "rysunki.h"
+
+#include <algorithm>
+
+namespace dorva {
+namespace {
+
+constexpr std::string_view PIKSELE = ".gtu"; // tło, grunt, twarz, ubranie
+constexpr std::array<std::string_view, KOLORY_SIZE_BYTES> NAZWY_KOLOROW{"grunt", "twarz", "ubranie", "woda", "tlo"};
+constexpr Bajt WODA = 3, TLO = 4; // places in the colour file
+
+Ksztalt takeKsztalt(Zrodlo& z) {
+    Ksztalt ksztalt{};
+    for (auto& row : ksztalt) {
+        const std::string_view line = z.take();
+        if (line.size() != row.size())
+            z.fail("a row of a tile has four pixels");
+        for (std::size_t x = 0; x < row.size(); ++x) {
+            const std::size_t pixel = PIKSELE.find(line[x]);
+            if (pixel == std::string_view::npos)
+                z.fail("a pixel is one of .gtu");
+            row[x] = static_cast<Bajt>(pixel);
+        }
+    }
+    return ksztalt;
+}
+
+// The drawing of a tile, or the one it is the mirror image of: "lustro 26" left to right, "odbicie 28" top to
+// bottom, "jak 5" unchanged.
+Ksztalt takeRysunek(Zrodlo& z, const Rysunki& rysunki) {
+    const auto [slowo, numer] = splitSlowo(z.peek());
+    if (slowo != "lustro" && slowo != "odbicie" && slowo != "jak")
+        return takeKsztalt(z);
+    z.take();
+    Ksztalt ksztalt = rysunki.ksztalty[static_cast<std::size_t>(parseLiczba(z, numer, 0, ZNAKI_COUNT - 1))];
+    if (slowo == "odbicie")
+        std::ranges::reverse(ksztalt);
+    if (slowo == "lustro")
+        for (auto& row : ksztalt)
+            std::ranges::reverse(row);
+    return ksztalt;
+}
+
+// The colour (place in the colour file) of a pixel of a tile.
+Bajt barwa(Bajt pixel, bool inv) {
+    if (pixel == 0)
+        return TLO;
+    return pixel == 3 && inv ? WODA : static_cast<Bajt>(pixel - 1);
+}
+
+void draw(ObrazBarwny& obraz, int x, int y, int side, const Ksztalt& ksztalt, bool inv) {
+    const int w = side / KSZTALT_COLUMNS, h = side / KSZTALT_ROWS;
+    for (int row = 0; row < KSZTALT_ROWS; ++row)
+        for (int column = 0; column < KSZTALT_COLUMNS; ++column) {
+            const Bajt pixel = ksztalt[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+            obraz.fill(x + column * w, y + row * h, w, h, barwa(pixel, inv));
+        }
+}
+
+std::vector<Rgb> barwy(std::span<const Bajt> kolory) {
+    std::vector<Rgb> result;
+    for (Bajt kolor : kolory)
+        result.push_back(PaletaWbudowana[kolor]);
+    return result;
+}
+
+} // namespace
+
+Rysunki parseRysunki(Zrodlo z) {
+    Rysunki rysunki;
+    for (std::size_t i = 0; i < KOLORY_SIZE_BYTES; ++i) {
+        const auto [nazwa, value] = splitSlowo(z.take());
+        if (nazwa != NAZWY_KOLOROW[i])
+            z.fail("the colour " + std::string(NAZWY_KOLOROW[i]) + " should stand here");
+        rysunki.kolory[i] = static_cast<Bajt>(parseLiczba(z, value, 0, 255));
+    }
+    for (std::size_t i = 0; i < ZNAKI_COUNT; ++i) {
+        const std::string title = std::to_string(i) + " " + std::string(NAZWY_ZNAKOW[i]);
+        if (z.take() != title)
+            z.fail("the tile \"" + title + "\" should stand here");
+        rysunki.ksztalty[i] = takeRysunek(z, rysunki);
+    }
+    if (z.take() != "obcy")
+        z.fail("the drawing \"obcy\" should stand here");
+    rysunki.obcy = takeKsztalt(z);
+    if (!z.atEnd()) {
+        z.take();
+        z.fail("nothing should stand behind the last drawing");
+    }
+    return rysunki;
+}
+
+Bajty BuildZnaki(const Rysunki& rysunki) {
+    Bajty bytes;
+    for (std::size_t code = 0; bytes.size() < ZNAKI_SIZE_BYTES; ++code)
+        for (const auto& row : code < ZNAKI_COUNT ? rysunki.ksztalty[code] : rysunki.obcy)
+            bytes.push_back(static_cast<Bajt>(row[0] << 6 | row[1] << 4 | row[2] << 2 | row[3]));
+    return bytes;
+}
+
+ObrazBarwny BuildPasek(const Rysunki& rysunki) {
+    ObrazBarwny pasek(2 * ZNAKI_COUNT * OBRAZ_SIDE, OBRAZ_SIDE, barwy(rysunki.kolory));
+    for (int position = 0; position < 2 * ZNAKI_COUNT; ++position)
+        draw(pasek, position * OBRAZ_SIDE, 0, OBRAZ_SIDE,
+             rysunki.ksztalty[static_cast<std::size_t>(position % ZNAKI_COUNT)], position >= ZNAKI_COUNT);
+    return pasek;
+}
+
+ObrazBarwny BuildPlansza(const Rysunki& rysunki, const Bajty& etap) {
+    constexpr int SIDE = OBRAZ_SIDE / 2;
+    const std::span kolory = std::span(etap).subspan(uklad::KOLORY + KOLORY_FIRST_SLOT, KOLORY_SIZE_BYTES);
+    ObrazBarwny obraz(PLANSZA_COLUMNS * SIDE, PLANSZA_ROWS * SIDE, barwy(kolory));
+    for (int cell = 0; cell < PLANSZA_CELLS; ++cell) {
+        const int code = etap[uklad::PLANSZA + static_cast<std::size_t>(cell)];
+        const auto shape = static_cast<std::size_t>(code % INV);
+        draw(obraz, cell % PLANSZA_COLUMNS * SIDE, cell / PLANSZA_COLUMNS * SIDE, SIDE,
+             shape < ZNAKI_COUNT ? rysunki.ksztalty[shape] : rysunki.obcy, code >= INV);
+    }
+    return obraz;
+}
+
+} // namespace dorva

@@ -1,0 +1,58 @@
+// Text sources: lines of UTF-8, with what is needed to say where a mistake stands.
+#pragma once
+
+#include "stage/tekst.h"
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace dorva {
+
+// What is wrong with a source, as "file:line: text".
+struct BladZrodla : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// The lines of a source one after the other, without comments (from ";" on), trailing blanks and empty lines.
+class Zrodlo {
+public:
+    Zrodlo(std::string nazwa, std::string_view tekst);
+    static Zrodlo fromFile(const std::filesystem::path& path);
+
+    [[nodiscard]] bool atEnd() const { return next == linie.size(); }
+    // The next line without taking it; empty at the end.
+    [[nodiscard]] std::string_view peek() const { return atEnd() ? std::string_view() : linie[next].tekst; }
+    std::string_view take();
+
+    // Reports a mistake in the line taken last.
+    [[noreturn]] void fail(const std::string& text) const;
+
+private:
+    struct Linia {
+        int numer;
+        std::string tekst;
+    };
+    std::string nazwaPliku;
+    std::vector<Linia> linie;
+    std::size_t next = 0;
+};
+
+// The first word of a line and the rest, without the blanks between them.
+struct Slowa {
+    std::string_view pierwsze, reszta;
+};
+Slowa splitSlowo(std::string_view line);
+
+// A whole decimal number in min..max; fails otherwise.
+int parseLiczba(const Zrodlo&, std::string_view text, int min, int max);
+
+// UTF-8 as window text.
+Tekst toTekst(const Zrodlo&, std::string_view utf8);
+
+// Writes a file, making its folder where it is missing.
+void writePlik(const std::filesystem::path& path, const Bajty& bytes);
+
+} // namespace dorva
