@@ -1,0 +1,15 @@
+// Windows bitmap files.
+#pragma once
+
+#include "tiles/obraz.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace dorva {
+
+// The top left `width` x `height` pixels of a bitmap file, or as many as it has. Nothing where the file
+// is missing, no bitmap, cut short, or of an absurd size (over 64 MB, or more than 16 million pixels).
+std::optional<Bitmapa> loadBitmapa(const std::filesystem::path&, int width, int height);
+
+} // namespace dorva

@@ -1,0 +1,165 @@
+#include "qt/kontrolki.h"
+
+#include <QFocusEvent>
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOption>
+
+#include <utility>
+
+namespace dorva {
+namespace {
+
+constexpr int FONT_PIXELS = 11;
+constexpr int FONT_STALY_PIXELS = 14, ZNAK_PIXELS = 8;
+constexpr QColor WYBRANY_KOLOR(0x8C, 0xB4, 0xE4); // of a button that is selected
+constexpr char16_t SYMBOLE_STEROWANIA = 0x2400; // pictures of the control codes
+constexpr char16_t SYMBOL_DEL = 0x2421;
+constexpr Bajt KOD_DEL = 127;
+
+bool isWindowChange(const QFocusEvent* event) {
+    return event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+}
+
+} // namespace
+
+QFont fontOkna() {
+    QFont font;
+    font.setFamilies({"Liberation Sans", "Arial", "DejaVu Sans"});
+    font.setPixelSize(FONT_PIXELS);
+    return font;
+}
+
+QFont fontFigury() {
+    QFont font = fontOkna();
+    font.setBold(true);
+    return font;
+}
+
+QFont fontStaly() {
+    QFont font;
+    font.setFamilies({"Liberation Mono", "DejaVu Sans Mono", "Courier New", "monospace"});
+    font.setFixedPitch(true);
+    for (int size = FONT_STALY_PIXELS; size > 6; --size) {
+        font.setPixelSize(size);
+        if (QFontMetrics(font).horizontalAdvance(QChar('W')) <= ZNAK_PIXELS)
+            break;
+    }
+    return font;
+}
+
+QString toQString(const Tekst& tekst) {
+    QString result;
+    result.reserve(static_cast<qsizetype>(tekst.size()));
+    for (char c : tekst.znaki) {
+        const auto code = static_cast<Bajt>(c);
+        if (code < ' ')
+            result += QChar(static_cast<char16_t>(SYMBOLE_STEROWANIA + code));
+        else
+            result += QChar(code == KOD_DEL ? SYMBOL_DEL : toUnicode(code));
+    }
+    return result;
+}
+
+Tekst fromQString(const QString& text) {
+    Tekst result;
+    for (char32_t c : text.toUcs4()) {
+        if (c >= SYMBOLE_STEROWANIA && c < SYMBOLE_STEROWANIA + ' ')
+            result.znaki += static_cast<char>(c - SYMBOLE_STEROWANIA);
+        else
+            result.znaki += static_cast<char>(c == SYMBOL_DEL ? KOD_DEL : fromUnicode(c));
+    }
+    return result;
+}
+
+void Ramka::paintEvent(QPaintEvent*) {
+    constexpr int INDENT = 8, GAP = 2;
+    QPainter painter(this);
+    QFont captionFont = font();
+    const QString caption = title().trimmed();
+    const int space = width() - 2 * (INDENT + GAP);
+    const int wanted = QFontMetrics(captionFont).horizontalAdvance(caption);
+    if (wanted > space)
+        captionFont.setStretch(100 * space / wanted);
+    painter.setFont(captionFont);
+
+    const QFontMetrics metrics(captionFont);
+    const int top = caption.isEmpty() ? 0 : metrics.height() / 2;
+    QStyleOptionFrame line;
+    line.initFrom(this);
+    line.rect = rect().adjusted(0, top, 0, 0);
+    line.features = QStyleOptionFrame::None;
+    const QColor dark = palette().color(QPalette::Mid), light = palette().color(QPalette::Light);
+    painter.setPen(light);
+    painter.drawRect(line.rect.adjusted(1, 1, -1, -1));
+    painter.setPen(dark);
+    painter.drawRect(line.rect.adjusted(0, 0, -2, -2));
+    if (caption.isEmpty())
+        return;
+    const QRect box(INDENT, 0, std::min(wanted, space) + 2 * GAP, metrics.height());
+    painter.fillRect(box, palette().window());
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(box, Qt::AlignCenter, caption);
+}
+
+void Przycisk::paintEvent(QPaintEvent*) {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QString caption = std::exchange(option.text, QString());
+    QPainter painter(this);
+    if (isChecked()) {
+        option.palette.setColor(QPalette::Button, WYBRANY_KOLOR);
+        QFont bold = font();
+        bold.setBold(true);
+        painter.setFont(bold);
+    }
+    style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
+    style()->drawItemText(&painter, rect().adjusted(2, 0, -2, 0), Qt::AlignCenter | Qt::TextWordWrap, option.palette,
+                          isEnabled(), caption, QPalette::ButtonText);
+}
+
+void Etykieta::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton;
+}
+
+void Etykieta::mouseReleaseEvent(QMouseEvent* event) {
+    const bool clicked = pressed_ && event->button() == Qt::LeftButton && rect().contains(event->pos());
+    pressed_ = false;
+    if (clicked && onClick)
+        onClick();
+}
+
+void PoleEdycji::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (isWindowChange(event))
+        return;
+    enteredByMouse_ = event->reason() == Qt::MouseFocusReason;
+    if (onEnter)
+        onEnter();
+}
+
+void PoleEdycji::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (!isWindowChange(event) && onLeave)
+        onLeave();
+}
+
+// The press that enters the box would put the cursor in its place and so undo the selection.
+void PoleEdycji::mousePressEvent(QMouseEvent* event) {
+    if (!enteredByMouse_)
+        QLineEdit::mousePressEvent(event);
+}
+
+void PoleEdycji::mouseMoveEvent(QMouseEvent* event) {
+    if (!enteredByMouse_)
+        QLineEdit::mouseMoveEvent(event);
+}
+
+void PoleEdycji::mouseReleaseEvent(QMouseEvent* event) {
+    if (!enteredByMouse_)
+        QLineEdit::mouseReleaseEvent(event);
+    enteredByMouse_ = false;
+}
+
+} // namespace dorva

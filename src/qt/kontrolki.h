@@ -1,0 +1,78 @@
+// The small widgets of the window that Qt does not have just so.
+#pragma once
+
+#include "stage/tekst.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <functional>
+
+namespace dorva {
+
+// The window's font and its bold kin, by pixel size, so that texts fit their boxes on every screen.
+QFont fontOkna();
+QFont fontFigury();
+
+// The fixed-pitch font of the text boxes: eight pixels a character at most, so that every box shows its
+// full width.
+QFont fontStaly();
+
+// The window's text for bytes of the code page. A control code is shown by its symbol, so that a box
+// always holds as many characters as the text.
+QString toQString(const Tekst&);
+Tekst fromQString(const QString&);
+
+// A frame with a thin line and its caption in it; the caption is narrowed where it would not fit.
+class Ramka : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
+// A button that wraps a long caption, and that shows plainly when it is the selected one of its group.
+class Przycisk : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
+// A label that can be clicked: pressed and released within itself.
+class Etykieta : public QLabel {
+public:
+    using QLabel::QLabel;
+    std::function<void()> onClick;
+
+protected:
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+private:
+    bool pressed_ = false;
+};
+
+// A text box that selects its whole text when it is entered, by key or by mouse, and tells when it is
+// entered and left. A change of the active window is neither.
+class PoleEdycji : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+    std::function<void()> onEnter, onLeave;
+
+protected:
+    void focusInEvent(QFocusEvent*) override;
+    void focusOutEvent(QFocusEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+private:
+    bool enteredByMouse_ = false;
+};
+
+} // namespace dorva

@@ -1,0 +1,354 @@
+#include "qt/okno_glowne.h"
+
+#include "board/census.h"
+#include "board/plansza.h"
+#include "output/narzedzia.h"
+#include "output/obraz_gry.h"
+#include "qt/bitmapa_pliku.h"
+#include "qt/kontrolki.h"
+#include "qt/paleta_okno.h"
+#include "qt/pola_znakow.h"
+#include "qt/rozmowy.h"
+#include "shell/pola.h"
+#include "shell/start.h"
+#include "stage/archiwum.h"
+#include "stage/zbior_etapow.h"
+#include "tiles/kolory.h"
+#include "tiles/paleta.h"
+#include "tiles/zestaw.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+namespace dorva {
+namespace {
+
+QString text(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QString nameOf(const char* name, int index) {
+    return index < 0 ? QString(name) : QString("%1(%2)").arg(name).arg(index);
+}
+
+QColor toQColor(Rgb c) {
+    return {c.r, c.g, c.b};
+}
+
+void setColour(QWidget* widget, QPalette::ColorRole role, const QColor& colour) {
+    QPalette palette = widget->palette();
+    palette.setColor(role, colour);
+    widget->setPalette(palette);
+}
+
+// Makes the widget that a row of the catalogue asks for.
+QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
+    switch (k.rodzaj) {
+    case Rodzaj::Ramka:
+        return new Ramka(text(k.caption), parent);
+    case Rodzaj::Pole: {
+        auto* pole = new QWidget(parent);
+        pole->setAutoFillBackground(true);
+        setColour(pole, QPalette::Window, QColor::fromRgb(SZARY));
+        return pole;
+    }
+    case Rodzaj::Przycisk:
+        return new Przycisk(text(k.caption), parent);
+    case Rodzaj::Opcja: {
+        auto* opcja = new Przycisk(text(k.caption), parent);
+        opcja->setCheckable(true);
+        return opcja;
+    }
+    case Rodzaj::Znacznik:
+        return new QCheckBox(text(k.caption), parent);
+    case Rodzaj::Etykieta:
+    case Rodzaj::Figura:
+    case Rodzaj::Probka:
+    case Rodzaj::Nazwa: {
+        auto* label = new Etykieta(text(k.caption), parent);
+        label->setTextFormat(Qt::PlainText);
+        label->setAlignment(k.rodzaj == Rodzaj::Nazwa ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter);
+        label->setWordWrap(k.rodzaj == Rodzaj::Etykieta);
+        if (k.rodzaj == Rodzaj::Figura || k.rodzaj == Rodzaj::Probka)
+            label->setFrameStyle(QFrame::Box | QFrame::Plain);
+        if (k.rodzaj == Rodzaj::Probka) {
+            label->setAutoFillBackground(true);
+            label->setFont(fontFigury());
+        }
+        return label;
+    }
+    case Rodzaj::Pasek: {
+        auto* pasek = new QScrollBar(Qt::Horizontal, parent);
+        pasek->setRange(CEL_MIN, CEL_MAX);
+        pasek->setPageStep(1);
+        pasek->setTracking(false);
+        pasek->setFocusPolicy(Qt::StrongFocus);
+        return pasek;
+    }
+    case Rodzaj::Tekst: {
+        auto* box = new PoleEdycji(parent);
+        box->setFont(fontStaly());
+        return box;
+    }
+    case Rodzaj::Obraz:
+        return new ObrazWidget(parent);
+    case Rodzaj::Plansza:
+        return new PlanszaWidget(parent);
+    case Rodzaj::Wybor:
+        return new WyborWidget(parent);
+    }
+    return nullptr;
+}
+
+struct PoleOkna {
+    const char* name;
+    int index;
+    Pole pole;
+};
+constexpr PoleOkna POLA[]{{"txtNazwa", -1, Pole::Nazwa},
+                          {"txtAutor", -1, Pole::Autor},
+                          {"txtAutorGry", 0, Pole::AutorGry0},
+                          {"txtAutorGry", 1, Pole::AutorGry1},
+                          {"txtAutorGry", 2, Pole::AutorGry2}};
+
+struct PrzyciskOkna {
+    const char* name;
+    void (*click)(Edytor&);
+};
+constexpr PrzyciskOkna PRZYCISKI[]{{"cmdCzysc", cmdCzysc_Click},       {"cmdLoad", cmdLoad_Click},
+                                   {"cmdSave", cmdSave_Click},         {"cmdLoadArch", cmdLoadArch_Click},
+                                   {"cmdSaveArch", cmdSaveArch_Click}, {"cmdTest", cmdTest_Click},
+                                   {"cmdCreate", cmdCreate_Click},     {"cmdResetKolory", cmdResetKolory_Click},
+                                   {"cmdReload", cmdReload_Click},     {"cmdORN", cmdORN_Click}};
+
+struct OpcjeOkna {
+    const char* name;
+    int count;
+    void (*select)(Edytor&, int);
+    int Okno::*selected;
+};
+constexpr OpcjeOkna OPCJE[]{
+    {"optEtapNR", ETAPY_COUNT, SelectEtapNR, &Okno::optEtapNR},
+    {"optObiektyNR", SWIATY_COUNT, [](Edytor& e, int index) { (void)SelectObiektyNR(e, index); }, &Okno::optObiektyNR},
+    {"optPPM", 2, [](Edytor& e, int index) { e.okno.optPPM = index; }, &Okno::optPPM},
+    {"optNN", 2, SelectNN, &Okno::optNN}};
+
+} // namespace
+
+template <typename Operation> void OknoGlowne::run(Operation operation) {
+    operation(e_);
+    showRecord();
+}
+
+template <typename Widget> Widget* OknoGlowne::find(const char* name, int index) const {
+    return static_cast<Widget*>(widgets_.value(nameOf(name, index)));
+}
+
+OknoGlowne::OknoGlowne(Edytor& e) : e_(e) {
+    setObjectName("frmDP");
+    setFixedSize(OKNO_WIDTH, OKNO_HEIGHT);
+    setFont(fontOkna());
+    for (const Kontrolka& k : katalogOkna())
+        build(k);
+    imgPG_ = find<PlanszaWidget>("imgPG");
+    imgZnak_ = find<WyborWidget>("imgZnak");
+    setTabOrder();
+    bindHooks();
+    bindEvents();
+}
+
+OknoGlowne::~OknoGlowne() = default;
+
+void OknoGlowne::build(const Kontrolka& k) {
+    QWidget* parent = k.container.empty() ? this : widgets_.value(text(k.container));
+    QWidget* widget = makeWidget(k, parent);
+    const QString name = nameOf(k.name.data(), k.index);
+    widget->setObjectName(name);
+    widget->setGeometry(pixels(k.left), pixels(k.top), pixels(k.width), pixels(k.height));
+    widget->setToolTip(text(k.tooltip));
+    widget->setEnabled(k.widac == Widac::Tak || k.widac == Widac::Schowane);
+    widget->setVisible(k.widac == Widac::Tak || k.widac == Widac::Wylaczone);
+    widgets_.insert(name, widget);
+}
+
+void OknoGlowne::setTabOrder() {
+    QWidget* last = nullptr;
+    for (std::string_view name : kolejnoscTab()) {
+        // An option group is visited at its selected button, so each of its buttons joins the chain.
+        for (int index = 0;; ++index) {
+            QWidget* widget =
+                widgets_.value(index == 0 && widgets_.contains(text(name)) ? text(name) : nameOf(name.data(), index));
+            if (!widget)
+                break;
+            if (last)
+                QWidget::setTabOrder(last, widget);
+            last = widget;
+        }
+    }
+}
+
+// Whatever blocks the window shows first what was done up to then.
+void OknoGlowne::bindHooks() {
+    e_.haki.messageBox = [this](const Komunikat& komunikat) {
+        showRecord();
+        return showMessageBox(this, komunikat);
+    };
+    e_.haki.openDialog = [this](const DialogPliku& dialog) {
+        showRecord();
+        return askOpen(this, dialog);
+    };
+    e_.haki.saveDialog = [this](const DialogPliku& dialog) {
+        showRecord();
+        return askSave(this, dialog);
+    };
+    e_.haki.startProgram = [](const std::filesystem::path& program, OknoProgramu) { startDetached(program); };
+    e_.haki.loadPicture = loadBitmapa;
+}
+
+void OknoGlowne::bindEvents() {
+    imgPG_->onPress = [this](int cell, int button) { run([=](Edytor& e) { imgPG_MouseDown(e, cell, button); }); };
+    imgPG_->onMove = [this](int cell, int buttons) { run([=](Edytor& e) { imgPG_MouseMove(e, cell, buttons); }); };
+    imgZnak_->onClick = [this](int slot) { run([=](Edytor& e) { imgZnak_Click(e, slot); }); };
+
+    for (const PrzyciskOkna& p : PRZYCISKI)
+        connect(find<QPushButton>(p.name), &QPushButton::clicked, this, [this, &p] { run(p.click); });
+    for (const OpcjeOkna& o : OPCJE)
+        bindOptions(o.name, o.count, o.select);
+    for (const PoleOkna& p : POLA)
+        bindText(p.name, p.index, p.pole);
+
+    for (int slot = 0; slot < SLOTY_COUNT; ++slot)
+        find<Etykieta>("lblKolor", slot)->onClick = [this, slot] { run([=](Edytor& e) { PickKolor(e, slot); }); };
+    for (int index = 0; index < static_cast<int>(shown_.lblInfo.size()); ++index)
+        find<Etykieta>("lblInfo", index)->onClick = [this, index] { run([=](Edytor& e) { lblInfo_Click(e, index); }); };
+    connect(find<QScrollBar>("hscMonet"), &QScrollBar::valueChanged, this,
+            [this](int value) { run([=](Edytor& e) { (void)SetMonet(e, value); }); });
+
+    // A box that holds 2 is shown half checked; a click clears it.
+    connect(find<QCheckBox>("chkOstatni"), &QCheckBox::clicked, this,
+            [this] { run([](Edytor& e) { e.okno.chkOstatni = e.okno.chkOstatni == 0 ? 1 : 0; }); });
+    connect(find<QCheckBox>("chkZachowajKolory"), &QCheckBox::clicked, this,
+            [this](bool checked) { run([=](Edytor& e) { e.okno.chkZachowajKolory = checked; }); });
+}
+
+void OknoGlowne::bindOptions(const char* name, int count, void (*select)(Edytor&, int)) {
+    auto* group = new QButtonGroup(this);
+    for (int index = 0; index < count; ++index)
+        group->addButton(find<QPushButton>(name, index), index);
+    connect(group, &QButtonGroup::idClicked, this,
+            [this, select](int index) { run([=](Edytor& e) { select(e, index); }); });
+}
+
+void OknoGlowne::bindText(const char* name, int index, Pole pole) {
+    auto* box = find<PoleEdycji>(name, index);
+    box->setMaxLength(static_cast<int>(poleOf(e_.okno, pole).width));
+    box->onEnter = [this, pole] { run([=](Edytor& e) { txt_GotFocus(e, pole); }); };
+    box->onLeave = [this, pole] { run([=](Edytor& e) { txt_LostFocus(e, pole); }); };
+    connect(box, &QLineEdit::textEdited, this,
+            [this, pole](const QString& typed) { run([&](Edytor& e) { txt_Change(e, pole, fromQString(typed)); }); });
+}
+
+void OknoGlowne::showRecord() {
+    const Okno& okno = e_.okno;
+    obrazki_.prepare(e_.zestawy);
+    imgPG_->showOkno(okno, obrazki_);
+    imgZnak_->showOkno(okno, obrazki_);
+    find<ObrazWidget>("imgBufor")->showObraz(okno.imgBufor.obraz, obrazki_);
+    showOptions();
+    showFigures();
+    showKolory();
+    showTexts();
+    showPaleta();
+    shown_ = okno;
+    shownOnce_ = true;
+}
+
+void OknoGlowne::showOptions() {
+    const Okno& okno = e_.okno;
+    for (const OpcjeOkna& o : OPCJE)
+        if (auto* selected = find<QPushButton>(o.name, okno.*o.selected); !selected->isChecked())
+            selected->setChecked(true);
+
+    auto* ostatni = find<QCheckBox>("chkOstatni");
+    ostatni->setTristate(okno.chkOstatni == 2);
+    ostatni->setCheckState(okno.chkOstatni == 2 ? Qt::PartiallyChecked : okno.chkOstatni ? Qt::Checked : Qt::Unchecked);
+    ostatni->setEnabled(okno.chkOstatniEnabled);
+    find<QCheckBox>("chkZachowajKolory")->setChecked(okno.chkZachowajKolory);
+}
+
+void OknoGlowne::showFigures() {
+    const Okno& okno = e_.okno;
+    for (std::size_t i = 0; i < okno.lblInfo.size(); ++i) {
+        const InfoPole& info = okno.lblInfo[i];
+        if (shownOnce_ && info == shown_.lblInfo[i])
+            continue;
+        auto* label = find<Etykieta>("lblInfo", static_cast<int>(i));
+        label->setText(QString::fromStdString(info.caption));
+        setColour(label, QPalette::WindowText, info.czerwony ? QColor(Qt::red) : palette().color(QPalette::WindowText));
+    }
+    for (std::size_t k = 0; k < okno.imgInfo.size(); ++k)
+        find<ObrazWidget>("imgInfo", static_cast<int>(k))->showObraz(okno.imgInfo[k], obrazki_);
+    for (std::size_t i = 0; i < okno.lblKodBufor.size(); ++i)
+        find<Etykieta>("lblKodBufor", static_cast<int>(i))->setText(QString::fromStdString(okno.lblKodBufor[i]));
+    auto* monet = find<QScrollBar>("hscMonet");
+    const QSignalBlocker quiet(monet);
+    monet->setValue(okno.hscMonet);
+}
+
+void OknoGlowne::showKolory() {
+    const QColor white(Qt::white), lightRed(255, 192, 192);
+    for (std::size_t i = 0; i < e_.okno.lblKolor.size(); ++i) {
+        const Probka& probka = e_.okno.lblKolor[i];
+        if (shownOnce_ && probka == shown_.lblKolor[i])
+            continue;
+        auto* label = find<Etykieta>("lblKolor", static_cast<int>(i));
+        label->setText(QString::number(probka.value));
+        setColour(label, QPalette::Window, toQColor(probka.tlo));
+        setColour(label, QPalette::WindowText, probka.wybrana ? lightRed : white);
+    }
+}
+
+// A box is written only where it shows another text than the record's, so that typing keeps the cursor.
+void OknoGlowne::showTexts() {
+    if (caption_ != e_.okno.caption) {
+        caption_ = e_.okno.caption;
+        setWindowTitle(text(caption_));
+    }
+    for (const PoleOkna& p : POLA) {
+        const PoleTekstu& pole = poleOf(e_.okno, p.pole);
+        auto* box = find<PoleEdycji>(p.name, p.index);
+        if (const QString shown = toQString(pole.tekst); shown != box->text()) {
+            const int cursor = box->cursorPosition();
+            box->setText(shown);
+            box->setCursorPosition(cursor);
+        }
+        if (shownOnce_ && pole.zaznaczenia != poleOf(shown_, p.pole).zaznaczenia)
+            box->selectAll();
+    }
+    find<PoleEdycji>("txtAutor")->setEnabled(e_.okno.txtAutorEnabled);
+}
+
+void OknoGlowne::showPaleta() {
+    const OknoPalety& okno = e_.okno.dlgPaleta;
+    if (!dlgPaleta_ && !okno.otwarte)
+        return;
+    if (!dlgPaleta_) {
+        dlgPaleta_ = new PaletaOkno(this);
+        dlgPaleta_->onPick = [this](int index) { run([=](Edytor& e) { picPaleta_Click(e, index); }); };
+        dlgPaleta_->onClose = [this] { run(closePaleta); };
+    }
+    dlgPaleta_->showOkno(okno);
+}
+
+void OknoGlowne::closeEvent(QCloseEvent* event) {
+    run([](Edytor& e) {
+        Form_QueryUnload(e);
+        Form_Unload(e);
+    });
+    event->accept();
+}
+
+} // namespace dorva

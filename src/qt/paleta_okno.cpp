@@ -1,0 +1,126 @@
+#include "qt/paleta_okno.h"
+
+#include "qt/kontrolki.h"
+#include "qt/kursory.h"
+#include "tiles/paleta_barw.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+
+namespace dorva {
+namespace {
+
+constexpr int COLUMNS = 8, ROWS = 16;
+constexpr int CELL_PITCH = 16, CELL_SIDE = 17;
+constexpr QSize CLIENT{210, 337};
+constexpr QRect FRA_PALETA{24, 16, 129, 257}, PIC_WYBRANY{160, 16, 41, 257}, LBL_WYBRANY{24, 280, 177, 17},
+    CMZ_ZAMKNIJ{24, 304, 177, 25};
+
+QColor toQColor(Rgb c) {
+    return {c.r, c.g, c.b};
+}
+
+QLabel* addLabel(QWidget* parent, const QString& name, const QString& text, QRect place) {
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(name);
+    label->setGeometry(place);
+    label->setAlignment(Qt::AlignCenter);
+    label->setFont(fontStaly());
+    return label;
+}
+
+void setBackground(QWidget* widget, Rgb colour) {
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::Window, toQColor(colour));
+    widget->setPalette(palette);
+}
+
+// A field of one colour within a thin border.
+class PoleBarwy : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setPen(Qt::black);
+        painter.setBrush(palette().window());
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+};
+
+} // namespace
+
+// A cell of the palette: clicked when pressed and released within it.
+class PaletaOkno::Komorka : public PoleBarwy {
+public:
+    using PoleBarwy::PoleBarwy;
+    std::function<void()> onClick;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override { pressed_ = event->button() == Qt::LeftButton; }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (pressed_ && event->button() == Qt::LeftButton && rect().contains(event->pos()))
+            onClick();
+        pressed_ = false;
+    }
+
+private:
+    bool pressed_ = false;
+};
+
+PaletaOkno::PaletaOkno(QWidget* parent)
+    : QDialog(parent, Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
+    setObjectName("dlgPaleta");
+    setWindowTitle("Paleta Atari");
+    setFixedSize(CLIENT);
+    setFont(fontOkna());
+
+    auto* fraPaleta = new QWidget(this);
+    fraPaleta->setObjectName("fraPaleta");
+    fraPaleta->setGeometry(FRA_PALETA);
+    const QCursor hand = kursorPalety();
+    for (int i = 0; i < COLUMNS * ROWS; ++i) {
+        auto* cell = new Komorka(fraPaleta);
+        cell->setObjectName(QString("picPaleta(%1)").arg(i));
+        cell->setGeometry(i % COLUMNS * CELL_PITCH, i / COLUMNS * CELL_PITCH, CELL_SIDE, CELL_SIDE);
+        cell->setToolTip(QString::fromStdString(kolorText(2 * i)));
+        cell->setCursor(hand);
+        cell->onClick = [this, i] { onPick(i); };
+        picPaleta_[static_cast<std::size_t>(i)] = cell;
+    }
+    const auto digit = [](int value) { return QString::number(value, 16).toUpper(); };
+    for (int c = 0; c < COLUMNS; ++c)
+        addLabel(this, QString("lblPaleta(%1)").arg(c), digit(2 * c),
+                 {FRA_PALETA.left() + CELL_PITCH * c, 0, CELL_SIDE, CELL_SIDE});
+    for (int r = 0; r < ROWS; ++r)
+        addLabel(this, QString("lblPaleta(%1)").arg(COLUMNS + r), digit(r),
+                 {0, FRA_PALETA.top() + CELL_PITCH * r, CELL_SIDE, CELL_SIDE});
+
+    picWybrany_ = new PoleBarwy(this);
+    picWybrany_->setObjectName("picWybrany");
+    picWybrany_->setGeometry(PIC_WYBRANY);
+    lblWybrany_ = addLabel(this, "lblWybrany", "0", LBL_WYBRANY);
+    lblWybrany_->setFrameStyle(QFrame::Box | QFrame::Plain);
+
+    auto* cmzZamknij = new QPushButton("Zamknij", this);
+    cmzZamknij->setObjectName("cmzZamknij");
+    cmzZamknij->setGeometry(CMZ_ZAMKNIJ);
+    connect(cmzZamknij, &QPushButton::clicked, this, &QDialog::close);
+    connect(this, &QDialog::finished, this, [this] { onClose(); });
+}
+
+void PaletaOkno::showOkno(const OknoPalety& okno) {
+    for (std::size_t i = 0; i < picPaleta_.size(); ++i)
+        setBackground(picPaleta_[i], okno.picPaleta[i]);
+    setBackground(picWybrany_, okno.picWybrany);
+    lblWybrany_->setText(QString::fromStdString(okno.lblWybrany));
+    if (okno.otwarte == isVisible())
+        return;
+    setVisible(okno.otwarte);
+    if (okno.otwarte)
+        raise();
+}
+
+} // namespace dorva

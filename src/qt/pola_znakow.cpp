@@ -1,0 +1,262 @@
+#include "qt/pola_znakow.h"
+
+#include "board/plansza.h"
+#include "qt/kursory.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <cmath>
+
+namespace dorva {
+namespace {
+
+constexpr int SLOT_PITCH = OBRAZ_SIDE, SLOT_SIDE = OBRAZ_SIDE + 2;
+
+int buttonsOf(Qt::MouseButtons buttons) {
+    int sum = 0;
+    if (buttons & Qt::LeftButton)
+        sum += LEWY;
+    if (buttons & Qt::RightButton)
+        sum += PRAWY;
+    if (buttons & Qt::MiddleButton)
+        sum += SRODKOWY;
+    return sum;
+}
+
+QPoint cellAt(const QPointF& position) {
+    return {static_cast<int>(std::floor(position.x() / KRATKA_SIDE)),
+            static_cast<int>(std::floor(position.y() / KRATKA_SIDE))};
+}
+
+bool onBoard(QPoint cell) {
+    return cell.x() >= 0 && cell.x() < PLANSZA_COLUMNS && cell.y() >= 0 && cell.y() < PLANSZA_ROWS;
+}
+
+int indexOf(QPoint cell) {
+    return cell.y() * PLANSZA_COLUMNS + cell.x();
+}
+
+QRect cellRect(int cell, int side) {
+    return {cell % PLANSZA_COLUMNS * side, cell / PLANSZA_COLUMNS * side, side, side};
+}
+
+// The cells of the straight line behind `from` up to `to`.
+std::vector<QPoint> lineOf(QPoint from, QPoint to) {
+    const QPoint way = to - from;
+    const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
+    std::vector<QPoint> cells;
+    for (int i = 1; i <= steps; ++i)
+        cells.emplace_back(from.x() + static_cast<int>(std::lround(double(way.x()) * i / steps)),
+                           from.y() + static_cast<int>(std::lround(double(way.y()) * i / steps)));
+    return cells;
+}
+
+// A line that is seen on light and dark alike.
+void drawObrys(QPainter& painter, QRect rect) {
+    rect.adjust(0, 0, -1, -1);
+    painter.setPen(Qt::black);
+    painter.drawRect(rect);
+    painter.setPen(QPen(Qt::white, 1, Qt::DotLine));
+    painter.drawRect(rect);
+}
+
+void drawBorder(QPainter& painter, QRect rect) {
+    painter.setPen(QColor(0x40, 0x40, 0x40));
+    painter.drawRect(rect.adjusted(0, 0, -1, -1));
+}
+
+QImage imageOver(const std::uint32_t* pixels, int side) {
+    return {reinterpret_cast<const uchar*>(pixels), side, side, QImage::Format_ARGB32_Premultiplied};
+}
+
+} // namespace
+
+PlanszaWidget::PlanszaWidget(QWidget* parent) : QWidget(parent) {
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PlanszaWidget::showOkno(const Okno& okno, const Obrazki& obrazki) {
+    const bool anew = image_.isNull() || wersja_ != obrazki.wersja();
+    obrazki_ = &obrazki;
+    wersja_ = obrazki.wersja();
+    for (int i = 0; i < PLANSZA_CELLS; ++i) {
+        const ObrazRef ref = okno.imgPG[static_cast<std::size_t>(i)].obraz;
+        ObrazRef& shown = refs_[static_cast<std::size_t>(i)];
+        if (anew || shown != ref) {
+            shown = ref;
+            if (!anew)
+                composeCell(i);
+        }
+    }
+    if (anew)
+        compose();
+    if (obrys_ == okno.obrys)
+        return;
+    for (int cell : {obrys_, okno.obrys})
+        if (cell >= 0)
+            update(cellRect(cell, KRATKA_SIDE));
+    obrys_ = okno.obrys;
+}
+
+int PlanszaWidget::cellSide() const {
+    return devicePixelRatioF() > 1 ? OBRAZ_SIDE : KRATKA_SIDE;
+}
+
+void PlanszaWidget::compose() {
+    image_ = QImage(PLANSZA_COLUMNS * cellSide(), PLANSZA_ROWS * cellSide(), QImage::Format_RGB32);
+    for (int i = 0; i < PLANSZA_CELLS; ++i)
+        composeCell(i);
+}
+
+void PlanszaWidget::composeCell(int cell) {
+    const int side = image_.width() / PLANSZA_COLUMNS;
+    const QRect rect = cellRect(cell, side);
+    const ObrazRef ref = refs_[static_cast<std::size_t>(cell)];
+    for (int y = rect.top(); y <= rect.bottom(); ++y)
+        std::fill_n(reinterpret_cast<std::uint32_t*>(image_.scanLine(y)) + rect.left(), side, SZARY);
+    blit(image_, rect.left(), rect.top(), side == KRATKA_SIDE ? obrazki_->small(ref) : obrazki_->large(ref), side);
+    update(cellRect(cell, KRATKA_SIDE));
+}
+
+void PlanszaWidget::paintEvent(QPaintEvent* event) {
+    if (!obrazki_)
+        return;
+    if (image_.width() != PLANSZA_COLUMNS * cellSide())
+        compose(); // the window has come to a screen of another scale
+    QPainter painter(this);
+    if (image_.width() == width()) {
+        for (const QRect& part : event->region())
+            painter.drawImage(part, image_, part);
+    } else {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(rect(), image_);
+    }
+    if (obrys_ >= 0)
+        drawObrys(painter, cellRect(obrys_, KRATKA_SIDE));
+}
+
+void PlanszaWidget::mousePressEvent(QMouseEvent* event) {
+    pointer_ = cellAt(event->position());
+    const int button = buttonsOf(event->button());
+    if (onBoard(pointer_) && button != 0 && onPress)
+        onPress(indexOf(pointer_), button);
+}
+
+void PlanszaWidget::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint from = pointer_;
+    pointer_ = cellAt(event->position());
+    const int buttons = buttonsOf(event->buttons());
+    if (!onMove)
+        return;
+    if (buttons == 0 || from == pointer_) {
+        if (onBoard(pointer_))
+            onMove(indexOf(pointer_), buttons);
+        return;
+    }
+    for (QPoint cell : lineOf(from, pointer_))
+        if (onBoard(cell))
+            onMove(indexOf(cell), buttons);
+}
+
+WyborWidget::WyborWidget(QWidget* parent) : QWidget(parent) {
+    setCursor(kursorWyboru());
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void WyborWidget::showOkno(const Okno& okno, const Obrazki& obrazki) {
+    bool changed = image_.isNull() || wersja_ != obrazki.wersja();
+    wersja_ = obrazki.wersja();
+    for (std::size_t i = 0; i < refs_.size(); ++i) {
+        changed |= refs_[i] != okno.imgZnak[i].obraz;
+        refs_[i] = okno.imgZnak[i].obraz;
+    }
+    if (!changed)
+        return;
+    image_ = QImage(size(), QImage::Format_RGB32);
+    image_.fill(SZARY);
+    QPainter painter(&image_);
+    for (int slot : WYBOR_ORDER) {
+        const QRect rect = slotRect(slot);
+        painter.drawImage(rect.topLeft() + QPoint(1, 1),
+                          imageOver(obrazki.large(refs_[static_cast<std::size_t>(slot)]), OBRAZ_SIDE));
+        drawBorder(painter, rect);
+    }
+    update();
+}
+
+QRect WyborWidget::slotRect(int slot) {
+    const auto found = std::find(WYBOR_ORDER.begin(), WYBOR_ORDER.end(), slot);
+    if (found == WYBOR_ORDER.end())
+        return {};
+    const int place = static_cast<int>(found - WYBOR_ORDER.begin());
+    return {place % WYBOR_COLUMNS * SLOT_PITCH, place / WYBOR_COLUMNS * SLOT_PITCH, SLOT_SIDE, SLOT_SIDE};
+}
+
+// Where two slots overlap, the later one is on top.
+int WyborWidget::slotAt(QPoint position) {
+    if (position.x() < 0 || position.y() < 0)
+        return -1;
+    const int column = std::min(position.x() / SLOT_PITCH, WYBOR_COLUMNS - 1);
+    const int row = std::min(position.y() / SLOT_PITCH, 1);
+    const int slot = WYBOR_ORDER[static_cast<std::size_t>(row * WYBOR_COLUMNS + column)];
+    return slotRect(slot).contains(position) ? slot : -1;
+}
+
+bool WyborWidget::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const int slot = slotAt(help->pos());
+    if (slot < 0)
+        QToolTip::hideText();
+    else {
+        const std::string_view name = NAZWY_ZNAKOW[static_cast<std::size_t>(slot)];
+        QToolTip::showText(help->globalPos(), QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())), this,
+                           slotRect(slot));
+    }
+    return true;
+}
+
+void WyborWidget::paintEvent(QPaintEvent*) {
+    QPainter(this).drawImage(rect(), image_);
+}
+
+void WyborWidget::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton ? slotAt(event->pos()) : -1;
+}
+
+void WyborWidget::mouseReleaseEvent(QMouseEvent* event) {
+    const int slot = pressed_;
+    pressed_ = -1;
+    if (slot >= 0 && event->button() == Qt::LeftButton && slotAt(event->pos()) == slot && onClick)
+        onClick(slot);
+}
+
+void ObrazWidget::showObraz(ObrazRef ref, const Obrazki& obrazki) {
+    if (obrazki_ && ref_ == ref && wersja_ == obrazki.wersja())
+        return;
+    obrazki_ = &obrazki;
+    wersja_ = obrazki.wersja();
+    ref_ = ref;
+    update();
+}
+
+void ObrazWidget::paintEvent(QPaintEvent*) {
+    if (!obrazki_)
+        return;
+    QPainter painter(this);
+    if (width() >= SLOT_SIDE)
+        painter.drawImage(QPoint(1, 1), imageOver(obrazki_->large(ref_), OBRAZ_SIDE));
+    else if (devicePixelRatioF() > 1) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(rect(), imageOver(obrazki_->large(ref_), OBRAZ_SIDE));
+    } else
+        painter.drawImage(QPoint(0, 0), imageOver(obrazki_->small(ref_), KRATKA_SIDE));
+    drawBorder(painter, rect());
+}
+
+} // namespace dorva

@@ -1,0 +1,89 @@
+// The widgets that show tiles: board, picker, and single pictures.
+#pragma once
+
+#include "qt/obrazki.h"
+#include "shell/okno.h"
+
+#include <QWidget>
+
+#include <functional>
+
+namespace dorva {
+
+// The grey behind boards and pictures.
+inline constexpr unsigned SZARY = 0xFF808080;
+
+// The 800 cells of the board in one widget. Repaints only the cells that changed.
+class PlanszaWidget : public QWidget {
+public:
+    explicit PlanszaWidget(QWidget* parent);
+
+    // A press with the button that was pressed, and a move with the buttons held. While a button is held,
+    // every cell on the way from the last pointer position is reported.
+    std::function<void(int cell, int button)> onPress, onMove;
+
+    void showOkno(const Okno&, const Obrazki&);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+
+private:
+    [[nodiscard]] int cellSide() const; // of the composed image, in its pixels
+    void compose();
+    void composeCell(int cell);
+
+    const Obrazki* obrazki_ = nullptr;
+    unsigned wersja_ = 0;
+    std::array<ObrazRef, PLANSZA_CELLS> refs_{};
+    int obrys_ = -1;
+    QImage image_;
+    QPoint pointer_; // in cells; may lie outside the board during a drag
+};
+
+// The two visible rows of the tile picker in one widget.
+class WyborWidget : public QWidget {
+public:
+    explicit WyborWidget(QWidget* parent);
+
+    // A click on a slot: pressed and released within it.
+    std::function<void(int slot)> onClick;
+
+    void showOkno(const Okno&, const Obrazki&);
+
+    // The rectangle of a visible slot, its border included; empty for a hidden one.
+    [[nodiscard]] static QRect slotRect(int slot);
+
+protected:
+    bool event(QEvent*) override; // tool tips by slot
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+private:
+    [[nodiscard]] static int slotAt(QPoint); // -1 for none
+
+    unsigned wersja_ = 0;
+    std::array<ObrazRef, ZNAKI_COUNT> refs_{};
+    QImage image_;
+    int pressed_ = -1;
+};
+
+// The picture of one tile with a thin border: 32 x 32 within 34 x 34 pixels, or 16 x 16 with the border
+// laid over its rim.
+class ObrazWidget : public QWidget {
+public:
+    using QWidget::QWidget;
+    void showObraz(ObrazRef, const Obrazki&);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    const Obrazki* obrazki_ = nullptr;
+    unsigned wersja_ = 0;
+    ObrazRef ref_{};
+};
+
+} // namespace dorva

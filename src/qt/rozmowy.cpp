@@ -1,0 +1,121 @@
+#include "qt/rozmowy.h"
+
+#include "shell/pliki.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+
+namespace dorva {
+namespace {
+
+namespace fs = std::filesystem;
+
+QString text(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QString toQString(const fs::path& path) {
+    return QFile::decodeName(QByteArray::fromStdString(path.string()));
+}
+
+fs::path toPath(const QString& name) {
+    return QFile::encodeName(name).toStdString();
+}
+
+constexpr QMessageBox::Icon iconOf(Ikona ikona) {
+    switch (ikona) {
+    case Ikona::Critical:
+        return QMessageBox::Critical;
+    case Ikona::Warning:
+        return QMessageBox::Warning;
+    default:
+        return QMessageBox::Information;
+    }
+}
+
+// "label|pattern|label|pattern" to the dialog's "label (pattern)" each. "*.*" means all files, also those
+// without a dot.
+QStringList nameFilters(std::string_view filter) {
+    const QStringList parts = text(filter).split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+        filters += parts[i] + " (" + (parts[i + 1] == "*.*" ? QString("*") : parts[i + 1]) + ")";
+    return filters;
+}
+
+QString startFolder(const fs::path& start) {
+    std::error_code error;
+    return toQString(fs::is_directory(start, error) ? start : start.parent_path());
+}
+
+std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, const QString& accept) {
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(nameFilters(question.filter));
+    dialog.setDirectory(startFolder(question.start));
+    dialog.setLabelText(QFileDialog::Accept, accept);
+    dialog.setLabelText(QFileDialog::Reject, "Anuluj");
+    dialog.setLabelText(QFileDialog::LookIn, "Szukaj w:");
+    dialog.setLabelText(QFileDialog::FileName, "Nazwa pliku:");
+    dialog.setLabelText(QFileDialog::FileType, "Pliki typu:");
+    if (!question.name.empty())
+        dialog.selectFile(QString::fromStdString(question.name));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return toPath(dialog.selectedFiles().constFirst());
+}
+
+bool hasInterpreterLine(const fs::path& program) {
+    const auto start = readFirst(SYSTEM_PLIKOW, program, 2);
+    return start && (*start)[0] == '#' && (*start)[1] == '!';
+}
+
+} // namespace
+
+bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
+    QMessageBox box(iconOf(komunikat.ikona), text(komunikat.title), text(komunikat.text), QMessageBox::NoButton,
+                    parent);
+    box.setTextFormat(Qt::PlainText);
+    const bool yesNo = komunikat.przyciski == Przyciski::YesNo;
+    QPushButton* accept = box.addButton(yesNo ? "Tak" : "OK", QMessageBox::AcceptRole);
+    QPushButton* last = accept;
+    if (komunikat.przyciski != Przyciski::Ok)
+        last = box.addButton(yesNo ? "Nie" : "Anuluj", QMessageBox::RejectRole);
+    // What can't be undone must not hang on a key pressed too often.
+    box.setDefaultButton(komunikat.ikona == Ikona::Warning ? last : accept);
+    box.setEscapeButton(last);
+    box.exec();
+    return box.clickedButton() == accept;
+}
+
+std::optional<fs::path> askOpen(QWidget* parent, const DialogPliku& question) {
+    QFileDialog dialog(parent, "Otwieranie");
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return ask(dialog, question, "Otwórz");
+}
+
+std::optional<fs::path> askSave(QWidget* parent, const DialogPliku& question) {
+    QFileDialog dialog(parent, "Zapisywanie jako");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    return ask(dialog, question, "Zapisz");
+}
+
+void startDetached(const fs::path& program) {
+    if (!lengthOf(SYSTEM_PLIKOW, program))
+        return;
+    const bool script = program.extension() == ".BAT" && !hasInterpreterLine(program);
+    const QString name = toQString(program);
+    QProcess process;
+    process.setProgram(script ? "sh" : name);
+    process.setArguments(script ? QStringList{name} : QStringList{});
+    process.setWorkingDirectory(QDir::currentPath());
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.startDetached();
+}
+
+} // namespace dorva
