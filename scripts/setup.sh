@@ -3,7 +3,7 @@
 # be installed, names what is missing; the caller goes on with what can be built without it.
 set -u
 
-packages="cmake ninja-build g++ qt6-base-dev libgtest-dev libbenchmark-dev cc65 fonts-liberation fonts-dejavu-core"
+packages="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n libgtest-dev libbenchmark-dev cc65 fonts-liberation fonts-dejavu-core"
 
 if ! command -v dpkg-query >/dev/null 2>&1; then
     for tool in cmake ninja c++ ca65; do

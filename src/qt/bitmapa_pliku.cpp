@@ -5,6 +5,8 @@
 #include <QBuffer>
 #include <QImageReader>
 
+#include <cstdlib>
+
 namespace dorva {
 namespace {
 
@@ -46,7 +48,8 @@ std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width,
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, "bmp");
     reader.setAutoDetectImageFormat(false);
-    const QSize size = reader.size();
+    const QSize told = reader.size();
+    const QSize size(told.width(), std::abs(told.height())); // a height below 0: the rows run from the top down
     if (size.isEmpty() || qint64(size.width()) * size.height() > PIXELS_MAX || !isWhole(bytes, size))
         return std::nullopt;
     const QImage image = reader.read();

@@ -14,7 +14,7 @@ namespace {
 constexpr int FONT_PIXELS = 11;
 constexpr int FONT_STALY_PIXELS = 14, ZNAK_PIXELS = 8;
 constexpr QColor WYBRANY_KOLOR(0x8C, 0xB4, 0xE4); // of a button that is selected
-constexpr char16_t SYMBOLE_STEROWANIA = 0x2400; // pictures of the control codes
+constexpr char16_t SYMBOLE_STEROWANIA = 0x2400;   // pictures of the control codes
 constexpr char16_t SYMBOL_DEL = 0x2421;
 constexpr Bajt KOD_DEL = 127;
 
@@ -43,7 +43,7 @@ QFont fontStaly() {
     font.setFixedPitch(true);
     for (int size = FONT_STALY_PIXELS; size > 6; --size) {
         font.setPixelSize(size);
-        if (QFontMetrics(font).horizontalAdvance(QChar('W')) <= ZNAK_PIXELS)
+        if (QFontMetricsF(font).horizontalAdvance(QChar('W')) <= ZNAK_PIXELS)
             break;
     }
     return font;
@@ -128,6 +128,17 @@ void Etykieta::mouseReleaseEvent(QMouseEvent* event) {
     pressed_ = false;
     if (clicked && onClick)
         onClick();
+}
+
+void ProbkaKoloru::paintEvent(QPaintEvent* event) {
+    constexpr QColor OUTLINE(0, 0, 0, 140);
+    const QPoint AROUND[]{{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
+    QPainter painter(this);
+    painter.setPen(OUTLINE);
+    for (QPoint offset : AROUND)
+        painter.drawText(contentsRect().translated(offset), Qt::AlignCenter, text());
+    painter.end();
+    Etykieta::paintEvent(event);
 }
 
 void PoleEdycji::focusInEvent(QFocusEvent* event) {

@@ -57,6 +57,15 @@ private:
     bool pressed_ = false;
 };
 
+// A swatch: its figure has a dark outline, so that white is read on light colours too.
+class ProbkaKoloru : public Etykieta {
+public:
+    using Etykieta::Etykieta;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
 // A text box that selects its whole text when it is entered, by key or by mouse, and tells when it is
 // entered and left. A change of the active window is neither.
 class PoleEdycji : public QLineEdit {

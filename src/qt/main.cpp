@@ -1,11 +1,9 @@
+#include "qt/aplikacja.h"
 #include "qt/okno_glowne.h"
 #include "shell/start.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QScreen>
-#include <QStyleFactory>
-#include <QTranslator>
 
 namespace {
 
@@ -26,10 +24,7 @@ void centre(QWidget& window) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    QApplication::setStyle("fusion");
-    QTranslator polish; // for the texts of Qt's own dialogs
-    if (polish.load("qtbase_pl", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&polish);
+    dorva::setUpApplication(application);
 
     dorva::Edytor edytor;
     dorva::OknoGlowne okno(edytor);

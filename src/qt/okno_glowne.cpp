@@ -44,6 +44,13 @@ void setColour(QWidget* widget, QPalette::ColorRole role, const QColor& colour) 
     widget->setPalette(palette);
 }
 
+template <typename Label> Label* makeLabel(const Kontrolka& k, QWidget* parent) {
+    auto* label = new Label(text(k.caption), parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    return label;
+}
+
 // Makes the widget that a row of the catalogue asks for.
 QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
     switch (k.rodzaj) {
@@ -64,20 +71,26 @@ QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
     }
     case Rodzaj::Znacznik:
         return new QCheckBox(text(k.caption), parent);
-    case Rodzaj::Etykieta:
-    case Rodzaj::Figura:
-    case Rodzaj::Probka:
+    case Rodzaj::Etykieta: {
+        auto* label = makeLabel<Etykieta>(k, parent);
+        label->setWordWrap(true);
+        return label;
+    }
     case Rodzaj::Nazwa: {
-        auto* label = new Etykieta(text(k.caption), parent);
-        label->setTextFormat(Qt::PlainText);
-        label->setAlignment(k.rodzaj == Rodzaj::Nazwa ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter);
-        label->setWordWrap(k.rodzaj == Rodzaj::Etykieta);
-        if (k.rodzaj == Rodzaj::Figura || k.rodzaj == Rodzaj::Probka)
-            label->setFrameStyle(QFrame::Box | QFrame::Plain);
-        if (k.rodzaj == Rodzaj::Probka) {
-            label->setAutoFillBackground(true);
-            label->setFont(fontFigury());
-        }
+        auto* label = makeLabel<Etykieta>(k, parent);
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        return label;
+    }
+    case Rodzaj::Figura: {
+        auto* label = makeLabel<Etykieta>(k, parent);
+        label->setFrameStyle(QFrame::Box | QFrame::Plain);
+        return label;
+    }
+    case Rodzaj::Probka: {
+        auto* label = makeLabel<ProbkaKoloru>(k, parent);
+        label->setFrameStyle(QFrame::Box | QFrame::Plain);
+        label->setAutoFillBackground(true);
+        label->setFont(fontFigury());
         return label;
     }
     case Rodzaj::Pasek: {
@@ -158,6 +171,7 @@ OknoGlowne::OknoGlowne(Edytor& e) : e_(e) {
     setTabOrder();
     bindHooks();
     bindEvents();
+    find<QWidget>("optEtapNR", 0)->setFocus();
 }
 
 OknoGlowne::~OknoGlowne() = default;
@@ -268,9 +282,16 @@ void OknoGlowne::showRecord() {
 
 void OknoGlowne::showOptions() {
     const Okno& okno = e_.okno;
-    for (const OpcjeOkna& o : OPCJE)
-        if (auto* selected = find<QPushButton>(o.name, okno.*o.selected); !selected->isChecked())
-            selected->setChecked(true);
+    for (const OpcjeOkna& o : OPCJE) {
+        auto* selected = find<QPushButton>(o.name, okno.*o.selected);
+        if (shownOnce_ && selected->isChecked())
+            continue;
+        selected->setChecked(true);
+        // the Tab key enters a group at its selected button
+        for (int index = 0; index < o.count; ++index)
+            find<QPushButton>(o.name, index)->setFocusPolicy(Qt::ClickFocus);
+        selected->setFocusPolicy(Qt::StrongFocus);
+    }
 
     auto* ostatni = find<QCheckBox>("chkOstatni");
     ostatni->setTristate(okno.chkOstatni == 2);

@@ -1,0 +1,14 @@
+// The window's tests need an application; they run without a display.
+#include "qt/aplikacja.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    ::testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    dorva::setUpApplication(application);
+    return RUN_ALL_TESTS();
+}

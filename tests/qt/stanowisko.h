@@ -1,0 +1,106 @@
+// A desk with a real window on it: widgets are found by their names, dialogs are answered.
+#pragma once
+
+#include "pulpit.h"
+#include "qt/okno_glowne.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace dorva::test {
+
+// A strip of 4096 x 32 in which each tile is a pattern of 2 x 2 dots of its own.
+inline Bitmapa patternStrip(int swiat) {
+    Bitmapa strip{PASEK_WIDTH, OBRAZ_SIDE, {}};
+    strip.piksele.resize(static_cast<std::size_t>(PASEK_WIDTH * OBRAZ_SIDE));
+    for (int y = 0; y < OBRAZ_SIDE; ++y)
+        for (int x = 0; x < PASEK_WIDTH; ++x) {
+            const int tile = x / OBRAZ_SIDE, dot = (y / 2 * 16 + x % OBRAZ_SIDE / 2) & 0xFF;
+            strip.piksele[static_cast<std::size_t>(y * PASEK_WIDTH + x)] =
+                0xFF000000U | static_cast<std::uint32_t>(tile << 16 | dot << 8 | (swiat * 80 + 20));
+        }
+    return strip;
+}
+
+class Stanowisko : public Pulpit {
+protected:
+    void SetUp() override {
+        Pulpit::SetUp();
+        okno = std::make_unique<OknoGlowne>(e);
+        e.haki.loadPicture = [this](const fs::path& path, int, int) -> std::optional<Bitmapa> {
+            const auto name = path.filename().string();
+            return withStrips ? std::optional(patternStrip(name[3] - '0')) : std::nullopt;
+        };
+    }
+
+    void TearDown() override {
+        okno.reset();
+        Pulpit::TearDown();
+    }
+
+    void open() {
+        start();
+        okno->showRecord();
+        okno->show();
+        okno->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(okno.get()));
+    }
+
+    template <typename Widget = QWidget> Widget* find(const QString& name) const {
+        auto* widget = okno->findChild<Widget*>(name);
+        if (!widget)
+            ADD_FAILURE() << "no widget " << name.toStdString();
+        return widget;
+    }
+
+    void click(const QString& name) { QTest::mouseClick(find(name), Qt::LeftButton); }
+
+    // Types text as a keyboard of any language does.
+    static void type(QWidget* widget, const QString& text) {
+        for (QChar c : text) {
+            QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+            QApplication::sendEvent(widget, &event);
+        }
+    }
+
+    // Runs `answer` once a modal dialog is open.
+    template <typename Dialog, typename Answer> void whenAsked(Answer answer) {
+        QTimer::singleShot(0, [this, answer] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (dialog)
+                answer(dialog);
+            else
+                whenAsked<Dialog>(answer);
+        });
+    }
+
+    // Answers the next message box with the button of this caption and keeps what it said.
+    void whenAskedPress(const QString& caption) {
+        whenAsked<QMessageBox>([this, caption](QMessageBox* box) {
+            said.append(box->windowTitle() + "|" + box->text());
+            for (QAbstractButton* button : box->buttons())
+                if (button->text() == caption)
+                    return button->click();
+            ADD_FAILURE() << "no button " << caption.toStdString();
+            box->reject();
+        });
+    }
+
+    [[nodiscard]] Znak cellOf(int cell) const { return e.okno.imgPG[static_cast<std::size_t>(cell)].znak; }
+
+    [[nodiscard]] static QPoint centreOf(int cell) {
+        return {cell % PLANSZA_COLUMNS * 16 + 8, cell / PLANSZA_COLUMNS * 16 + 8};
+    }
+
+    bool withStrips = true;
+    std::unique_ptr<OknoGlowne> okno;
+    QStringList said;
+};
+
+} // namespace dorva::test

@@ -1,0 +1,144 @@
+#include "stanowisko.h"
+
+#include "tiles/zestaw.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+
+namespace dorva::test {
+namespace {
+
+// Sends a pointer event as a desktop would, with any gap to the one before.
+void pointer(QWidget* widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
+    QMouseEvent event(type, at, widget->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+class Malowanie : public Stanowisko {
+protected:
+    void SetUp() override {
+        Stanowisko::SetUp();
+        open();
+        board = find("imgPG");
+    }
+    void press(int cell, Qt::MouseButton button = Qt::LeftButton) {
+        pointer(board, QEvent::MouseButtonPress, centreOf(cell), button, button);
+    }
+    void moveTo(QPoint at, Qt::MouseButtons held) { pointer(board, QEvent::MouseMove, at, Qt::NoButton, held); }
+    void clickSlot(int slot) {
+        const auto place = std::find(WYBOR_ORDER.begin(), WYBOR_ORDER.end(), slot) - WYBOR_ORDER.begin();
+        QTest::mouseClick(find("imgZnak"), Qt::LeftButton, {},
+                          QPoint(int(place) % 22 * 32 + 16, int(place) / 22 * 32 + 16));
+    }
+    QWidget* board = nullptr;
+};
+
+TEST_F(Malowanie, AFastDragLeavesNoGapsAndMayLeaveTheBoard) {
+    clickSlot(14);
+    press(5 * 40 + 3);
+    moveTo(centreOf(5 * 40 + 23), Qt::LeftButton);
+    for (int column = 3; column <= 23; ++column)
+        EXPECT_EQ(cellOf(5 * 40 + column), BOMBA) << column;
+    moveTo(centreOf(15 * 40 + 23) + QPoint(10 * 16, 0), Qt::LeftButton);
+    for (int step = 0; step <= 10; ++step)
+        EXPECT_EQ(cellOf((5 + step) * 40 + 23 + step), BOMBA) << step;
+    // out over the right edge and back in further up: no cell in between is touched
+    moveTo(centreOf(15 * 40 + 39) + QPoint(100, 0), Qt::LeftButton);
+    moveTo(centreOf(2 * 40 + 39) + QPoint(100, 0), Qt::LeftButton);
+    EXPECT_NE(cellOf(8 * 40 + 39), BOMBA);
+    moveTo(centreOf(2 * 40 + 36), Qt::LeftButton);
+    EXPECT_EQ(cellOf(2 * 40 + 36), BOMBA);
+    EXPECT_EQ(cellOf(2 * 40 + 39), BOMBA);
+}
+
+TEST_F(Malowanie, ButtonsAndTools) {
+    clickSlot(13);
+    press(85);
+    press(86);
+    pointer(board, QEvent::MouseButtonDblClick, centreOf(87), Qt::LeftButton, Qt::LeftButton);
+    EXPECT_EQ(cellOf(85), KLUCZ);
+    EXPECT_EQ(cellOf(87), KLUCZ); // the second press of a double click is a press
+    clickSlot(10);
+    press(85, Qt::RightButton);
+    EXPECT_EQ(e.okno.imgBufor.znak, KLUCZ);
+    EXPECT_EQ(find<QLabel>("lblKodBufor(1)")->text(), "$D");
+    click("optPPM(1)");
+    press(85, Qt::RightButton);
+    moveTo(centreOf(87), Qt::RightButton);
+    EXPECT_EQ(cellOf(85), ZIEMIA);
+    EXPECT_EQ(cellOf(86), KLUCZ);
+    const Znak before = cellOf(90);
+    press(90, Qt::MiddleButton);
+    moveTo(centreOf(92), Qt::LeftButton | Qt::RightButton);
+    EXPECT_EQ(cellOf(90), before);
+    EXPECT_NE(cellOf(92), KLUCZ);
+    EXPECT_EQ(e.okno.obrys, 92);
+}
+
+TEST_F(Malowanie, AUniqueTileIsPlacedOnceAndItsSlotRests) {
+    for (ZnakPole& cell : e.okno.imgPG)
+        cell.znak = ZIEMIA;
+    clickSlot(12);
+    press(100);
+    clickSlot(63);
+    press(200);
+    moveTo(centreOf(203), Qt::LeftButton);
+    EXPECT_EQ(cellOf(200), DORVA);
+    EXPECT_EQ(cellOf(201), ZIEMIA);
+    clickSlot(63);
+    EXPECT_EQ(e.okno.imgBufor.znak, ZIEMIA);
+    EXPECT_EQ(find<QLabel>("lblInfo(0)")->text(), "ok");
+    EXPECT_EQ(find<QLabel>("lblInfo(1)")->palette().color(QPalette::WindowText), QColor(255, 0, 0));
+}
+
+TEST_F(Malowanie, OneCellIsRepaintedForOneStroke) {
+    struct Counter : QObject {
+        QRegion region;
+        bool eventFilter(QObject*, QEvent* event) override {
+            if (event->type() == QEvent::Paint)
+                region += static_cast<QPaintEvent*>(event)->region();
+            return false;
+        }
+    } counter;
+    QTest::qWait(50);
+    board->installEventFilter(&counter);
+    clickSlot(7);
+    press(10 * 40 + 10);
+    QTest::qWait(50);
+    EXPECT_EQ(counter.region, QRegion(160, 160, 16, 16));
+}
+
+TEST_F(Malowanie, PicturesAreTheStripsPixelsInEveryWorld) {
+    for (int swiat : {0, 1, 2}) {
+        click(QString("optObiektyNR(%1)").arg(swiat));
+        e.okno.imgPG[50].znak = znak(133);
+        e.okno.imgPG[51].znak = znak(70); // no tile
+        optObiektyNR_Click(e, swiat);
+        okno->showRecord();
+        const QImage shot = board->grab().toImage();
+        const Bitmapa strip = patternStrip(swiat);
+        const auto stripPixel = [&](Znak z, int x, int y) {
+            const int position = kod(z) < 64 ? kod(z) : kod(z) - 64;
+            return QRgb(strip.piksele[std::size_t(y * PASEK_WIDTH + position * 32 + x)]);
+        };
+        int wrong = 0;
+        for (int cell = 0; cell < PLANSZA_CELLS; ++cell)
+            for (int y = 0; y < 16; ++y)
+                for (int x = 0; x < 16; ++x)
+                    if (isTile(cellOf(cell)))
+                        wrong += shot.pixel(cell % 40 * 16 + x, cell / 40 * 16 + y) !=
+                                 stripPixel(cellOf(cell), 2 * x, 2 * y);
+        EXPECT_EQ(wrong, 0) << "world " << swiat;
+        EXPECT_EQ(cellOf(51), znak(70));
+
+        const QImage picker = find("imgZnak")->grab().toImage();
+        const QImage icon = find("imgInfo(4)")->grab().toImage();
+        EXPECT_EQ(picker.pixel(3 * 32 + 1 + 10, 1 + 20), stripPixel(znak(3), 10, 20));
+        EXPECT_EQ(picker.pixel(21 * 32 + 1 + 31, 32 + 1 + 31), stripPixel(DORVA, 31, 31));
+        EXPECT_EQ(icon.pixel(5, 6), stripPixel(KLUCZ, 10, 12));
+        EXPECT_EQ(find("imgBufor")->grab().toImage().pixel(7, 8), stripPixel(NIC, 6, 7));
+    }
+}
+
+} // namespace
+} // namespace dorva::test

@@ -1,0 +1,189 @@
+#include "stanowisko.h"
+
+#include "shell/pola.h"
+#include "tiles/kolory.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QLabel>
+#include <QScrollBar>
+
+namespace dorva::test {
+namespace {
+
+class OknoTest : public Stanowisko {
+protected:
+    QLineEdit* box(const char* name) { return find<QLineEdit>(name); }
+    QRgb colour(const QString& name, QPalette::ColorRole role) { return find(name)->palette().color(role).rgb(); }
+};
+
+TEST_F(OknoTest, StagesAreSwitchedByMouseAndArrowKeys) {
+    open();
+    e.okno.imgPG[300].znak = KLUCZ;
+    click("optEtapNR(1)");
+    EXPECT_EQ(e.NumerEtapu, 2);
+    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 300], 13);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(e.NumerEtapu, 3);
+    click("optEtapNR(31)");
+    EXPECT_TRUE(find<QCheckBox>("chkOstatni")->isChecked());
+    EXPECT_FALSE(find<QCheckBox>("chkOstatni")->isEnabled());
+    click("optEtapNR(31)"); // selected already
+    EXPECT_EQ(e.NumerEtapu, 32);
+}
+
+TEST_F(OknoTest, AStageThatCannotBeWrittenStaysSelected) {
+    open();
+    fs::remove(etap(1));
+    fs::create_directory(etap(1));
+    e.okno.imgPG[300].znak = BOMBA;
+    whenAskedPress("OK");
+    click("optEtapNR(4)");
+    EXPECT_EQ(said, QStringList("Uwaga!|Nie można zapisać etapu."));
+    EXPECT_TRUE(find<QPushButton>("optEtapNR(0)")->isChecked());
+    EXPECT_FALSE(find<QPushButton>("optEtapNR(4)")->isChecked());
+    EXPECT_EQ(cellOf(300), BOMBA);
+}
+
+TEST_F(OknoTest, TextsAreTypedSelectedAndBroughtToTheirForm) {
+    open();
+    click("txtNazwa");
+    EXPECT_EQ(box("txtNazwa")->selectedText().size(), 32);
+    QTest::keyClicks(box("txtNazwa"), "ala");
+    QTest::keyClick(box("txtNazwa"), Qt::Key_Tab);
+    EXPECT_EQ(box("txtNazwa")->text(), QString(15, ' ') + "ALA" + QString(14, ' '));
+    EXPECT_EQ(QApplication::focusWidget(), box("txtAutor"));
+
+    type(box("txtAutor"), QString::fromUtf8("żółć日"));
+    EXPECT_EQ(box("txtAutor")->text(), QString::fromUtf8("żółć?"));
+    click("txtAutorGry(0)");
+    EXPECT_EQ(box("txtAutor")->text(), QString::fromUtf8("ŻÓŁĆ?") + QString(59, ' '));
+    EXPECT_EQ(e.okno.txtAutor.tekst.znaki.substr(0, 4), "\xAF\xD3\xA3\xC6");
+
+    QTest::keyClick(box("txtAutorGry(0)"), Qt::Key_Delete);
+    EXPECT_EQ(box("txtAutorGry(0)")->text(), QString(20, ' '));
+    EXPECT_EQ(box("txtAutorGry(0)")->selectedText().size(), 20);
+    QTest::keyClicks(box("txtAutorGry(0)"), QString(30, 'x'));
+    EXPECT_EQ(box("txtAutorGry(0)")->text(), QString(20, 'x'));
+    QTest::mousePress(find("imgPG"), Qt::LeftButton, {}, centreOf(200)); // painting does not leave a box
+    EXPECT_EQ(box("txtAutorGry(0)")->text(), QString(20, 'x'));
+    okno->close();
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA")[0], 'x');
+}
+
+TEST_F(OknoTest, TypingInTheMiddleKeepsTheCursor) {
+    open();
+    auto* autor = box("txtAutor");
+    autor->setFocus();
+    autor->setCursorPosition(3);
+    QTest::keyClick(autor, Qt::Key_Delete);
+    type(autor, QString::fromUtf8("日"));
+    EXPECT_EQ(autor->text()[3], '?');
+    EXPECT_EQ(autor->cursorPosition(), 4);
+}
+
+TEST_F(OknoTest, TextThatABoxCannotShowSurvives) {
+    Bajty title(60, 'A');
+    for (std::size_t i = 0; i < 33; ++i)
+        title[i] = static_cast<Bajt>(i);
+    title[40] = 127, title[41] = 0x81, title[42] = 0xAD;
+    writeFile(base / "PLIKI/DP1.DTA", title);
+    open();
+    for (const char* name : {"txtAutorGry(0)", "txtAutorGry(1)"})
+        EXPECT_EQ(box(name)->text().size(), 20);
+    okno->close();
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), title);
+}
+
+TEST_F(OknoTest, FiguresAndBoxesAnswerClicks) {
+    Bajty image = sampleEtap(1);
+    image[uklad::OSTATNI] = 2;
+    image[uklad::PLANSZA + 100] = image[uklad::PLANSZA + 101] = 12;
+    image[uklad::CEL_MASEK] = 99;
+    writeFile(etap(1), image);
+    open();
+    auto* ostatni = find<QCheckBox>("chkOstatni");
+    EXPECT_EQ(ostatni->checkState(), Qt::PartiallyChecked);
+    ostatni->click();
+    EXPECT_EQ(ostatni->checkState(), Qt::Unchecked);
+    ostatni->click();
+    EXPECT_EQ(e.okno.chkOstatni, 1);
+
+    EXPECT_EQ(colour("lblInfo(3)", QPalette::WindowText), qRgb(255, 0, 0));
+    click("lblInfo(4)");
+    EXPECT_EQ(e.okno.hscMonet, 99);
+    click("lblInfo(3)");
+    auto* bar = find<QScrollBar>("hscMonet");
+    const QString masks = find<QLabel>("lblInfo(2)")->text();
+    EXPECT_EQ(QString::number(bar->value()), masks);
+    EXPECT_NE(colour("lblInfo(3)", QPalette::WindowText), qRgb(255, 0, 0));
+    bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    EXPECT_EQ(find<QLabel>("lblInfo(3)")->text(), QString::number(masks.toInt() + 1));
+    EXPECT_EQ(colour("lblInfo(2)", QPalette::WindowText), qRgb(255, 0, 0));
+}
+
+TEST_F(OknoTest, ThePaletteWritesIntoTheSlotThatWasPicked) {
+    open();
+    click("lblKolor(4)");
+    auto* dialog = find<QDialog>("dlgPaleta");
+    ASSERT_TRUE(dialog->isVisible());
+    EXPECT_FALSE(dialog->isModal());
+    EXPECT_EQ(dialog->size(), QSize(210, 337));
+    EXPECT_EQ(colour("lblKolor(4)", QPalette::WindowText), qRgb(255, 192, 192));
+    EXPECT_EQ(find("picPaleta(90)")->geometry(), QRect(2 * 16, 11 * 16, 17, 17));
+    EXPECT_EQ(find("picPaleta(90)")->toolTip(), "180, $B4");
+    click("picPaleta(90)");
+    EXPECT_EQ(e.okno.lblKolor[4].value, 180);
+    EXPECT_EQ(find<QLabel>("lblWybrany")->text(), "180, $B4");
+    EXPECT_EQ(colour("lblKolor(4)", QPalette::Window), qRgb(0x16, 0x92, 0x12));
+
+    click("lblKolor(11)");
+    EXPECT_EQ(colour("lblKolor(4)", QPalette::WindowText), qRgb(255, 255, 255));
+    click("picPaleta(119)");
+    EXPECT_EQ(find<QLabel>("lblKolor(11)")->text(), "228");
+    click("cmzZamknij");
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(colour("lblKolor(11)", QPalette::WindowText), qRgb(255, 255, 255));
+
+    find<QCheckBox>("chkZachowajKolory")->click();
+    for (const char* name : {"cmdResetKolory", "lblKolor(5)"}) {
+        whenAskedPress("OK");
+        click(name);
+    }
+    EXPECT_EQ(said.size(), 2);
+    EXPECT_FALSE(dialog->isVisible());
+    click("optEtapNR(1)");
+    EXPECT_EQ(find<QLabel>("lblKolor(4)")->text(), "180"); // carried along
+    find<QCheckBox>("chkZachowajKolory")->click();
+    click("lblKolor(0)");
+    okno->close();
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(readFile(etap(2))[uklad::KOLORY + 4], 180);
+}
+
+TEST_F(OknoTest, StartingAndClosingChangesNoFile) {
+    std::vector<Bajty> before;
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        before.push_back(readFile(etap(number)));
+    open();
+    okno->close();
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        EXPECT_EQ(readFile(etap(number)), before[static_cast<std::size_t>(number - 1)]);
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), Bajty(60, 'X'));
+    EXPECT_EQ(namesIn("ETAPY").size(), 32U);
+}
+
+TEST_F(OknoTest, WithoutTileSetsTheDefaultStateIsShown) {
+    for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"})
+        fs::remove(base / "OBIEKTY/ORN_EXPORT" / name);
+    open();
+    EXPECT_EQ(cellOf(0), MUREK_PIONOWY);
+    EXPECT_EQ(cellOf(41), ZIEMIA);
+    const QImage shot = find("imgPG")->grab().toImage();
+    EXPECT_NE(shot.copy(0, 0, 16, 16), shot.copy(16, 16, 16, 16)); // codes are told apart
+    click("optEtapNR(1)");
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.1.kopia"), sampleEtap(1));
+}
+
+} // namespace
+} // namespace dorva::test

@@ -1,0 +1,97 @@
+#include "stanowisko.h"
+
+#include "qt/rozmowy.h"
+#include "stage/archiwum.h"
+
+#include <QFile>
+#include <QFileDialog>
+
+namespace dorva::test {
+namespace {
+
+class Rozmowy : public Stanowisko {
+protected:
+    // Answers the next file dialog with a name, or cancels it where the name is empty.
+    void whenAskedChoose(const fs::path& name) {
+        whenAsked<QFileDialog>([this, name](QFileDialog* dialog) {
+            filters = dialog->nameFilters();
+            proposed = dialog->findChild<QLineEdit*>("fileNameEdit")->text();
+            folder = dialog->directory().absolutePath();
+            if (name.empty())
+                return dialog->reject();
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(name.string()));
+            static_cast<QDialog*>(dialog)->accept();
+        });
+    }
+    QStringList filters;
+    QString proposed, folder;
+};
+
+TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
+    open();
+    const fs::path copy = root / QString::fromUtf8("mój etap").toStdString();
+    whenAskedChoose(copy);
+    QTimer::singleShot(0, [this] { whenAskedPress("OK"); });
+    click("cmdSave");
+    EXPECT_EQ(proposed, "DETAP.1");
+    EXPECT_EQ(folder, QString::fromStdString(fs::canonical(root).string()));
+    EXPECT_EQ(filters, QStringList({"Etap gry (DETAP.*)", "Wszystkie pliki (*.*) (*)"}));
+    EXPECT_EQ(said, QStringList("Informacja|Dane etapu zostały pomyślnie zapisane"));
+    EXPECT_EQ(readFile(copy), sampleEtap(1));
+
+    said.clear();
+    writeFile(copy, Bajty(930, 1));
+    whenAskedChoose(copy);
+    QTimer::singleShot(0, [this] { whenAskedPress("OK"); });
+    click("cmdLoad");
+    EXPECT_EQ(said, QStringList("Uwaga!|Niewłaściwy format pliku!"));
+    writeFile(copy, sampleEtap(9));
+    whenAskedChoose(copy);
+    click("cmdLoad");
+    EXPECT_EQ(find<QLabel>("lblInfo(3)")->text(), "9");
+    EXPECT_EQ(e.NumerEtapu, 1);
+    whenAskedChoose({});
+    click("cmdLoadArch");
+    EXPECT_EQ(find<QLabel>("lblInfo(3)")->text(), "9");
+}
+
+TEST_F(Rozmowy, AnExistingFileIsReplacedOnlyWhenAsked) {
+    open();
+    const fs::path archive = root / "gra.dpa";
+    writeFile(archive, {1, 2, 3});
+    whenAskedChoose(archive);
+    QTimer::singleShot(0, [this] { whenAskedPress("Anuluj"); });
+    click("cmdSaveArch");
+    EXPECT_EQ(said, QStringList("Ostrzeżenie!|Plik już istnieje!\nZastąpić?"));
+    EXPECT_EQ(readFile(archive), (Bajty{1, 2, 3}));
+}
+
+TEST_F(Rozmowy, ClearingAsksAndStays) {
+    open();
+    whenAskedPress("Nie");
+    click("cmdCzysc");
+    EXPECT_EQ(cellOf(45), znak(45));
+    whenAskedPress("Tak");
+    click("cmdCzysc");
+    EXPECT_EQ(cellOf(45), ZIEMIA);
+    EXPECT_EQ(find<QLineEdit>("txtNazwa")->text(), QString(32, ' '));
+}
+
+TEST_F(Rozmowy, TheLauncherRunsBesideTheEditor) {
+    open();
+    const std::string script = ": a batch file\npwd > PLIKI/DZIALA.TXT\n";
+    writeFile(base / "PLIKI/DP3.BAT", Bajty(script.begin(), script.end()));
+    whenAskedPress("Tak");
+    click("cmdTest");
+    EXPECT_EQ(said, QStringList("Dorva Planszownik|Został utworzony plik XEX z testowanym etapem.\n"
+                                "Uruchomić plik na emulatorze Atari?"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !readFile(base / "PLIKI/DZIALA.TXT").empty(); }));
+    const Bajty folderBytes = readFile(base / "PLIKI/DZIALA.TXT");
+    EXPECT_EQ(std::string(folderBytes.begin(), folderBytes.end()), fs::canonical(base).string() + "\n");
+
+    startDetached(base / "PLIKI/BRAK.BAT"); // nothing happens, nothing is created
+    EXPECT_FALSE(fs::exists(base / "PLIKI/BRAK.BAT"));
+}
+
+} // namespace
+} // namespace dorva::test
