@@ -20,6 +20,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -114,6 +115,14 @@ QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
         return new WyborWidget(parent);
     }
     return nullptr;
+}
+
+// To the right of the window where the screen has room, else over its left part: swatches stay in sight.
+void placeBeside(QWidget& dialog, const QWidget& window) {
+    constexpr int GAP = 8;
+    const QRect frame = window.frameGeometry();
+    const bool room = window.screen()->availableGeometry().right() > frame.right() + dialog.width() + 2 * GAP;
+    dialog.move(room ? frame.right() + GAP : frame.right() - window.width() / 4 - dialog.width(), frame.top() + GAP);
 }
 
 struct PoleOkna {
@@ -358,6 +367,7 @@ void OknoGlowne::showPaleta() {
         return;
     if (!dlgPaleta_) {
         dlgPaleta_ = new PaletaOkno(this);
+        placeBeside(*dlgPaleta_, *this);
         dlgPaleta_->onPick = [this](int index) { run([=](Edytor& e) { picPaleta_Click(e, index); }); };
         dlgPaleta_->onClose = [this] { run(closePaleta); };
     }

@@ -1,0 +1,111 @@
+// Start-up to the first painted frame: the editor with its whole working folder beside a bare window of the
+// same size. Each run is a process of its own; editor and bare window take turns.
+//
+//     dorva_bench_start FOLDER        FOLDER is a program folder, for example planszownik/
+#include "shell/start.h"
+#include "qt/aplikacja.h"
+#include "qt/okno_glowne.h"
+
+#include <QApplication>
+#include <QPaintEvent>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+// Ends the process as soon as the window has painted for the first time.
+class FirstFrame : public QObject {
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() != QEvent::Paint)
+            return false;
+        object->removeEventFilter(this);
+        QMetaObject::invokeMethod(
+            qApp, [] { ::_exit(0); }, Qt::QueuedConnection);
+        return false;
+    }
+};
+
+void runEditor(int argc, char** argv, const std::filesystem::path& folder) {
+    QApplication application(argc, argv);
+    dorva::setUpApplication(application);
+    dorva::Edytor edytor;
+    dorva::OknoGlowne okno(edytor);
+    dorva::Form_Load(edytor, folder, "0.0.0");
+    okno.showRecord();
+    FirstFrame firstFrame;
+    okno.installEventFilter(&firstFrame);
+    okno.show();
+    QApplication::exec();
+}
+
+void runBare(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QWidget window;
+    window.setFixedSize(dorva::OKNO_WIDTH, dorva::OKNO_HEIGHT);
+    FirstFrame firstFrame;
+    window.installEventFilter(&firstFrame);
+    window.show();
+    QApplication::exec();
+}
+
+struct Figures {
+    double milliseconds;
+    long peakKilobytes;
+};
+
+Figures measure(char* self, const char* mode, char* folder) {
+    const auto begin = std::chrono::steady_clock::now();
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::execl("/proc/self/exe", self, mode, folder, nullptr);
+        ::_exit(127);
+    }
+    rusage usage{};
+    int status = 0;
+    ::wait4(child, &status, 0, &usage);
+    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begin;
+    if (status != 0)
+        std::fprintf(stderr, "%s: the run failed\n", mode);
+    return {took.count(), usage.ru_maxrss};
+}
+
+template <typename Member> double median(std::vector<Figures> runs, Member member) {
+    std::sort(runs.begin(), runs.end(), [member](const Figures& a, const Figures& b) { return a.*member < b.*member; });
+    return static_cast<double>(runs[runs.size() / 2].*member);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (argc < 2) {
+        std::fprintf(stderr, "usage: dorva_bench_start FOLDER\n");
+        return 2;
+    }
+    if (argc == 3) {
+        const std::filesystem::path folder = std::filesystem::absolute(argv[2]);
+        std::strcmp(argv[1], "editor") == 0 ? runEditor(argc, argv, folder) : runBare(argc, argv);
+        return 1;
+    }
+    constexpr int RUNS = 21;
+    std::vector<Figures> editor, bare;
+    for (int run = 0; run < RUNS; ++run) {
+        bare.push_back(measure(argv[0], "bare", argv[1]));
+        editor.push_back(measure(argv[0], "editor", argv[1]));
+    }
+    const double ms = median(editor, &Figures::milliseconds), bareMs = median(bare, &Figures::milliseconds);
+    const double kb = median(editor, &Figures::peakKilobytes), bareKb = median(bare, &Figures::peakKilobytes);
+    std::printf("start-up to first frame: %.1f ms, bare window %.1f ms, ratio %.2f\n", ms, bareMs, ms / bareMs);
+    std::printf("peak memory: %.1f MiB, bare window %.1f MiB, %.1f MiB more\n", kb / 1024, bareKb / 1024,
+                (kb - bareKb) / 1024);
+    return 0;
+}
