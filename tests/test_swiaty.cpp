@@ -1,0 +1,266 @@
+// The worlds and stages as the build has made them, and the compiler that makes them.
+#include "etapy.h"
+#include "pulpit.h"
+
+#include <set>
+
+namespace dorva::test {
+namespace {
+
+const fs::path DANE = DORVA_DANE;
+constexpr std::array<const char*, SWIATY_COUNT> ZESTAWY{"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"};
+
+Bajty readDane(const std::string& name) {
+    return readFile(DANE / name);
+}
+Bajty readEtap(int number) {
+    return readDane("ETAPY/DETAP." + std::to_string(number));
+}
+int codeAt(const Bajty& etap, int row, int column) {
+    return etap[uklad::PLANSZA + static_cast<std::size_t>(row * PLANSZA_COLUMNS + column)] % INV;
+}
+int countOf(const Bajty& etap, Znak z) {
+    int count = 0;
+    for (int i = 0; i < PLANSZA_CELLS; ++i)
+        count += codeAt(etap, 0, i) == kod(z);
+    return count;
+}
+
+// The pixel of a bitmap of four bits a pixel that stands upright on its last row.
+Rgb pixelOf(const Bajty& bmp, int x, int y) {
+    const auto word = [&](std::size_t at) {
+        return bmp[at] | bmp[at + 1] << 8 | bmp[at + 2] << 16 | bmp[at + 3] << 24;
+    };
+    const int width = word(18), height = word(22), rowBytes = width / 2;
+    const Bajt pair = bmp.at(static_cast<std::size_t>(word(10) + (height - 1 - y) * rowBytes + x / 2));
+    const auto colour = static_cast<std::size_t>(54 + 4 * (x % 2 ? pair & 15 : pair >> 4));
+    return {bmp[colour + 2], bmp[colour + 1], bmp[colour]};
+}
+
+TEST(Zestaw, StripIsTheCharacterSetSeenThroughTheColours) {
+    for (const std::string name : ZESTAWY) {
+        const Bajty znaki = readDane("OBIEKTY/ORN_EXPORT/" + name);
+        const Bajty bmp = readDane("OBIEKTY/ORN_EXPORT/" + name + ".TILES.BMP");
+        const Bajty kolory = readDane("OBIEKTY/ORN_EXPORT/" + name + ".KOLORY");
+        ASSERT_EQ(znaki.size(), 1024U);
+        ASSERT_EQ(kolory.size(), KOLORY_SIZE_BYTES);
+        ASSERT_EQ(bmp.size(), 54U + 4U * 5U + 4096U * 32U / 2U);
+        for (int x = 0; x < 4096; ++x)
+            for (int y = 0; y < 32; ++y) {
+                const int position = x / 32, code = position % 64;
+                const unsigned bits = znaki[static_cast<std::size_t>(code * 8 + y / 4)] >> (6 - x % 32 / 8 * 2) & 3U;
+                // 00 is the background; 11 of the INV half takes the fourth colour.
+                const std::size_t kolor = bits == 0 ? 4 : bits == 3 && position >= 64 ? 3 : bits - 1;
+                ASSERT_EQ(pixelOf(bmp, x, y), PaletaWbudowana[kolory[kolor]]) << name << " " << x << "," << y;
+            }
+    }
+}
+
+using Wzor = std::array<Bajt, 8>;
+Wzor wzor(const Bajty& znaki, int code) {
+    Wzor w{};
+    std::copy_n(znaki.begin() + code * 8, 8, w.begin());
+    return w;
+}
+Wzor leftRight(Wzor w) {
+    for (Bajt& row : w)
+        row = static_cast<Bajt>(row >> 6 | (row >> 2 & 0x0C) | (row << 2 & 0x30) | row << 6);
+    return w;
+}
+Wzor upDown(Wzor w) {
+    std::reverse(w.begin(), w.end());
+    return w;
+}
+
+TEST(Zestaw, TilesAreDistinctAndDirectionsMirror) {
+    std::set<Wzor> ziemie;
+    for (const std::string name : ZESTAWY) {
+        const Bajty znaki = readDane("OBIEKTY/ORN_EXPORT/" + name);
+        std::set<Wzor> rozne;
+        for (int code = 0; code < ZNAKI_COUNT; ++code)
+            EXPECT_TRUE(rozne.insert(wzor(znaki, code)).second) << name << " repeats tile " << code;
+        EXPECT_EQ(wzor(znaki, 0), Wzor{});
+        EXPECT_FALSE(rozne.contains(wzor(znaki, 64))) << "no tile looks like a code that is none";
+        for (int code : {19, 26, 36, 43, 45})
+            EXPECT_EQ(leftRight(wzor(znaki, code)), wzor(znaki, code + 1)) << name << " " << code;
+        for (int code : {21, 28, 38, 47})
+            EXPECT_EQ(upDown(wzor(znaki, code)), wzor(znaki, code + 1)) << name << " " << code;
+        EXPECT_EQ(leftRight(wzor(znaki, 60)), wzor(znaki, 61)) << name;
+        for (int code = ZNAKI_COUNT; code < 128; ++code)
+            EXPECT_EQ(wzor(znaki, code), wzor(znaki, ZNAKI_COUNT)) << name << " " << code;
+        EXPECT_TRUE(ziemie.insert(wzor(znaki, 1)).second) << "each world has its own drawings";
+    }
+}
+
+// Where the heroine gets with what she finds. Whatever may stop or hurt her counts as a wall: water, swamp,
+// fire, traps, crates, fragile walls, shooters. Doors open only if the keys in reach are enough for every
+// door seen so far, so no order of opening them can leave her stuck.
+struct Droga {
+    int maski = 0;
+    bool wyjscie = false, drzwi = true; // the exit is in reach; so is what lies behind every door met
+};
+
+Droga findDroga(const Bajty& etap) {
+    const std::set<int> solid{2, 5, 6, 7, 9, 10, 11, 15, 17, 18, 35, 40, 41, 42, 49, 55, 56};
+    int start = 0;
+    while (codeAt(etap, 0, start) != kod(DORVA))
+        ++start;
+    std::set<int> opened;
+    for (;;) {
+        Droga droga;
+        int klucze = 0;
+        std::set<int> seen{start}, closed;
+        std::vector<int> next{start};
+        while (!next.empty()) {
+            const int cell = next.back();
+            next.pop_back();
+            const int code = codeAt(etap, 0, cell);
+            droga.maski += code == kod(MASKA);
+            klucze += code == kod(KLUCZ);
+            for (int beside : {cell - 1, cell + 1, cell - PLANSZA_COLUMNS, cell + PLANSZA_COLUMNS}) {
+                const int there = codeAt(etap, 0, beside);
+                droga.wyjscie |= there == kod(WYJSCIE);
+                if (there == kod(DRZWI) && !opened.contains(beside))
+                    closed.insert(beside);
+                else if ((!solid.contains(there) || opened.contains(beside)) && !isEdge(beside) &&
+                         seen.insert(beside).second)
+                    next.push_back(beside);
+            }
+        }
+        droga.drzwi = closed.empty();
+        if (closed.empty() || klucze < static_cast<int>(opened.size() + closed.size()))
+            return droga;
+        opened.merge(closed);
+    }
+}
+
+TEST(Etapy, EachHasAWayToItsGoalAndTheExit) {
+    for (int number = 1; number <= ETAPY_COUNT; ++number) {
+        const Bajty etap = readEtap(number);
+        ASSERT_EQ(countOf(etap, DORVA), 1) << number;
+        const Droga droga = findDroga(etap);
+        EXPECT_GE(droga.maski, etap[uklad::CEL_MASEK]) << number;
+        EXPECT_TRUE(droga.wyjscie) << number;
+        EXPECT_TRUE(droga.drzwi) << number << ": a door that no key is left for";
+    }
+}
+
+TEST(Etapy, TheFirstHasNothingThatMoves) {
+    for (int code : {18, 23, 24, 25, 26, 27, 28, 29, 35, 36, 37, 38, 39, 40, 41, 42})
+        EXPECT_EQ(countOf(readEtap(1), znak(code)), 0) << code;
+}
+
+TEST(Etapy, WorldsTakeTurnsGoalsRiseTextsDiffer) {
+    std::set<std::string> nazwy;
+    std::set<std::string> barwy;
+    std::set<int> uzyte;
+    for (int number = 1; number <= ETAPY_COUNT; ++number) {
+        const Bajty etap = readEtap(number);
+        ASSERT_EQ(etap.size(), ETAP_SIZE_BYTES);
+        EXPECT_EQ(etap[uklad::SWIAT], (number - 1) % SWIATY_COUNT) << number;
+        EXPECT_EQ(etap[uklad::OSTATNI], number == ETAPY_COUNT) << number;
+        if (number > 8) {
+            EXPECT_GE(etap[uklad::CEL_MASEK], readEtap(number - 8)[uklad::CEL_MASEK]) << number;
+        }
+        EXPECT_EQ(countOf(etap, WYJSCIE), 1) << number;
+        for (Znak z : {MASZYNA, POCHODNIA})
+            EXPECT_LE(countOf(etap, z), 1) << number;
+        for (int cell = 0; cell < PLANSZA_CELLS; ++cell)
+            uzyte.insert(codeAt(etap, 0, cell));
+
+        const std::string nazwa = DecodeTekst(std::span(etap).subspan(uklad::NAZWA, NAZWA_WIDTH)).znaki;
+        EXPECT_TRUE(nazwy.insert(nazwa).second) << number;
+        for (char c : nazwa)
+            EXPECT_TRUE((c >= 'A' && c <= 'Z') || static_cast<Bajt>(c) >= 0x80 ||
+                        std::string_view(" .,!?").find(c) != std::string_view::npos)
+                << number << " " << c;
+        barwy.insert(std::string(etap.begin() + uklad::KOLORY, etap.begin() + uklad::PLANSZA));
+        EXPECT_EQ(etap[uklad::KOLORY + 11] % 16, 4) << number << ": the panel's luminance";
+    }
+    EXPECT_GE(barwy.size(), 30U);
+    for (int code : WYBOR_ORDER)
+        EXPECT_TRUE(uzyte.contains(code)) << "no stage uses tile " << code;
+}
+
+class Swiaty32 : public Pulpit {};
+
+TEST_F(Swiaty32, TheEditorFindsNoFaultAndKeepsEveryByte) {
+    fs::copy(DANE, base, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    start();
+    EXPECT_EQ(e.Paleta, PaletaWbudowana);
+    EXPECT_EQ(e.okno.txtAutorGry[0].tekst, ascii("DORVA PLANSZOWNIK!  "));
+    for (int number = 1; number <= ETAPY_COUNT; ++number) {
+        if (number > 1)
+            SelectEtapNR(e, number - 1);
+        for (const InfoPole& info : e.okno.lblInfo)
+            EXPECT_FALSE(info.czerwony) << number;
+        PackEtap(e);
+        EXPECT_EQ(e.obrazEtapu, readEtap(number)) << number;
+        EXPECT_EQ(e.okno.lblInfo[0].caption, "ok") << number;
+    }
+}
+
+std::string messageOf(const std::function<void()>& parse) {
+    try {
+        parse();
+    } catch (const BladZrodla& blad) {
+        return blad.what();
+    }
+    return "";
+}
+
+TEST(Kompilator, MistakesAreToldWithTheirLine) {
+    const std::string kolory = "grunt 1\ntwarz 2\nubranie 3\nwoda 4\ntlo 5\n";
+    const std::string pusty = "0 NIC\n....\n....\n....\n....\n....\n....\n....\n....\n";
+    for (const auto& [source, message] :
+         std::map<std::string, std::string>{{"grunt 300\n", "s:1: a number from 0 to 255"},
+                                            {"twarz 1\n", "s:1: the colour grunt"},
+                                            {kolory + "\n; uwaga\n0 NICO\n", "s:8: the tile \"0 NIC\""},
+                                            {kolory + "0 NIC\n...\n", "s:7: a row of a tile"},
+                                            {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
+                                            {kolory + pusty + "1 ZIEMIA\nlustro 64\n", "s:16: a number from 0 to 63"},
+                                            {kolory + pusty, "s:14: the file ends"}})
+        EXPECT_EQ(messageOf([&] { parseRysunki({"s", source}); }).substr(0, message.size()), message) << source;
+
+    const Legenda legenda = parseLegenda({"l", ". 0 NIC\n~ 139 WODA ; INV\n"});
+    const std::string head = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n";
+    const std::string row = std::string(40, '.') + "\n";
+    const Swiaty swiaty{};
+    for (const auto& [source, message] : std::map<std::string, std::string>{
+             {"swiat 4\n", "s:1: a number from 1 to 3"},
+             {"swiat 1\nkolory niebo 4\n", "s:2: no colour"},
+             {"swiat 1\nkolory tlo\n", "s:2: a number"},
+             {"swiat 1\nkolory standard\ncel 100\n", "s:3: a number from 1 to 99"},
+             {"swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie " + row, "s:5: at most 32"},
+             {head + ".\n", "s:8: a row of the board"},
+             {head + std::string(39, '.') + "?\n", "s:8: the legend"},
+             {head + row, "s:8: the file ends"}})
+        EXPECT_EQ(messageOf([&] {
+                      parseEtap({"s", source}, legenda, swiaty);
+                  }).substr(0, message.size()),
+                  message)
+            << source;
+    for (const char* source : {"ab 0 NIC\n", ". 0 NIC\n. 1 ZIEMIA\n", ". 64 NIC\n", ". 1 NIC\n", ". x NIC\n", ". 0\n"})
+        EXPECT_NE(messageOf([&] { parseLegenda({"l", source}); }), "") << source;
+}
+
+TEST(Kompilator, AStageTakesItsWorldsColoursAndOverlaysItsOwn) {
+    Swiaty swiaty{};
+    swiaty[1].kolory = {10, 20, 30, 40, 50};
+    std::string source = "swiat 2\nkolory tlo 6 klucze 8\ncel 7\nostatni 1\npowitanie ala, Żółw\nopis x\nplansza\n";
+    for (int row = 0; row < PLANSZA_ROWS; ++row)
+        source += std::string(40, row == 2 ? '~' : '.') + "\n";
+    const Bajty etap = parseEtap({"s", source}, parseLegenda({"l", ". 0 NIC\n~ 139 WODA\n"}), swiaty);
+    ASSERT_EQ(etap.size(), ETAP_SIZE_BYTES);
+    EXPECT_EQ(Bajty(etap.begin() + 16, etap.begin() + 28), (Bajty{8, 192, 64, 128, 10, 20, 30, 40, 6, 0, 0, 164}));
+    EXPECT_EQ(etap[32 + 79], 0);
+    EXPECT_EQ(etap[32 + 80], 139);
+    EXPECT_EQ(etap[32 + 119], 139);
+    EXPECT_EQ((Bajty{etap[832], etap[833], etap[834]}), (Bajty{7, 1, 1}));
+    // centred by its length, Polish letters on the codes of their lower-case ones
+    EXPECT_EQ(Bajty(etap.begin() + 835 + 11, etap.begin() + 835 + 21),
+              (Bajty{0, 33, 44, 33, 12, 0, 122, 111, 108, 55}));
+}
+
+} // namespace
+} // namespace dorva::test
