@@ -79,74 +79,64 @@ std::uint32_t mean(std::array<std::uint32_t, 4> pixels) {
     return result;
 }
 
+ZnakObraz premultiplied(ZnakObraz obraz) {
+    std::transform(obraz.begin(), obraz.end(), obraz.begin(), [](std::uint32_t p) { return qPremultiply(p); });
+    return obraz;
+}
+
+// The pixels behind a reference.
+ZnakObraz pixelsOf(const Magazyn& zestawy, ObrazRef ref) {
+    if (!isTile(ref.znak))
+        return neutralny();
+    if (ref.swiat == ObrazRef::DOMYSLNY)
+        return domyslny(ref.znak);
+    const ZnakObraz* obraz = zestawy.find(ref);
+    return obraz ? premultiplied(*obraz) : ZnakObraz{};
+}
+
+Obrazek prepared(const ZnakObraz& pixels) {
+    Obrazek obrazek{pixels, {}, false};
+    for (std::size_t i = 0; i < obrazek.maly.size(); ++i) {
+        const std::size_t at = i / KRATKA_SIDE * 2 * OBRAZ_SIDE + i % KRATKA_SIDE * 2;
+        obrazek.maly[i] = mean({pixels[at], pixels[at + 1], pixels[at + OBRAZ_SIDE], pixels[at + OBRAZ_SIDE + 1]});
+    }
+    obrazek.opaque = std::all_of(pixels.begin(), pixels.end(), [](std::uint32_t p) { return p >= OPAQUE; });
+    return obrazek;
+}
+
+// A premultiplied pixel over an opaque one.
+std::uint32_t over(std::uint32_t below, std::uint32_t p) {
+    const std::uint32_t rest = 255 - qAlpha(p);
+    const auto channel = [&](unsigned shift) {
+        return ((p >> shift & 0xFF) + (below >> shift & 0xFF) * rest / 255) << shift;
+    };
+    return OPAQUE | channel(16) | channel(8) | channel(0);
+}
+
 } // namespace
 
-void Obrazki::prepare(const Magazyn& zestawy) {
-    if (domyslne_.empty())
-        drawPlaceholders();
-    if (wersja_ == zestawy.wersja)
+void Obrazki::followMagazyn() {
+    if (wersja_ == zestawy_.wersja)
         return;
-    wersja_ = zestawy.wersja;
-    for (int swiat = 0; swiat < SWIATY_COUNT; ++swiat)
-        for (int position = 0; position < PASEK_TILES; ++position) {
-            const ZnakObraz* source = zestawy.find({static_cast<std::int8_t>(swiat), znak(kodOfPosition(position))});
-            if (!source)
-                continue;
-            Obrazek& obrazek = swiaty_[static_cast<std::size_t>(swiat)][static_cast<std::size_t>(position)];
-            std::transform(source->begin(), source->end(), obrazek.duzy.begin(),
-                           [](std::uint32_t p) { return qPremultiply(p); });
-            scale(obrazek);
-        }
+    wersja_ = zestawy_.wersja;
+    gotowe_ = {};
 }
 
-void Obrazki::drawPlaceholders() {
-    for (auto& obrazki : swiaty_)
-        obrazki.assign(PASEK_TILES, {});
-    domyslne_.assign(PASEK_TILES, {});
-    for (int position = 0; position < PASEK_TILES; ++position) {
-        Obrazek& obrazek = domyslne_[static_cast<std::size_t>(position)];
-        obrazek.duzy = domyslny(znak(kodOfPosition(position)));
-        scale(obrazek);
-    }
-    brak_.duzy = neutralny();
-    scale(brak_);
+const Obrazek& Obrazki::operator[](ObrazRef ref) {
+    auto& gotowy = gotowe_[static_cast<std::size_t>(ref.swiat + 1) * CODES + static_cast<std::size_t>(ref.znak)];
+    if (!gotowy)
+        gotowy = std::make_unique<Obrazek>(prepared(pixelsOf(zestawy_, ref)));
+    return *gotowy;
 }
 
-void Obrazki::scale(Obrazek& obrazek) {
-    const ZnakObraz& p = obrazek.duzy;
-    for (std::size_t i = 0; i < SMALL_PIXELS; ++i) {
-        const std::size_t at = i / KRATKA_SIDE * 2 * OBRAZ_SIDE + i % KRATKA_SIDE * 2;
-        obrazek.maly[i] = mean({p[at], p[at + 1], p[at + OBRAZ_SIDE], p[at + OBRAZ_SIDE + 1]});
-    }
-}
-
-const Obrazki::Obrazek& Obrazki::find(ObrazRef ref) const {
-    if (!isTile(ref.znak))
-        return brak_;
-    const int half = kod(ref.znak) < INV ? 0 : ZNAKI_COUNT;
-    const auto position = static_cast<std::size_t>(kod(ref.znak) % INV + half);
-    return ref.swiat < 0 ? domyslne_[position] : swiaty_[static_cast<std::size_t>(ref.swiat)][position];
-}
-
-const std::uint32_t* Obrazki::large(ObrazRef ref) const {
-    return find(ref).duzy.data();
-}
-
-const std::uint32_t* Obrazki::small(ObrazRef ref) const {
-    return find(ref).maly.data();
-}
-
-void blit(QImage& image, int left, int top, const std::uint32_t* pixels, int side) {
-    const auto over = [](std::uint32_t below, std::uint32_t p) {
-        const std::uint32_t rest = 255 - qAlpha(p);
-        const auto channel = [&](unsigned shift) {
-            return ((p >> shift & 0xFF) + (below >> shift & 0xFF) * rest / 255) << shift;
-        };
-        return rest == 0 ? p : OPAQUE | channel(16) | channel(8) | channel(0);
-    };
-    for (int y = 0; y < side; ++y) {
+void blit(QImage& image, int left, int top, const Obrazek& obrazek, int side) {
+    const std::uint32_t* pixels = side == KRATKA_SIDE ? obrazek.maly.data() : obrazek.duzy.data();
+    for (int y = 0; y < side; ++y, pixels += side) {
         auto* row = reinterpret_cast<std::uint32_t*>(image.scanLine(top + y)) + left;
-        std::transform(row, row + side, pixels + y * side, row, over);
+        if (obrazek.opaque)
+            std::copy_n(pixels, side, row);
+        else
+            std::transform(row, row + side, pixels, row, over);
     }
 }
 

@@ -1,4 +1,4 @@
-// Pictures of tiles made ready to be shown: prepared once when a tile set was loaded, not at each paint.
+// Pictures of tiles made ready to be shown, each when it is first shown, not at each paint.
 #pragma once
 
 #include "tiles/magazyn.h"
@@ -6,45 +6,42 @@
 #include <QImage>
 
 #include <array>
-#include <vector>
+#include <memory>
 
 namespace dorva {
 
 inline constexpr int KRATKA_SIDE = 16; // a board cell or an icon, in logical pixels
 
+// A picture at its two sizes, premultiplied 0xAARRGGBB row by row.
+struct Obrazek {
+    ZnakObraz duzy{};                                          // 32 x 32
+    std::array<std::uint32_t, KRATKA_SIDE * KRATKA_SIDE> maly; // scaled once to 16 x 16
+    bool opaque = false;
+};
+
 class Obrazki {
 public:
-    // Follows the tile store; cheap where no strip was loaded since.
-    void prepare(const Magazyn&);
+    explicit Obrazki(const Magazyn& zestawy) : zestawy_(zestawy) {}
 
-    // A picture of 32 x 32 or, scaled once, of 16 x 16 pixels, premultiplied 0xAARRGGBB row by row.
-    // Transparent for a tile that no strip has filled; a placeholder for a code without a picture and
-    // for the window's default state.
-    [[nodiscard]] const std::uint32_t* large(ObrazRef) const;
-    [[nodiscard]] const std::uint32_t* small(ObrazRef) const;
+    // Forgets the pictures if a strip was loaded since they were made.
+    void followMagazyn();
 
     // Grows with each loaded strip.
     [[nodiscard]] unsigned wersja() const { return wersja_; }
 
+    // Transparent for a tile that no strip has filled; a placeholder for a code without a picture and for
+    // the window's default state.
+    const Obrazek& operator[](ObrazRef);
+
 private:
-    static constexpr std::size_t SMALL_PIXELS = KRATKA_SIDE * KRATKA_SIDE;
-    using Maly = std::array<std::uint32_t, SMALL_PIXELS>;
-    struct Obrazek {
-        ZnakObraz duzy{};
-        Maly maly{};
-    };
+    static constexpr std::size_t CODES = 256;
 
-    void drawPlaceholders();
-    static void scale(Obrazek&);
-    [[nodiscard]] const Obrazek& find(ObrazRef) const;
-
-    std::array<std::vector<Obrazek>, SWIATY_COUNT> swiaty_;
-    std::vector<Obrazek> domyslne_; // by code; 64 of each half
-    Obrazek brak_;                  // a code that is no tile
+    const Magazyn& zestawy_;
     unsigned wersja_ = 0;
+    std::array<std::unique_ptr<Obrazek>, (SWIATY_COUNT + 1) * CODES> gotowe_; // the default state comes first
 };
 
-// Lays a picture of `side` x `side` pixels over an opaque image, at whole pixels.
-void blit(QImage& image, int left, int top, const std::uint32_t* pixels, int side);
+// Lays a picture over an opaque image at whole pixels, at its size of `side`.
+void blit(QImage& image, int left, int top, const Obrazek&, int side);
 
 } // namespace dorva

@@ -169,7 +169,7 @@ template <typename Widget> Widget* OknoGlowne::find(const char* name, int index)
     return static_cast<Widget*>(widgets_.value(nameOf(name, index)));
 }
 
-OknoGlowne::OknoGlowne(Edytor& e) : e_(e) {
+OknoGlowne::OknoGlowne(Edytor& e) : e_(e), obrazki_(e.zestawy) {
     setObjectName("frmDP");
     setFixedSize(OKNO_WIDTH, OKNO_HEIGHT);
     setFont(fontOkna());
@@ -276,7 +276,7 @@ void OknoGlowne::bindText(const char* name, int index, Pole pole) {
 
 void OknoGlowne::showRecord() {
     const Okno& okno = e_.okno;
-    obrazki_.prepare(e_.zestawy);
+    obrazki_.followMagazyn();
     imgPG_->showOkno(okno, obrazki_);
     imgZnak_->showOkno(okno, obrazki_);
     find<ObrazWidget>("imgBufor")->showObraz(okno.imgBufor.obraz, obrazki_);

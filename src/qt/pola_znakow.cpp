@@ -68,8 +68,15 @@ void drawBorder(QPainter& painter, QRect rect) {
     painter.drawRect(rect.adjusted(0, 0, -1, -1));
 }
 
-QImage imageOver(const std::uint32_t* pixels, int side) {
-    return {reinterpret_cast<const uchar*>(pixels), side, side, QImage::Format_ARGB32_Premultiplied};
+// The large picture as an image, without a copy.
+QImage imageOver(const Obrazek& obrazek) {
+    return {reinterpret_cast<const uchar*>(obrazek.duzy.data()), OBRAZ_SIDE, OBRAZ_SIDE,
+            QImage::Format_ARGB32_Premultiplied};
+}
+
+QImage smallImageOver(const Obrazek& obrazek) {
+    return {reinterpret_cast<const uchar*>(obrazek.maly.data()), KRATKA_SIDE, KRATKA_SIDE,
+            QImage::Format_ARGB32_Premultiplied};
 }
 
 } // namespace
@@ -79,7 +86,7 @@ PlanszaWidget::PlanszaWidget(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void PlanszaWidget::showOkno(const Okno& okno, const Obrazki& obrazki) {
+void PlanszaWidget::showOkno(const Okno& okno, Obrazki& obrazki) {
     const bool anew = image_.isNull() || wersja_ != obrazki.wersja();
     obrazki_ = &obrazki;
     wersja_ = obrazki.wersja();
@@ -118,7 +125,7 @@ void PlanszaWidget::composeCell(int cell) {
     const ObrazRef ref = refs_[static_cast<std::size_t>(cell)];
     for (int y = rect.top(); y <= rect.bottom(); ++y)
         std::fill_n(reinterpret_cast<std::uint32_t*>(image_.scanLine(y)) + rect.left(), side, SZARY);
-    blit(image_, rect.left(), rect.top(), side == KRATKA_SIDE ? obrazki_->small(ref) : obrazki_->large(ref), side);
+    blit(image_, rect.left(), rect.top(), (*obrazki_)[ref], side);
     update(cellRect(cell, KRATKA_SIDE));
 }
 
@@ -167,7 +174,7 @@ WyborWidget::WyborWidget(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void WyborWidget::showOkno(const Okno& okno, const Obrazki& obrazki) {
+void WyborWidget::showOkno(const Okno& okno, Obrazki& obrazki) {
     bool changed = image_.isNull() || wersja_ != obrazki.wersja();
     wersja_ = obrazki.wersja();
     for (std::size_t i = 0; i < refs_.size(); ++i) {
@@ -181,8 +188,7 @@ void WyborWidget::showOkno(const Okno& okno, const Obrazki& obrazki) {
     QPainter painter(&image_);
     for (int slot : WYBOR_ORDER) {
         const QRect rect = slotRect(slot);
-        painter.drawImage(rect.topLeft() + QPoint(1, 1),
-                          imageOver(obrazki.large(refs_[static_cast<std::size_t>(slot)]), OBRAZ_SIDE));
+        painter.drawImage(rect.topLeft() + QPoint(1, 1), imageOver(obrazki[refs_[static_cast<std::size_t>(slot)]]));
         drawBorder(painter, rect);
     }
     update();
@@ -236,7 +242,7 @@ void WyborWidget::mouseReleaseEvent(QMouseEvent* event) {
         onClick(slot);
 }
 
-void ObrazWidget::showObraz(ObrazRef ref, const Obrazki& obrazki) {
+void ObrazWidget::showObraz(ObrazRef ref, Obrazki& obrazki) {
     if (obrazki_ && ref_ == ref && wersja_ == obrazki.wersja())
         return;
     obrazki_ = &obrazki;
@@ -249,13 +255,14 @@ void ObrazWidget::paintEvent(QPaintEvent*) {
     if (!obrazki_)
         return;
     QPainter painter(this);
+    const Obrazek& obrazek = (*obrazki_)[ref_];
     if (width() >= SLOT_SIDE)
-        painter.drawImage(QPoint(1, 1), imageOver(obrazki_->large(ref_), OBRAZ_SIDE));
+        painter.drawImage(QPoint(1, 1), imageOver(obrazek));
     else if (devicePixelRatioF() > 1) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(rect(), imageOver(obrazki_->large(ref_), OBRAZ_SIDE));
+        painter.drawImage(rect(), imageOver(obrazek));
     } else
-        painter.drawImage(QPoint(0, 0), imageOver(obrazki_->small(ref_), KRATKA_SIDE));
+        painter.drawImage(QPoint(0, 0), smallImageOver(obrazek));
     drawBorder(painter, rect());
 }
 

@@ -22,7 +22,7 @@ public:
     // every cell on the way from the last pointer position is reported.
     std::function<void(int cell, int button)> onPress, onMove;
 
-    void showOkno(const Okno&, const Obrazki&);
+    void showOkno(const Okno&, Obrazki&);
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -34,7 +34,7 @@ private:
     void compose();
     void composeCell(int cell);
 
-    const Obrazki* obrazki_ = nullptr;
+    Obrazki* obrazki_ = nullptr;
     unsigned wersja_ = 0;
     std::array<ObrazRef, PLANSZA_CELLS> refs_{};
     int obrys_ = -1;
@@ -50,7 +50,7 @@ public:
     // A click on a slot: pressed and released within it.
     std::function<void(int slot)> onClick;
 
-    void showOkno(const Okno&, const Obrazki&);
+    void showOkno(const Okno&, Obrazki&);
 
     // The rectangle of a visible slot, its border included; empty for a hidden one.
     [[nodiscard]] static QRect slotRect(int slot);
@@ -75,13 +75,13 @@ private:
 class ObrazWidget : public QWidget {
 public:
     using QWidget::QWidget;
-    void showObraz(ObrazRef, const Obrazki&);
+    void showObraz(ObrazRef, Obrazki&);
 
 protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    const Obrazki* obrazki_ = nullptr;
+    Obrazki* obrazki_ = nullptr;
     unsigned wersja_ = 0;
     ObrazRef ref_{};
 };
