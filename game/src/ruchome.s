@@ -1,0 +1,324 @@
+; Moving things: whose turn it is, and what creatures, guards, ghosts, trackers and fire do in theirs.
+;
+; A turn goes over all cells inside the edge, two rows a tick, nine ticks in all. A tick acts on at most BUDZET tiles
+; and stops where it stands, so a board full of creatures slows the creatures, never the picture.
+.include "reguly.inc"
+.export ruszaj, nowa_kolej, zwroc_pole, zapal
+.exportzp kod, kolumna, wiersz
+.importzp wsk, wpod, wstan, wzap, kolej, dorva_x, dorva_y, zegar, pochodnia, otwarte
+.import plansza, cechy, sasiad, wskaz_pole, zbadaj, przesun, licznik, ustaw_licznik, los, wstaw
+.import zran, promiennik, promien, miotnik, miotacz, plujka, strzalka, kamyk
+.import odpalona, epicentrum, wybuch
+
+WIERSZE_NA_TAKT = 2
+BUDZET    = 16
+ZASIEG_STWORKA = 10                     ; how far a little creature sees
+WIEK_TROPU = 128                        ; an older scent is none
+PALI_SIE  = 12                          ; turns that a thicket burns
+
+.segment "ZEROPAGE"
+skan:    .res 2         ; the row that is being looked at, in plansza
+wiersz:  .res 1         ; its number
+kolumna: .res 1         ; the column of the cell whose turn it is
+kod:     .res 1         ; its code
+budzet:  .res 1
+rzedy:   .res 1
+cel:     .res 2
+kier:    .res 1
+obiecujacy: .res 1
+wiek:    .res 1
+najmlodszy: .res 1
+
+.segment "RODATA"
+; what each tile does in its turn
+.linecont +
+.define CZYNY \
+        spi, spi, spi, spi, spi, spi, spi, spi, spi, wyjscie, spi, spi, spi, spi, spi, spi, \
+        spi, spi, promiennik, promien, promien, promien, promien, odpalona, \
+        duch, stworek, stwor, stwor, straznik, straznik, wybuch, wybuch, \
+        wybuch, wybuch, spi, ogien, tropiciel, tropiciel, tropiciel, tropiciel, \
+        miotnik, miotacz, plujka, strzalka, strzalka, kamyk, kamyk, kamyk, \
+        kamyk, spi, spi, spi, spi, spi, epicentrum, spi, spi, spi, spi, spi, spi, spi, spi, spi
+czyny_lo: .lobytes CZYNY
+czyny_hi: .hibytes CZYNY
+        .assert czyny_hi - czyny_lo = 64 && * - czyny_hi = 64, error, "one act a tile"
+
+.segment "CODE"
+
+; Begins a new turn at the first cell inside the edge.
+nowa_kolej:
+        lda kolej
+        eor #S_KOLEJ
+        sta kolej
+        lda #<(plansza + KOLUMNY)
+        sta skan
+        lda #>(plansza + KOLUMNY)
+        sta skan+1
+        ldx #1
+        stx wiersz
+        stx kolumna
+        rts
+
+; One tick's part of a turn.
+ruszaj: lda #BUDZET
+        sta budzet
+        lda #WIERSZE_NA_TAKT
+        sta rzedy
+@rzad:  ldy kolumna
+@pole:  lda (skan),y
+        tax
+        lda cechy,x
+        and #C_CZYNNE
+        bne @czynne
+@dalej: iny
+        cpy #KOLUMNY - 1
+        bne @pole
+        ldy #1
+        sty kolumna
+        clc
+        lda skan
+        adc #KOLUMNY
+        sta skan
+        bcc :+
+        inc skan+1
+:       inc wiersz
+        lda wiersz
+        cmp #WIERSZE - 1
+        bcs nowa_kolej                  ; the tick ends with the turn
+        dec rzedy
+        bne @rzad
+        rts
+
+@czynne:
+        sty kolumna
+        stx kod
+        jsr zrob_pole
+        ldy kolumna
+        dec budzet
+        bne @dalej
+        inc kolumna                     ; go on from the next cell in the next tick
+        cpy #KOLUMNY - 2
+        bne @dosc
+        dec kolumna                     ; the last of its row: look at it once more, its turn is over
+@dosc:  rts
+
+; The tile kod in column kolumna of the row skan acts, unless it has acted in this turn.
+zrob_pole:
+        tya
+        clc
+        adc skan
+        tay
+        lda skan+1
+        adc #0
+        sec
+        sbc #>plansza
+        tax
+        tya
+        jsr wskaz_pole
+        ldy #TU
+        lda (wstan),y
+        eor kolej
+        bpl spi
+        eor kolej
+        eor #S_KOLEJ
+        sta (wstan),y
+        lda kod
+        and #$3F
+        tax
+        lda czyny_lo,x
+        sta cel
+        lda czyny_hi,x
+        sta cel+1
+        jmp (cel)
+spi:    rts
+
+; This cell gets back what lay beneath.
+zwroc_pole:
+        ldy #TU
+        lda (wpod),y
+        sta (wsk),y
+        rts
+
+; The open exit beckons in both of its forms.
+wyjscie:
+        lda otwarte
+        beq spi
+        lda kod
+        eor #INV
+        sta (wsk),y
+        rts
+
+; Creatures go left and right, guards down and up; both turn where they can't go on.
+stwor:  lda #RANA_STWOR
+        sta wiek
+        lda kod
+        and #1
+        bpl patrol
+straznik:
+        lda #RANA_STRAZNIK
+        sta wiek
+        lda kod
+        and #1
+        eor #DOL
+patrol: tax
+        ldy sasiad,x
+        jsr zbadaj
+        bmi @atak
+        and #C_PUSTE
+        beq @zwrot
+        lda kod
+        jmp przesun
+@zwrot: ldy #TU
+        lda kod
+        eor #1
+        sta (wsk),y
+        rts
+@atak:  lda wiek
+        jmp zran
+
+; A little creature sleeps until the heroine comes near in its own row; then it grows and runs at her.
+stworek:
+        lda dorva_y
+        cmp wiersz
+        bne spi
+        ldx #STWOR + LEWO
+        lda kolumna
+        sec
+        sbc dorva_x
+        bcs @blisko
+        eor #$FF
+        adc #1
+        ldx #STWOR + PRAWO
+@blisko:
+        cmp #ZASIEG_STWORKA + 1
+        bcs spi
+        txa
+; this cell := tile A in the form, STD or INV, that it had
+zmien:  eor kod
+        and #$7F
+        eor kod
+        ldy #TU
+        sta (wsk),y
+        rts
+
+; A ghost wanders at random, through earth and thicket too. It shuns a heroine with a torch.
+duch:   jsr los
+        cmp #50                         ; now and then another way without a reason
+        bcc @skrec
+        jsr licznik
+        and #3
+        tax
+        ldy sasiad,x
+        jsr zbadaj
+        bmi @atak
+        and #C_DUCHOWE
+        beq @skrec
+        lda kod
+        jmp przesun
+@atak:  lda pochodnia
+        bne @skrec
+        lda #RANA_DUCH
+        jmp zran
+@skrec: jsr los
+        and #3
+        jmp ustaw_licznik
+
+; A tracker goes where the heroine's scent is fresher than where it stands. Without a scent it goes
+; straight on, and some other way where it can't.
+tropiciel:
+        lda #WIEK_TROPU
+        sta najmlodszy
+        ldy #TU
+        lda (wzap),y
+        beq @bez
+        jsr @ile
+        cmp najmlodszy
+        bcs @bez
+        sta najmlodszy
+@bez:   lda #$FF
+        sta obiecujacy
+        ldx #DOL
+@weszy: stx kier
+        ldy sasiad,x
+        lda (wzap),y
+        beq @nie
+        jsr @ile
+        cmp najmlodszy
+        bcs @nie
+        sta wiek
+        jsr zbadaj
+        bmi @tak
+        and #C_PUSTE
+        beq @nie
+@tak:   lda wiek
+        sta najmlodszy
+        lda kier
+        sta obiecujacy
+@nie:   ldx kier
+        dex
+        bpl @weszy
+        lda obiecujacy
+        bpl @idzie
+        lda kod                         ; no scent
+        and #3
+@idzie: tax
+        sta kier
+        ldy sasiad,x
+        jsr zbadaj
+        bmi @atak
+        and #C_PUSTE
+        bne @krok
+        jsr los
+        and #3
+        ora #TROPICIEL
+        jmp zmien
+@krok:  jsr @postac
+        jmp przesun
+@atak:  jsr @postac
+        ldy #TU
+        sta (wsk),y
+        lda #RANA_TROPICIEL
+        jmp zran
+@postac:
+        lda kod
+        and #INV
+        ora #TROPICIEL
+        ora kier
+        rts
+@ile:   eor #$FF                        ; A := steps that she has made since the scent A
+        sec
+        adc zegar
+        rts
+
+; Fire catches thickets next to it. What it lives on burns down; a painted fire burns for ever.
+ogien:  jsr los
+        and #3
+        tax
+        ldy sasiad,x
+        lda (wstan),y
+        and #S_BRZEG
+        bne @tli
+        lda (wsk),y
+        and #$7F
+        cmp #ZAROSLA
+        bne @tli
+        jsr zapal
+@tli:   jsr licznik
+        beq @wieczny
+        sec
+        sbc #1
+        beq @gasnie
+        jmp ustaw_licznik
+@gasnie:
+        lda #NIC
+        sta (wsk),y
+@wieczny:
+        rts
+
+; The thicket at distance Y begins to burn.
+zapal:  lda #OGIEN
+        jsr wstaw
+        lda #PALI_SIE
+        ora kolej
+        sta (wstan),y
+        rts

@@ -1,0 +1,218 @@
+; Emitters and their rays, those who throw and spit, and what they throw.
+.include "reguly.inc"
+.export promiennik, promien, miotnik, miotacz, plujka, strzalka, kamyk
+.importzp wsk, wstan, kod, kolumna, wiersz, kolej, dorva_x, dorva_y, maszyna_stoi
+.import sasiad, przejdz, zbadaj, przesun, wstaw, licznik, ustaw_licznik, zran, zwroc_pole, zglos_efekt
+
+TURY_PROMIENNIKA = 14                   ; turns from one flash to the next
+TURY_PROMIENIA = 5                      ; turns that a ray shines, and so its length
+TURY_MIOTACZA = 12
+TURY_MIOTNIKA = 9
+TURY_PLUJKI = 7
+ZASIEG    = 14                          ; how far a shooter sees
+
+.segment "ZEROPAGE"
+kier:   .res 1
+rana:   .res 1
+pocisk: .res 1
+kroki:  .res 1
+
+.segment "CODE"
+
+; An emitter flashes on all four sides at once, as long as the machine runs.
+promiennik:
+        lda maszyna_stoi
+        bne @nie
+        jsr licznik
+        clc
+        adc #1
+        cmp #TURY_PROMIENNIKA
+        bcc @czeka
+        ldx #DOL
+@strona:
+        stx kier
+        txa
+        clc
+        adc #PROMIEN
+        ldx #RANA_PROMIEN
+        jsr wystrzel
+        ldx kier
+        dex
+        bpl @strona
+        lda #0
+@czeka: jmp ustaw_licznik
+@nie:   rts
+
+; Puts the missile A into the next cell in direction kier, or wounds the heroine there by X.
+wystrzel:
+        sta pocisk
+        stx rana
+        ldx kier
+        ldy sasiad,x
+        jsr zbadaj
+        bmi @trafia
+        and #C_PUSTE
+        beq @nic
+        lda pocisk
+        jsr wstaw
+        dzwiek EF_STRZAL
+@nic:   rts
+@trafia:
+        lda rana
+        jmp zran
+
+; A ray puts forth the next one in its first turn, and goes out after a few.
+promien:
+        jsr licznik
+        bne @swieci
+        lda kod
+        and #$3F
+        sec
+        sbc #PROMIEN
+        sta kier
+        lda kod
+        ldx #RANA_PROMIEN
+        jsr wystrzel
+        lda #0
+@swieci:
+        clc
+        adc #1
+        cmp #TURY_PROMIENIA
+        bcs @gasnie
+        jmp ustaw_licznik
+@gasnie:
+        jmp zwroc_pole
+
+; A launcher shoots darts left and right at its own pace, as long as the machine runs.
+miotacz:
+        lda maszyna_stoi
+        bne nie_strzela
+        jsr licznik
+        clc
+        adc #1
+        cmp #TURY_MIOTACZA
+        bcc @czeka
+        ldx #PRAWO
+@strona:
+        stx kier
+        txa
+        clc
+        adc #STRZALKA
+        ldx #RANA_STRZALKA
+        jsr wystrzel
+        ldx kier
+        dex
+        bpl @strona
+        lda #0
+@czeka: jmp ustaw_licznik
+
+; A thrower throws stones at a heroine in its row or column.
+miotnik:
+        jsr gotow
+        bne nie_strzela
+        jsr w_wierszu
+        bcs @rzut
+        jsr w_kolumnie
+        bcc nie_strzela
+@rzut:  lda #TURY_MIOTNIKA
+        jsr ustaw_licznik
+        lda kier
+        clc
+        adc #KAMYK
+        ldx #RANA_KAMYK
+        jmp wystrzel
+
+; A spitter spits darts at a heroine in its row.
+plujka: jsr gotow
+        bne nie_strzela
+        jsr w_wierszu
+        bcc nie_strzela
+        lda #TURY_PLUJKI
+        jsr ustaw_licznik
+        lda kier
+        clc
+        adc #STRZALKA
+        ldx #RANA_STRZALKA
+        jmp wystrzel
+nie_strzela:
+        rts
+
+; Counts one turn of the pause down. Z: ready.
+gotow:  jsr licznik
+        beq @tak
+        sec
+        sbc #1
+        jsr ustaw_licznik
+        lda #1
+@tak:   rts
+
+; C: the heroine is near in this row; kier then tells the side.
+w_wierszu:
+        lda dorva_y
+        cmp wiersz
+        bne nie_widac
+        lda #LEWO
+        sta kier
+        lda kolumna
+        sec
+        sbc dorva_x
+        jmp odleglosc
+; C: the same for this column.
+w_kolumnie:
+        lda dorva_x
+        cmp kolumna
+        bne nie_widac
+        lda #GORA
+        sta kier
+        lda wiersz
+        sec
+        sbc dorva_y
+odleglosc:
+        bcs :+
+        inc kier                        ; the other side
+        eor #$FF
+        adc #1
+:       cmp #ZASIEG
+        bcs nie_widac
+        sec
+        rts
+nie_widac:
+        clc
+        rts
+
+; Darts and stones fly two cells a turn and break at whatever stands in their way.
+strzalka:
+        lda #RANA_STRZALKA
+        sta rana
+        lda kod
+        and #$3F
+        sec
+        sbc #STRZALKA
+        bpl lot
+kamyk:  lda #RANA_KAMYK
+        sta rana
+        lda kod
+        and #$3F
+        sec
+        sbc #KAMYK
+lot:    sta kier
+        lda #2
+        sta kroki
+@krok:  ldx kier
+        ldy sasiad,x
+        jsr zbadaj
+        bmi @trafia
+        and #C_PUSTE
+        beq @peka
+        lda kod
+        jsr przesun
+        ldx kier
+        jsr przejdz
+        dec kroki
+        bne @krok
+        rts
+@trafia:
+        jsr zwroc_pole
+        lda rana
+        jmp zran
+@peka:  jmp zwroc_pole

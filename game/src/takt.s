@@ -1,0 +1,198 @@
+; A stage from start to end: reguly_start sets the rules up on the board, takt is one tick of play.
+;
+; In: plansza and cel_masek before reguly_start; drazek (as STICK0: 0 bits are pressed) and spust (as STRIG0:
+; 0 is pressed) before takt. Out: wynik, efekt, komunikat and the figures of the panel.
+.include "reguly.inc"
+.export reguly_start, takt, nowa_gra, punkty, punkty_na_starcie, cel_masek
+.exportzp drazek, spust, wynik, efekt, komunikat, energia, zycia, klucze, bomby, monety, brak_masek
+.exportzp maszyna_stoi, pochodnia, otwarte, po_przeskoku
+.importzp kolej, dorva, ziarno
+.import plansza, pod, stan, zapach, dorva_inv
+.import dorva_takt, podstaw_dorve, policz_wspolrzedne, otworz, rysuj_dorve, ruszaj, nowa_kolej
+
+ZYCIA_NA_START = 3
+
+.segment "ZEROPAGE"
+drazek: .res 1
+spust:  .res 1
+wynik:  .res 1
+efekt:  .res 1
+komunikat: .res 1
+energia: .res 1
+zycia:  .res 1
+klucze: .res 1
+bomby:  .res 1
+monety: .res 1          ; coins since the last extra life
+brak_masek: .res 1      ; masks still to be taken
+maszyna_stoi: .res 1
+pochodnia: .res 1
+otwarte: .res 1
+po_przeskoku: .res 1    ; this tick has spent its time on a leap
+numer:  .res 1
+miejsce: .res 2         ; the cell that set-up looks at, 0..799
+adres:  .res 2
+w_stanie: .res 2
+
+.segment "BSS"
+punkty: .res 3          ; six BCD digits, the highest first
+punkty_na_starcie: .res 3
+cel_masek: .res 1
+
+.segment "CODE"
+
+; Sets the figures that last from stage to stage.
+nowa_gra:
+        lda #ZYCIA_NA_START
+        sta zycia
+        lda #0
+        sta monety
+        sta punkty
+        sta punkty+1
+        sta punkty+2
+        rts
+
+; Sets the rules up on the board. C: there is no heroine on it.
+reguly_start:
+        ldx #0
+        txa
+@czysc:
+    .repeat 4, I
+        sta pod + I * 256,x
+        sta stan + I * 256,x
+        sta zapach + I * 256,x
+    .endrepeat
+        inx
+        bne @czysc
+        sta klucze
+        sta bomby
+        sta wynik
+        sta efekt
+        sta komunikat
+        sta maszyna_stoi
+        sta pochodnia
+        sta otwarte
+        sta po_przeskoku
+        sta kolej
+        sta dorva
+        sta dorva+1
+        lda #ENERGIA_PELNA
+        sta energia
+        lda #$5A                        ; the same chances in every try
+        sta ziarno
+        sta ziarno+1
+        jsr oznacz_brzeg
+        jsr spisz_plansze
+        lda dorva
+        ora dorva+1
+        sec
+        beq @nie_ma
+        jsr policz_wspolrzedne
+        jsr podstaw_dorve
+        jsr nowa_kolej
+        lda cel_masek
+        sta brak_masek
+        bne :+
+        jsr otworz
+:       clc
+@nie_ma:
+        rts
+
+; Marks the edge: nothing enters it and nothing on it acts.
+oznacz_brzeg:
+        lda #S_BRZEG
+        ldx #KOLUMNY - 1
+@poziomo:
+        sta stan,x
+        sta stan + (WIERSZE - 1) * KOLUMNY,x
+        dex
+        bpl @poziomo
+        lda #<stan
+        sta w_stanie
+        lda #>stan
+        sta w_stanie+1
+        ldx #WIERSZE
+@pionowo:
+        lda #S_BRZEG
+        ldy #0
+        sta (w_stanie),y
+        ldy #KOLUMNY - 1
+        sta (w_stanie),y
+        clc
+        lda w_stanie
+        adc #KOLUMNY
+        sta w_stanie
+        bcc :+
+        inc w_stanie+1
+:       dex
+        bne @pionowo
+        rts
+
+; Finds the first heroine inside the edge and numbers the magic objects: odd, even, odd...
+spisz_plansze:
+        lda #0
+        sta miejsce
+        sta miejsce+1
+        sta numer
+        lda #<plansza
+        sta adres
+        lda #>plansza
+        sta adres+1
+        lda #<stan
+        sta w_stanie
+        lda #>stan
+        sta w_stanie+1
+@pole:  ldy #0
+        lda (w_stanie),y
+        and #S_BRZEG
+        bne @dalej
+        lda (adres),y
+        and #$7F
+        cmp #DORVA
+        beq @ona
+        cmp #MAGICZNY
+        bne @dalej
+        lda numer
+        sta (w_stanie),y
+        eor #1
+        sta numer
+@dalej: inc adres
+        bne :+
+        inc adres+1
+:       inc w_stanie
+        bne :+
+        inc w_stanie+1
+:       inc miejsce
+        bne :+
+        inc miejsce+1
+:       lda miejsce
+        cmp #<POLA
+        bne @pole
+        lda miejsce+1
+        cmp #>POLA
+        bne @pole
+        rts
+@ona:   lda dorva
+        ora dorva+1
+        bne @dalej                      ; the first one counts
+        lda (adres),y
+        and #INV
+        sta dorva_inv
+        lda miejsce
+        sta dorva
+        lda miejsce+1
+        sta dorva+1
+        bcs @dalej
+
+; One tick.
+takt:   lda #EF_BRAK
+        sta efekt
+        jsr dorva_takt
+        lda wynik
+        bne @koniec
+        lda po_przeskoku                ; a leap looks through the board; the others wait
+        bne @po
+        jsr ruszaj
+@po:    lda #0
+        sta po_przeskoku
+@koniec:
+        rts

@@ -1,0 +1,37 @@
+/* The rules of the game as C sees them; see game/src/takt.s and plansza.s. */
+#ifndef REGULY_H
+#define REGULY_H
+
+typedef unsigned char byte;
+
+enum { KOLUMNY = 40, WIERSZE = 20, POLA = 800 };
+enum { LEWO = 4, PRAWO = 8, GORA = 1, DOL = 2 };
+enum { ETAP_PRZESZLA = 1, DORVA_GINIE = 2 };
+
+extern byte plansza[POLA];
+extern byte pod[1024], stan[1024], zapach[1024];
+extern byte punkty[3];
+extern byte cel_masek;
+extern byte drazek, spust, wynik, efekt, komunikat, energia, zycia, klucze, bomby, brak_masek;
+extern byte maszyna_stoi, pochodnia, otwarte, dorva_x, dorva_y;
+#pragma zpsym("drazek")
+#pragma zpsym("spust")
+#pragma zpsym("wynik")
+#pragma zpsym("efekt")
+#pragma zpsym("komunikat")
+#pragma zpsym("energia")
+#pragma zpsym("zycia")
+#pragma zpsym("klucze")
+#pragma zpsym("bomby")
+#pragma zpsym("brak_masek")
+#pragma zpsym("maszyna_stoi")
+#pragma zpsym("pochodnia")
+#pragma zpsym("otwarte")
+#pragma zpsym("dorva_x")
+#pragma zpsym("dorva_y")
+
+void nowa_gra(void);
+byte start(void); /* 1: there is a heroine */
+void takt(void);
+
+#endif

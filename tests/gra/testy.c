@@ -1,0 +1,448 @@
+/* Tests of the rules. `testy GROUP` runs one group and ends with the number of failed checks. */
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+#include "reguly.h"
+
+static unsigned bledy;
+
+#define CHECK(warunek)                                                                                                 \
+    do {                                                                                                               \
+        if (!(warunek)) {                                                                                              \
+            printf("line %d: %s\n", __LINE__, #warunek);                                                               \
+            ++bledy;                                                                                                   \
+        }                                                                                                              \
+    } while (0)
+
+/* Letters of the small boards and their tiles. */
+static const char litery[] = " .^,n|=%zE+wMKBSeO*Q!gLRdu$fTtmpPb o@iDs";
+static const byte kody[] = {0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15, 16, 17, 18, 23,
+                            24, 25, 26, 27, 28, 29, 34, 35, 36, 38, 40, 41, 42, 49, 0,  55, 56, 57, 63, 51};
+
+/* Lays rows of letters into a board of walls, from cell (1, 1) on, and starts the stage. */
+static byte uloz(const char* const* wiersze, byte ile, byte cel) {
+    byte w, k;
+    memset(plansza, 5, POLA);
+    for (w = 0; w < ile; ++w)
+        for (k = 0; wiersze[w][k]; ++k)
+            plansza[(w + 1) * KOLUMNY + k + 1] = kody[strchr(litery, wiersze[w][k]) - litery];
+    cel_masek = cel;
+    drazek = 15;
+    spust = 1;
+    nowa_gra();
+    return start();
+}
+static const char* w1[3];
+static byte uloz1(byte cel, const char* a) {
+    w1[0] = a;
+    return uloz(w1, 1, cel);
+}
+static byte uloz3(byte cel, const char* a, const char* b, const char* c) {
+    w1[0] = a;
+    w1[1] = b;
+    w1[2] = c;
+    return uloz(w1, 3, cel);
+}
+
+static byte pole(byte w, byte k) { return plansza[w * KOLUMNY + k]; }
+static byte tu(byte w, byte k) { return dorva_y == w && dorva_x == k; }
+
+static void takty(unsigned n) {
+    while (n--)
+        takt();
+}
+
+/* L R U D: one step; B: lays a bomb; -: one step's time without a move. */
+static void idz(const char* ruchy) {
+    for (; *ruchy; ++ruchy) {
+        drazek = 15;
+        switch (*ruchy) {
+        case 'L': drazek = 15 - LEWO; break;
+        case 'R': drazek = 15 - PRAWO; break;
+        case 'U': drazek = 15 - GORA; break;
+        case 'D': drazek = 15 - DOL; break;
+        case 'B': spust = 0; break;
+        }
+        takt();
+        spust = 1;
+        takty(5);
+    }
+    drazek = 15;
+}
+
+static unsigned punktow(void) { /* without the two lowest digits */
+    return (punkty[1] >> 4) * 10 + (punkty[1] & 15);
+}
+
+static void chodzenie(void) {
+    uloz1(1, "D   ");
+    idz("RRRR");
+    CHECK(tu(1, 4));
+    CHECK(pole(1, 1) == 0 && pole(1, 2) == 0);
+    CHECK((pole(1, 4) & 127) == 60);
+    idz("---");
+    CHECK((pole(1, 4) & 127) == 63);
+    idz("LU");
+    CHECK(tu(1, 3));
+    CHECK((pole(1, 3) & 127) == 62);
+
+    uloz1(1, "D..,"); /* digging */
+    idz("RRRL");
+    CHECK(tu(1, 3));
+    CHECK(pole(1, 1) == 0 && pole(1, 2) == 3 && pole(1, 4) == 3);
+
+    uloz1(1, "D "); /* one step a press of six ticks, no faster */
+    drazek = 15 - PRAWO;
+    takty(6);
+    CHECK(tu(1, 2));
+    uloz1(1, "D     ");
+    drazek = 15 - PRAWO;
+    takty(13);
+    CHECK(tu(1, 4));
+
+    uloz1(1, "D."); /* INV partners and codes that are no tiles */
+    plansza[43] = 129;
+    plansza[44] = 70;
+    plansza[45] = 0;
+    idz("RRRR");
+    CHECK(tu(1, 3));
+    CHECK(pole(1, 4) == 70);
+    idz("L");
+    CHECK(pole(1, 3) == 131);
+
+    CHECK(uloz1(1, "  ") == 0); /* nobody there */
+    CHECK(uloz1(1, " DD ") == 1);
+    CHECK(tu(1, 2));
+    idz("RRR");
+    CHECK(tu(1, 2)); /* the second is a statue */
+    uloz1(1, "Ds");
+    idz("R");
+    CHECK(tu(1, 1));
+
+    memset(plansza, 5, POLA); /* the edge: nobody enters, and a heroine on it counts for nothing */
+    plansza[1] = 0;
+    plansza[2] = 63;
+    plansza[41] = 191;
+    cel_masek = 1;
+    CHECK(start() == 1);
+    CHECK(tu(1, 1));
+    idz("UL");
+    CHECK(tu(1, 1));
+}
+
+static void branie(void) {
+    uloz1(2, "DMMMKB$eE");
+    CHECK(brak_masek == 2);
+    idz("R");
+    CHECK(brak_masek == 1 && !otwarte && punktow() == 1);
+    idz("R");
+    CHECK(brak_masek == 0 && otwarte);
+    idz("R");
+    CHECK(brak_masek == 0);
+    idz("RR");
+    CHECK(klucze == 1 && bomby == 1);
+    energia = 80;
+    idz("RR");
+    CHECK(energia == 99);
+    CHECK(wynik == 0);
+    idz("R");
+    CHECK(wynik == ETAP_PRZESZLA);
+
+    uloz1(1, "DEM"); /* closed before the goal, opened behind the back */
+    idz("R");
+    CHECK(wynik == 0 && tu(1, 1) && komunikat != 0);
+    uloz1(0, "DE"); /* no goal: open at once */
+    idz("R");
+    CHECK(wynik == ETAP_PRZESZLA);
+
+    uloz1(1, "D+K+ "); /* a key opens one door */
+    idz("R");
+    CHECK(tu(1, 1));
+    uloz1(1, "DK++ ");
+    idz("RRRR");
+    CHECK(tu(1, 3) && klucze == 0 && pole(1, 3) != 10);
+
+    uloz1(1, "Dnnnn "); /* jars: coins, strength, coins, a bomb */
+    energia = 50;
+    idz("RR");
+    CHECK(energia == 65 && bomby == 0);
+    idz("RRR");
+    CHECK(bomby == 1 && tu(1, 6));
+
+    uloz1(1, "D$$$$$$$$$$$$$$$$$$$$"); /* twenty coins make a life */
+    idz("RRRRRRRRRRRRRRRRRRR");
+    CHECK(zycia == 3);
+    idz("R");
+    CHECK(zycia == 4 && punktow() == 4);
+
+    uloz1(1, "Dz  "); /* a thicket holds back for a while; not with a torch */
+    idz("RR");
+    CHECK(tu(1, 1));
+    idz("R");
+    CHECK(tu(1, 2) && pole(1, 1) == 0);
+    uloz1(1, "Dizzz ");
+    idz("RR");
+    CHECK(pole(1, 3) == 35 && tu(1, 2));
+    takty(2000);
+    CHECK(pole(1, 3) == 0 && pole(1, 4) != 35 && pole(1, 5) != 35);
+}
+
+static void pchanie(void) {
+    uloz1(1, "DS ");
+    idz("RR");
+    CHECK(tu(1, 2) && pole(1, 3) == 15);
+    uloz1(1, "DSS ");
+    idz("R");
+    CHECK(tu(1, 1));
+    uloz1(1, "DS,S");
+    idz("RL");
+    CHECK(pole(1, 3) == 15);
+    uloz3(1, "D", "S", "w"); /* water takes the crate and turns to ground */
+    idz("DDD");
+    CHECK(tu(3, 1) && energia == 99);
+    uloz3(1, "b", "S", "D");
+    idz("UU");
+    CHECK(tu(1, 1) && energia == 99);
+    uloz1(1, "DS^ "); /* a trap is shut by it */
+    idz("RRR");
+    CHECK(tu(1, 3) && energia == 99 && pole(1, 4) == 15);
+    uloz1(1, "DS,."); /* what lay beneath comes back */
+    idz("RR");
+    CHECK(tu(1, 2) && pole(1, 3) == 15);
+    memset(plansza, 0, POLA); /* not over the edge of the board */
+    plansza[42] = 63;
+    plansza[41] = 15;
+    start();
+    idz("LL");
+    CHECK(tu(1, 2) && pole(1, 0) == 0);
+}
+
+static void bomby_i_mury(void) {
+    uloz1(1, "   DB%  ");
+    idz("R");
+    CHECK(bomby == 1);
+    idz("BB");
+    CHECK(bomby == 0);
+    takty(200);
+    CHECK(pole(1, 6) == 7 && energia == 99); /* it waits while she stands on it */
+    idz("LLLL");
+    CHECK((pole(1, 5) & 127) == 23);
+    takty(130);
+    CHECK(pole(1, 5) == 0 && pole(1, 6) == 0 && pole(1, 9) == 5 && energia == 99);
+
+    uloz1(1, "DB  "); /* too near */
+    idz("RBR");
+    takty(110);
+    CHECK(energia == 99 - 35);
+
+    uloz3(1, " QB$", "O|*L", "D   "); /* a chain; blocks crack; coins and walls stay; creatures score */
+    takty(260);
+    CHECK(pole(1, 2) == 0 && pole(1, 3) == 0 && pole(1, 4) == 34);
+    CHECK(pole(2, 1) == 7 && pole(2, 2) == 5 && pole(2, 3) == 0 && pole(0, 2) == 5);
+    CHECK(punktow() >= 1);
+}
+
+static void wedrowcy(void) {
+    byte i, lewy = 0, prawy = 0;
+    uloz3(1, "L      ", "|||||||", "D");
+    for (i = 0; i < 200; ++i) {
+        takty(9);
+        if (pole(1, 1) == 26)
+            lewy = 1;
+        if (pole(1, 7) == 27)
+            prawy = 1;
+    }
+    CHECK(lewy && prawy);
+
+    uloz3(1, "d|D", ",", " "); /* a guard goes down and up, and what it treads on stays */
+    takty(9);
+    CHECK(pole(2, 1) == 28 && pole(1, 1) == 0);
+    takty(9);
+    CHECK(pole(3, 1) == 28 && pole(2, 1) == 3);
+    takty(18);
+    CHECK(pole(2, 1) == 29);
+
+    uloz1(1, "R    D"); /* contact wounds, once a second at most */
+    takty(9 * 5);
+    CHECK(energia == 84);
+    takty(9);
+    CHECK(energia == 84);
+    takty(60);
+    CHECK(energia <= 69);
+    uloz1(1, "DL");
+    idz("R");
+    CHECK(energia == 84 && tu(1, 1));
+    takty(4000);
+    CHECK(energia == 0 && wynik == DORVA_GINIE);
+
+    uloz1(1, "g..D"); /* it wakes in her row only */
+    takty(9);
+    CHECK(pole(1, 1) == 27);
+    uloz3(1, "g   ", "    ", "   D");
+    takty(90);
+    CHECK(pole(1, 1) == 25);
+
+    uloz3(1, "!...", "....", "D|||"); /* a ghost passes earth and leaves it whole */
+    takty(500);
+    for (lewy = 0, i = 0; i < 4; ++i)
+        lewy += (pole(1, 1 + i) == 1) + (pole(2, 1 + i) == 1);
+    CHECK(lewy == 7 - (pole(1, 1) != 24));
+
+    uloz3(1, "D      ", "T| || |", "       "); /* a tracker takes her way, round the corner */
+    idz("RRRDDRRR");
+    takty(9 * 16);
+    CHECK(energia < 99);
+}
+
+static void strzelanie(void) {
+    byte i, byl = 0;
+    uloz3(1, "  ,    ", " *  D  ", "       ");
+    for (i = 0; i < 40; ++i) {
+        takty(9);
+        byl |= pole(2, 3) == 20;
+    }
+    CHECK(byl && energia < 99);
+    CHECK(pole(1, 3) == 3);
+
+    uloz3(1, "       ", " *  D  ", "@      "); /* the machine stops emitters */
+    maszyna_stoi = 1;
+    takty(400);
+    CHECK(energia == 99);
+    uloz1(1, "D@");
+    idz("R");
+    CHECK(maszyna_stoi == 1 && tu(1, 1));
+    idz("R");
+    CHECK(maszyna_stoi == 0);
+
+    uloz3(1, "m     D", "|||||||", "|||||||"); /* throwers see rows and columns, through nothing in between */
+    takty(9 * 6);
+    CHECK(energia == 99 - 12);
+    uloz3(1, "m|", " |", "D|");
+    takty(9 * 4);
+    CHECK(energia == 99 - 12);
+    uloz3(1, "m     |", "||||||D", "|||||||");
+    takty(300);
+    CHECK(energia == 99 && pole(1, 2) == 0);
+    uloz1(1, "P  S D");
+    takty(400);
+    CHECK(energia == 99 && pole(1, 4) == 15);
+    uloz1(1, "D   p   ");
+    takty(9 * 20);
+    CHECK(energia < 99 && pole(1, 8) == 0);
+}
+
+static void zywioly(void) {
+    uloz1(1, "D^  ");
+    idz("RR");
+    CHECK(energia == 79 && pole(1, 2) == 0);
+    uloz1(1, "Dww ");
+    idz("RR");
+    CHECK(energia == 91 && pole(1, 2) == 11);
+    takty(60);
+    CHECK(energia < 91);
+    uloz1(1, "Df ");
+    idz("RR");
+    CHECK(energia == 84 && pole(1, 2) == 35);
+
+    uloz1(1, "Dbbb ");
+    idz("R");
+    CHECK((pole(1, 2) & 127) == 52);
+    idz("R");
+    CHECK((pole(1, 3) & 127) == 51);
+    idz("RR");
+    CHECK(tu(1, 5) && (pole(1, 5) & 127) == 53 && energia == 99 && pole(1, 4) == 49);
+    uloz1(1, "Dbbbbb");
+    idz("RRRR");
+    CHECK(wynik == DORVA_GINIE);
+    uloz1(1, "Db ");
+    idz("R");
+    takty(120);
+    CHECK((pole(1, 2) & 127) == 50 && wynik == 0);
+    takty(60);
+    CHECK(wynik == DORVA_GINIE);
+
+    uloz3(1, "Do ||||||", "||||||o|o", "o  |   ||"); /* pairs in the order of the board; the way back */
+    idz("R");
+    CHECK(tu(2, 7) && pole(1, 2) == 55);
+    uloz3(1, " oD|||o  ", "|||||||||", "o| o     ");
+    idz("L");
+    CHECK(tu(1, 7));
+    idz("RL");
+    CHECK(tu(1, 2));
+    idz("L");
+    CHECK(tu(1, 1) && pole(1, 2) == 55);
+    uloz1(1, "Do "); /* one alone is just passed */
+    idz("RR");
+    CHECK(tu(1, 3) && pole(1, 2) == 55);
+}
+
+static unsigned long ziarno_testu = 1;
+static byte losowy(void) {
+    ziarno_testu = ziarno_testu * 1103515245UL + 12345;
+    return (byte)(ziarno_testu >> 16);
+}
+
+/* Any 800 bytes: thousands of ticks with a shaken stick. Nothing outside the arrays and nothing on the edge
+   is ever written, the heroine stays inside, and the figures in their ranges. */
+static void losowe(void) {
+    byte* const przed = plansza - 256;
+    byte* const za = plansza + POLA;
+    static byte brzeg[POLA];
+    byte n;
+    unsigned i;
+    for (n = 0; n < 10; ++n) {
+        for (i = 0; i < POLA; ++i) {
+            plansza[i] = losowy();
+            if (n & 1)
+                plansza[i] &= 0xBF; /* tiles only */
+            if (n & 2)
+                plansza[i] &= losowy(); /* more room */
+        }
+        plansza[(1 + losowy() % 18) * KOLUMNY + 1 + losowy() % 38] = 63;
+        memcpy(brzeg, plansza, POLA);
+        memset(przed, 0xC3, 256);
+        memset(za, 0xC3, 224);
+        cel_masek = 1 + losowy() % 9;
+        nowa_gra();
+        CHECK(start());
+        for (i = 0; i < 3000; ++i) {
+            if (i % 7 == 0)
+                drazek = losowy() & 15;
+            spust = losowy() & 1;
+            takt();
+            if (dorva_x < 1 || dorva_x > 38 || dorva_y < 1 || dorva_y > 18 || energia > 99 || bomby > 99)
+                break;
+            if (energia < 30)
+                energia = 99;
+            wynik = 0;
+        }
+        CHECK(i == 3000);
+        for (i = 0; i < 256 && przed[i] == 0xC3; ++i) {}
+        CHECK(i == 256);
+        for (i = 0; i < 224 && za[i] == 0xC3; ++i) {}
+        CHECK(i == 224);
+        for (i = POLA; i < 1024 && !pod[i] && !stan[i] && !zapach[i]; ++i) {}
+        CHECK(i == 1024);
+        for (i = 0; i < POLA; ++i)
+            if ((i < 40 || i >= 760 || i % 40 == 0 || i % 40 == 39) && plansza[i] != brzeg[i])
+                break;
+        CHECK(i == POLA);
+    }
+}
+
+static const struct {
+    const char* nazwa;
+    void (*test)(void);
+} grupy[] = {{"chodzenie", chodzenie}, {"branie", branie},         {"pchanie", pchanie}, {"bomby", bomby_i_mury},
+             {"wedrowcy", wedrowcy},   {"strzelanie", strzelanie}, {"zywioly", zywioly}, {"losowe", losowe}};
+
+int main(int argc, char* argv[]) {
+    byte i;
+    for (i = 0; i < sizeof(grupy) / sizeof(*grupy); ++i)
+        if (argc < 2 || !strcmp(argv[1], grupy[i].nazwa)) {
+            grupy[i].test();
+            if (argc < 2)
+                printf("%s: %u\n", grupy[i].nazwa, bledy);
+        }
+    return bledy > 255 ? 255 : (int)bledy;
+}
