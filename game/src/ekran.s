@@ -1,27 +1,150 @@
-; The display: a display list of our own, the text font with Polish letters, frame timing.
+; The display: display lists, their interrupts, the vertical blank, frame timing.
+;
+; The game's screen, top to bottom: the info line (text in slot 10 on slot 11), the board in slots 4..8,
+; and the panel on slot 11 with symbols in slot 9 above figures in slots 0..3. An interrupt between two parts
+; changes the colours while the beam draws an empty line.
 .include "atari.inc"
-.export czekaj_klatke, zrob_czcionke, czcionka
+.include "reguly.inc"
+.export zacznij_ekran, pokaz_plansze, pokaz_tekst, czekaj_klatke, czekaj_klatki, czysc_tekst
+.export ekran, logo, linia_info, panel_symboli, panel_cyfr, kolory
+.import plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek
 
-.segment "CZCIONKI"
-czcionka:       .res 1024               ; the ROM font plus nine Polish capitals
+.segment "EKRANY"
+logo:   .res LOGO_WIERSZE * 40          ; tiles above the text
+ekran:  .res TEKST_WIERSZE * 40
+linia_info: .res 40
+panel_symboli: .res 20
+panel_cyfr: .res 20
 
-.segment "RODATA"
-; Polish capitals stand on the codes of lower-case letters. Each is a plain capital with a mark
-; in the top row, in the bottom row, or, for L, a stroke in the middle.
-polskie:        .byte  97, 99,101,108,110,111,115,120,122   ; A, C, E, L, N, O, S, Z', Z.
-podstawa:       .byte  33, 35, 37, 44, 46, 47, 51, 58, 58
-gorny:          .byte   0,$0C,  0,  0,$0C,$0C,$0C,$0C,$18
-dolny:          .byte $06,  0,$06,  0,  0,  0,  0,  0,  0
-LICZBA_POLSKICH = * - dolny
-KOD_L = 108
+.segment "BSS"
+kolory: .res 12                         ; the slots of the stage
+po_liscie: .res 2                       ; the first interrupt of the list on show
 
-.segment "ZEROPAGE"
-zrodlo: .res 2
-dokad:  .res 2
+.segment "LISTY"
+PUSTE8  = $70
+PUSTE2  = $10
+PUSTA   = $00
+DLI     = $80
+LMS     = $40
+TRYB2   = $02                           ; text, 40 columns
+TRYB4   = $04                           ; tiles, 40 columns in four colours
+TRYB6   = $06                           ; text, 20 columns in four colours
+SKOK    = $41
+
+lista_planszy:
+        .byte PUSTE8, PUSTE8, PUSTE2
+        .byte LMS | TRYB2
+        .word linia_info
+        .byte PUSTE2 | DLI
+        .byte LMS | TRYB4
+        .word plansza
+        .res WIERSZE - 2, TRYB4
+        .byte TRYB4 | DLI
+        .byte PUSTE2
+        .byte LMS | TRYB6
+        .word panel_symboli
+        .byte PUSTA | DLI
+        .byte LMS | TRYB6
+        .word panel_cyfr
+        .byte PUSTE2, PUSTA | DLI
+        .byte SKOK
+        .word lista_planszy
+
+lista_tekstu:
+        .byte PUSTE8, PUSTE8, PUSTE8
+        .byte LMS | TRYB4
+        .word logo
+        .res LOGO_WIERSZE - 2, TRYB4
+        .byte TRYB4
+        .byte PUSTE8 | DLI
+        .byte LMS | TRYB2
+        .word ekran
+        .res TEKST_WIERSZE - 1, TRYB2
+        .byte SKOK
+        .word lista_tekstu
+        .assert * - lista_planszy < 256, error, "display lists within a page"
 
 .segment "CODE"
 
-; Waits for the next frame.
+; Takes the display over: nothing on the screen yet.
+zacznij_ekran:
+        lda #0
+        sta SDMCTL
+        lda #3
+        sta SKCTL
+        ldx #>klatka
+        ldy #<klatka
+        lda #7                          ; deferred vertical blank
+        jsr SETVBV
+        jsr czekaj_klatke
+        lda #$C0
+        sta NMIEN
+        rts
+
+; Shows the board with info line and panel.
+pokaz_plansze:
+        lda #<dli_plansza
+        ldx #>dli_plansza
+        jsr ustaw_dli
+        ldx kolory + 10
+        stx COLOR0+1
+        ldx kolory + 11
+        stx COLOR0+2
+        ldx kolory + 4
+        stx COLOR0
+        ldx kolory + 7
+        stx COLOR0+3
+        ldx kolory + 8
+        stx COLOR0+4
+        ldx #>czcionka
+        lda #<lista_planszy
+        ldy #>lista_planszy
+        bne pokaz
+
+; Shows a text screen: logo in the stage's colours, text below.
+pokaz_tekst:
+        lda #<dli_tekst
+        ldx #>dli_tekst
+        jsr ustaw_dli
+        ldx #4
+@kolor: lda kolory + 4,x
+        sta COLOR0,x
+        dex
+        bpl @kolor
+        ldx #>zestaw
+        lda #<lista_tekstu
+        ldy #>lista_tekstu
+pokaz:  stx CHBAS
+        sta SDLSTL
+        sty SDLSTL+1
+        lda #$22
+        sta SDMCTL
+        jmp czekaj_klatke
+
+ustaw_dli:
+        pha
+        lda #0                          ; the picture is off while lists and interrupts change
+        sta SDMCTL
+        jsr czekaj_klatke
+        pla
+        sta po_liscie
+        stx po_liscie+1
+        rts
+
+; Clears the text screen.
+czysc_tekst:
+        lda #0
+        tax
+@p:     sta logo,x
+        sta logo + LOGO_WIERSZE * 40 - 256,x
+        sta ekran,x
+        sta ekran + 256,x
+        sta ekran + TEKST_WIERSZE * 40 - 256,x
+        inx
+        bne @p
+        rts
+
+; Waits for the next frame. Keeps X and Y.
 czekaj_klatke:
         lda RTCLOK+2
 @czekaj:
@@ -31,68 +154,94 @@ czekaj_klatke:
         sta ATRACT
         rts
 
-; Copies the ROM font and adds the Polish capitals.
-zrob_czcionke:
-        ldx #0
-@kopia:
-    .repeat 4, I
-        lda ROMFONT + I * 256,x
-        sta czcionka + I * 256,x
-    .endrepeat
-        inx
-        bne @kopia
-        ldx #LICZBA_POLSKICH - 1
-@litera:
-        lda podstawa,x
-        jsr adres_znaku
-        lda dokad
-        sta zrodlo
-        lda dokad+1
-        sta zrodlo+1
-        lda polskie,x
-        jsr adres_znaku
-        ldy #7
-@wiersz:
-        lda (zrodlo),y
-        sta (dokad),y
-        dey
-        bpl @wiersz
-        ldy #0
-        lda gorny,x
-        ora (dokad),y
-        sta (dokad),y
-        ldy #7
-        lda dolny,x
-        ora (dokad),y
-        sta (dokad),y
-        lda polskie,x
-        cmp #KOD_L
-        bne @dalej
-        ldy #3                          ; the stroke through L
-        lda #$6C
-        ora (dokad),y
-        sta (dokad),y
-        iny
-        lda #$70
-        ora (dokad),y
-        sta (dokad),y
-@dalej: dex
-        bpl @litera
+; Waits X frames.
+czekaj_klatki:
+        jsr czekaj_klatke
+        dex
+        bne czekaj_klatki
         rts
 
-; dokad := address of the shape of character A (0..127) in the font. Keeps X.
-adres_znaku:
-        ldy #0
-        sty dokad+1
-        asl
-        rol dokad+1
-        asl
-        rol dokad+1
-        asl
-        rol dokad+1
-        sta dokad
-        lda dokad+1
-        clc
-        adc #>czcionka
-        sta dokad+1
-        rts
+; Every frame: the interrupts start anew, the sound goes on.
+klatka: lda po_liscie
+        sta VDSLST
+        lda po_liscie+1
+        sta VDSLST+1
+        jsr graj_dzwiek
+        jmp XITVBV
+
+.macro nastepne_dli adres
+        lda #<adres
+        sta VDSLST
+        lda #>adres
+        sta VDSLST+1
+.endmacro
+
+; info line -> board
+dli_plansza:
+        pha
+        sta WSYNC
+        lda #>zestaw
+        sta CHBASE
+        lda kolory + 5
+        sta COLPF1
+        lda kolory + 6
+        sta COLPF2
+        nastepne_dli dli_symbole
+        pla
+        rti
+
+; board -> symbols
+dli_symbole:
+        pha
+        lda kolory + 11
+        sta WSYNC
+        sta COLBK
+        lda kolory + 9
+        sta COLPF0
+        sta COLPF1
+        sta COLPF2
+        sta COLPF3
+        lda #>czcionka_panelu
+        sta CHBASE
+        nastepne_dli dli_cyfry
+        pla
+        rti
+
+; symbols -> figures
+dli_cyfry:
+        pha
+        txa
+        pha
+        ldx #3
+@kolor: lda kolory,x
+        sta COLPF0,x
+        dex
+        bpl @kolor
+        nastepne_dli dli_ramka
+        pla
+        tax
+        pla
+        rti
+
+; panel -> frame
+dli_ramka:
+        pha
+        lda kolory + 8
+        sta WSYNC
+        sta COLBK
+        pla
+        rti
+
+; logo -> text
+dli_tekst:
+        pha
+        lda #>czcionka
+        sta WSYNC
+        sta CHBASE
+        lda #$0C
+        sta COLPF1
+        lda #$00
+        sta COLPF2
+        sta COLBK
+        pla
+        rti

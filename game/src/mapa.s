@@ -20,32 +20,10 @@
         .res bajty, 0
 .endmacro
 
-; A stage as it stands before a builder has laid a real one over it: earth in a wall of stone,
-; one mask to take, the heroine and the exit.
-.macro etap numer
-        naglowek OKNO + numer * ETAP_ODSTEP, ETAP_BAJTY
-        .res 16, 0
-        .byte 34, 192, 64, 128, 180, 44, 238, 116, 0, 0, 0, 228
-        .res 4, 0
-        .res 40, 5
-    .repeat 18, R
-        .byte 5
-      .if R = 8
-        .res 10, 1
-        .byte 63
-        .res 8, 1
-        .byte 12
-        .res 8, 1
-        .byte 9
-        .res 9, 1
-      .else
-        .res 38, 1
-      .endif
-        .byte 5
-    .endrepeat
-        .res 40, 5
-        .byte 1, 0, 0
-        .res 32 + 64, 0
+; A stage of the sample set, as it stands before a builder lays another one over it. A test build replaces the first.
+.macro etap bank, miejsce
+        naglowek OKNO + miejsce * ETAP_ODSTEP, ETAP_BAJTY
+        .incbin .sprintf("DETAP.%d", bank * 16 + miejsce + 1), 0, ETAP_BAJTY
 .endmacro
 
 .segment "N_TEST"
@@ -66,13 +44,13 @@
 
 .segment "ETAPY0"
     .repeat 16, I
-        etap I
+        etap 0, I
     .endrepeat
 .segment "BANK1"
         wlacz BANK1
 .segment "ETAPY1"
     .repeat 16, I
-        etap I
+        etap 1, I
     .endrepeat
 
 .segment "ZAPAS1"

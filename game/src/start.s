@@ -1,11 +1,10 @@
-; The entry: takes the machine over and runs the title screen.
+; The entry: takes the machine over, then title and game by turns.
 .include "atari.inc"
 .export start
-.import zrob_czcionke, tytul
+.import zrob_czcionki, zacznij_ekran, cisza, tytul, graj
 
 .segment "CODE"
-start:
-        ldx #$FF
+start:  ldx #$FF
         txs
         cld
         lda #GLOWNA
@@ -22,7 +21,10 @@ start:
         sta BOOTQ
         lda #0
         sta COLDST
-        jsr zrob_czcionke
+        jsr cisza
+        jsr zrob_czcionki
+        jsr zacznij_ekran
 @petla: jsr tytul
+        jsr graj
         jmp @petla
 nic:    rts

@@ -1,66 +1,223 @@
-; The title screen. The three lines of the builder stand in a field of 24 columns in the middle
-; of the 40-column screen: a line's start column 2..12 counts from the left edge of that field.
+; Text screens: the title, the end of a game, the closing screen, and the word about a board without a heroine.
+;
+; The three lines of the builder stand in a field of 24 columns in the middle of the 40-column screen: a line's
+; start column 2..12 counts from the left edge of that field.
 .include "atari.inc"
-.export tytul
-.import tytuly, czcionka, czekaj_klatke
+.include "reguly.inc"
+.export tytul, ekran_konca, ekran_wygranej, ekran_bez_dorvy
+.importzp numer_etapu, napis
+.import tytuly, ekran, logo, punkty, pisz, dwie_cyfry, czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
+.import t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
+.import t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 
 POLE      = 8                           ; screen column of the field's column 0
 LINIE     = 3
+ETAPY     = 32
+PROSTO    = %1100                       ; the stick's bits for left and right
+W_LEWO    = %1000
+W_PRAWO   = %0100
+LOGO_TLO  = 3                           ; screen column of the first letter's left edge
 
-.segment "EKRANY"
-ekran:  .res 24 * 40
-
-.segment "LISTY"
-lista:  .byte $70, $70, $70
-        .byte $42
-        .word ekran
-        .res 23, $02
-        .byte $41
-        .word lista
+; writes a text at a row and column of the text screen
+.macro pisz_w wiersz, kolumna, tekst
+        lda #<(ekran + wiersz * 40 + kolumna)
+        sta napis
+        lda #>(ekran + wiersz * 40 + kolumna)
+        sta napis+1
+        lda #<tekst
+        ldx #>tekst
+        jsr pisz
+.endmacro
 
 .segment "RODATA"
-naglowek_tytulu:
-        .byte 36,47,50,54,33            ; DORVA
-naglowek_koniec:
+; DORVA in tiles: five letters of five columns, a bit a tile
+litery: .byte %11110, %10001, %10001, %10001, %11110
+        .byte %01110, %10001, %10001, %10001, %01110
+        .byte %11110, %10001, %11110, %10010, %10001
+        .byte %10001, %10001, %10001, %01010, %00100
+        .byte %01110, %10001, %11111, %10001, %10001
 
 .segment "ZEROPAGE"
 wsk:    .res 2
 wiersz: .res 2
+bity:   .res 1
+litera: .res 1
+rzad:   .res 1
+byl_drazek: .res 1
+poczatek: .res 1
 
 .segment "CODE"
-tytul:  jsr czysc
-        ldx #naglowek_koniec - naglowek_tytulu - 1
-@n:     lda naglowek_tytulu,x
-        sta ekran + 5 * 40 + 17,x
-        dex
-        bpl @n
-        jsr pisz_linie
-        lda #<lista
-        sta SDLSTL
-        lda #>lista
-        sta SDLSTL+1
-        lda #>czcionka
-        sta CHBAS
-        lda #$0E
-        sta COLOR0+1
-        lda #$94
-        sta COLOR0+2
-        lda #$90
-        sta COLOR0+4
-        lda #$22
-        sta SDMCTL
+
+; The title screen. Returns when the player starts; numer_etapu is the stage that the player has chosen.
+tytul:  lda #1
+        sta numer_etapu
+        lda #PROSTO
+        sta byl_drazek
+@od_nowa:
+        jsr rysuj_tytul
 @czekaj:
         jsr czekaj_klatke
-        jmp @czekaj
-
-czysc:  lda #0
-        tax
-@p:     sta ekran,x
-        sta ekran + 256,x
-        sta ekran + 512,x
-        sta ekran + 24 * 40 - 256,x
+        jsr wcisniete
+        bne @drazek
+        jmp czekaj_na_puszczenie
+@drazek:
+        lda STICK0
+        and #PROSTO
+        cmp byl_drazek
+        beq @czekaj
+        sta byl_drazek
+        cmp #W_LEWO
+        beq @wstecz
+        cmp #W_PRAWO
+        bne @czekaj
+        ldx numer_etapu
         inx
-        bne @p
+        cpx #ETAPY + 1
+        bcc @etap
+        ldx #1
+        bne @etap
+@wstecz:
+        ldx numer_etapu
+        dex
+        bne @etap
+        ldx #ETAPY
+@etap:  stx numer_etapu
+        jmp @od_nowa
+
+; Shows the title for stage numer_etapu: the logo wears its world and colours.
+rysuj_tytul:
+        jsr wczytaj_etap
+        jsr czysc_tekst
+        jsr rysuj_logo
+        jsr pisz_linie
+        pisz_w 8, 14, t_nowy
+        lda numer_etapu
+        jsr dwie_cyfry
+        stx ekran + 8 * 40 + 21
+        sta ekran + 8 * 40 + 22
+        pisz_w 10, 10, t_grasz
+        pisz_w 12, 5, t_klawisze1
+        pisz_w 13, 4, t_klawisze2
+        pisz_w 14, 12, t_klawisze3
+        jmp pokaz_tekst
+
+; Game over.
+ekran_konca:
+        jsr czysc_tekst
+        jsr rysuj_logo
+        pisz_w 4, 15, t_koniec
+        jsr pisz_wynik
+        jmp czekaj_na_gracza
+
+; The last stage is behind her.
+ekran_wygranej:
+        jsr czysc_tekst
+        jsr rysuj_logo
+        pisz_w 3, 15, t_wygrana
+        pisz_w 5, 7, t_wygrana2
+        jsr pisz_wynik
+        jmp czekaj_na_gracza
+
+ekran_bez_dorvy:
+        jsr czysc_tekst
+        jsr rysuj_logo
+        pisz_w 4, 9, t_brak
+        pisz_w 6, 2, t_brak2
+; Shows the screen until fire or START.
+czekaj_na_gracza:
+        jsr pokaz_tekst
+        jsr czekaj_na_puszczenie
+@czekaj:
+        jsr czekaj_klatke
+        jsr wcisniete
+        bne @czekaj
+czekaj_na_puszczenie:
+        jsr czekaj_klatke
+        jsr wcisniete
+        beq czekaj_na_puszczenie
+        rts
+
+; Z: fire or START is pressed.
+wcisniete:
+        lda CONSOL
+        and #1
+        and STRIG0
+        rts
+
+pisz_wynik:
+        pisz_w 8, 13, t_wynik
+        ldx #0
+        ldy #0
+@cyfry: lda punkty,x
+        lsr
+        lsr
+        lsr
+        lsr
+        ora #16
+        sta ekran + 8 * 40 + 20,y
+        lda punkty,x
+        and #15
+        ora #16
+        sta ekran + 8 * 40 + 21,y
+        iny
+        iny
+        inx
+        cpx #3
+        bne @cyfry
+        rts
+
+; The name in the world's own stones.
+rysuj_logo:
+        lda #<(logo + 40 + LOGO_TLO)
+        sta wiersz
+        lda #>(logo + 40 + LOGO_TLO)
+        sta wiersz+1
+        lda #0
+        sta rzad
+@rzad:  lda #0
+        sta litera
+        ldy #0
+@litera:
+        lda litera                      ; the letter's row: 5 * litera + rzad
+        asl
+        asl
+        adc litera
+        adc rzad
+        tax
+        lda litery,x
+        asl
+        asl
+        asl
+        sta bity
+        sty poczatek
+@bit:   asl bity
+        bcc :+
+        lda #BLOK
+        sta (wiersz),y
+:       iny
+        tya
+        sec
+        sbc poczatek
+        cmp #5
+        bne @bit
+        iny
+        iny
+        inc litera
+        lda litera
+        cmp #5
+        bne @litera
+        clc
+        lda wiersz
+        adc #40
+        sta wiersz
+        bcc :+
+        inc wiersz+1
+:       inc rzad
+        lda rzad
+        cmp #5
+        bne @rzad
+        lda #DORVA                      ; and herself below it, on her way
+        sta logo + 6 * 40 + 19
         rts
 
 ; Writes the three lines, each from its start column on, up to the first 155.
@@ -69,9 +226,9 @@ pisz_linie:
         sta wsk
         lda #>tytuly
         sta wsk+1
-        lda #<(ekran + 11 * 40 + POLE)
+        lda #<(ekran + 1 * 40 + POLE)
         sta wiersz
-        lda #>(ekran + 11 * 40 + POLE)
+        lda #>(ekran + 1 * 40 + POLE)
         sta wiersz+1
         ldx #LINIE
 @linia: ldy #0

@@ -1,0 +1,152 @@
+; Fonts, made at the start: the text font with Polish capitals, the panel's figures with icons, and the
+; character set of a world with a picture for the codes that are no tiles.
+.include "atari.inc"
+.include "reguly.inc"
+.export zrob_czcionki, wez_zestaw, czcionka, czcionka_panelu, zestaw
+
+.segment "CZCIONKI"
+czcionka:        .res 1024              ; the ROM font plus nine Polish capitals
+zestaw:          .res 1024              ; the world's tiles
+czcionka_panelu: .res 512               ; 64 characters for the wide panel
+
+; The character sets of the three worlds, as the companion tool exports them; tiles are characters 0..63.
+.segment "ZNAKI"
+swiaty:
+        .incbin "FNT01.ORN.ND", 0, 1024
+        .incbin "FNT11.ORN.ND", 0, 1024
+        .incbin "FNT21.ORN.ND", 0, 1024
+
+.segment "RODATA"
+; Polish capitals stand on the codes of lower-case letters. Each is a plain capital with a mark
+; in the top row, in the bottom row, or, for L, a stroke in the middle.
+polskie:        .byte  97, 99,101,108,110,111,115,120,122   ; A, C, E, L, N, O, S, Z', Z.
+podstawa:       .byte  33, 35, 37, 44, 46, 47, 51, 58, 58
+gorny:          .byte   0,$0C,  0,  0,$0C,$0C,$0C,$0C,$18
+dolny:          .byte $06,  0,$06,  0,  0,  0,  0,  0,  0
+LICZBA_POLSKICH = * - dolny
+KOD_L = 108
+
+; icons of the panel, on the codes of signs that a panel never shows
+ikony:
+        .byte %00000000, %01111000, %11001100, %11001111, %11001111, %11001101, %01111001, %00000000  ; key
+        .byte %00001100, %00010000, %00111100, %01111110, %01111110, %01111110, %00111100, %00000000  ; bomb
+        .byte %00000000, %01111110, %11111111, %10011001, %11111111, %01100110, %00111100, %00000000  ; mask
+        .byte %00000000, %01100110, %11111111, %11111111, %01111110, %00111100, %00011000, %00000000  ; heart
+        .byte %00111100, %01111110, %01011010, %01111110, %00111100, %01111110, %01011010, %00100100  ; life
+        .byte %00000000, %11000000, %11111100, %11111111, %11111100, %11000000, %11000000, %11000000  ; flag
+        .byte %00011000, %00011000, %11111111, %01111110, %00111100, %01100110, %11000011, %00000000  ; star
+IKONY_BAJTY = * - ikony
+
+.segment "ZEROPAGE"
+zrodlo: .res 2
+dokad:  .res 2
+
+.segment "CODE"
+
+zrob_czcionki:
+        ldx #0
+@kopia:
+    .repeat 4, I
+        lda ROMFONT + I * 256,x
+        sta czcionka + I * 256,x
+    .endrepeat
+        inx
+        bne @kopia
+@panel: lda ROMFONT,x
+        sta czcionka_panelu,x
+        lda ROMFONT + 256,x
+        sta czcionka_panelu + 256,x
+        inx
+        bne @panel
+        ldx #IKONY_BAJTY - 1
+@ikona: lda ikony,x
+        sta czcionka_panelu + IKONA * 8,x
+        dex
+        bpl @ikona
+        ldx #LICZBA_POLSKICH - 1
+@litera:
+        lda podstawa,x
+        jsr adres_znaku
+        lda dokad
+        sta zrodlo
+        lda dokad+1
+        sta zrodlo+1
+        lda polskie,x
+        jsr adres_znaku
+        ldy #7
+@wiersz:
+        lda (zrodlo),y
+        sta (dokad),y
+        dey
+        bpl @wiersz
+        ldy #0
+        lda gorny,x
+        ora (dokad),y
+        sta (dokad),y
+        ldy #7
+        lda dolny,x
+        ora (dokad),y
+        sta (dokad),y
+        lda polskie,x
+        cmp #KOD_L
+        bne @dalej
+        ldy #3                          ; the stroke through L
+        lda #$6C
+        ora (dokad),y
+        sta (dokad),y
+        iny
+        lda #$70
+        ora (dokad),y
+        sta (dokad),y
+@dalej: dex
+        bpl @litera
+        rts
+
+; dokad := address of the shape of character A (0..127) in the text font. Keeps X.
+adres_znaku:
+        ldy #0
+        sty dokad+1
+        asl
+        rol dokad+1
+        asl
+        rol dokad+1
+        asl
+        rol dokad+1
+        sta dokad
+        lda dokad+1
+        clc
+        adc #>czcionka
+        sta dokad+1
+        rts
+
+; The character set of world A (0..2) comes to where ANTIC reads it: 64 tiles, and a chequer for the other codes.
+wez_zestaw:
+        asl
+        asl
+        adc #>swiaty
+        sta zrodlo+1
+        lda #>zestaw
+        sta dokad+1
+        ldy #0
+        sty zrodlo
+        sty dokad
+        ldx #2
+@strona:
+        lda (zrodlo),y
+        sta (dokad),y
+        iny
+        bne @strona
+        inc zrodlo+1
+        inc dokad+1
+        dex
+        bne @strona
+@krata: tya
+        lsr
+        lda #$66
+        bcc :+
+        lda #$99
+:       sta zestaw + 512,y
+        sta zestaw + 768,y
+        iny
+        bne @krata
+        rts

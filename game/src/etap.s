@@ -1,0 +1,91 @@
+; The stage set-up: takes a stage record out of its bank.
+.include "atari.inc"
+.include "reguly.inc"
+.export wczytaj_etap, ostatni, swiat, powitanie
+.exportzp numer_etapu
+.import plansza, cel_masek, kolory, wez_zestaw
+
+ETAPY_W_BANKU = 16
+SWIATY    = 3
+
+.segment "ZEROPAGE"
+numer_etapu: .res 1     ; 1..32
+rekord:  .res 2
+gdzie:   .res 2
+
+.segment "BSS"
+ostatni: .res 1
+swiat:   .res 1
+powitanie: .res 32
+
+.segment "CODE"
+
+; Takes stage numer_etapu: its board, colours, goal, flag, world, greeting. The description stays where it is.
+wczytaj_etap:
+        ldx #BANK0
+        lda numer_etapu
+        sec
+        sbc #1
+        cmp #ETAPY_W_BANKU
+        bcc :+
+        ldx #BANK1
+        sbc #ETAPY_W_BANKU
+:       stx PORTB                       ; interrupts may come: nothing of ours lies in the window
+        asl
+        asl
+        adc #>OKNO
+        sta rekord+1
+        lda #0
+        sta rekord
+        ldy #ETAP_KOLORY + 11
+@kolor: lda (rekord),y
+        sta kolory - ETAP_KOLORY,y
+        dey
+        cpy #ETAP_KOLORY
+        bcs @kolor
+        lda #<plansza                   ; the board: three pages and a bit, from offset 32 on
+        sta gdzie
+        lda #>plansza
+        sta gdzie+1
+        lda #ETAP_PLANSZA
+        sta rekord
+        ldx #3
+        ldy #0
+@strona:
+        lda (rekord),y
+        sta (gdzie),y
+        iny
+        bne @strona
+        inc rekord+1
+        inc gdzie+1
+        dex
+        bne @strona
+@reszta:
+        lda (rekord),y
+        sta (gdzie),y
+        iny
+        cpy #POLA - 768
+        bne @reszta
+        lda (rekord),y                  ; ETAP_CEL and what follows
+        sta cel_masek
+        iny
+        lda (rekord),y
+        sta ostatni
+        iny
+        lda (rekord),y
+        cmp #SWIATY
+        bcc :+
+        lda #0                          ; a world that there is none of
+:       sta swiat
+        ldx #0
+@litera:
+        iny
+        lda (rekord),y
+        sta powitanie,x
+        inx
+        cpx #32
+        bne @litera
+        lda #GLOWNA
+        sta PORTB
+        lda swiat
+        jmp wez_zestaw

@@ -1,0 +1,86 @@
+; Texts. They are kept in screen codes; a lower-case letter is a Polish capital, as in the stage records:
+; a c e l n o s x z for A C E L N O S Z Z with their marks.
+.include "atari.inc"
+.include "reguly.inc"
+.export pisz, dwie_cyfry, komunikaty_lo, komunikaty_hi
+.export t_grasz, t_klawisze1, t_klawisze2, t_klawisze3, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
+.export t_etap_nr, t_nowy
+.exportzp napis
+
+.repeat 64, I
+        .charmap 32 + I, I
+.endrepeat
+
+; a text: its length, then its codes
+.macro tekst zawartosc
+        .byte .strlen(zawartosc)
+        .byte zawartosc
+.endmacro
+
+.segment "ZEROPAGE"
+napis:  .res 2          ; the text to be written
+miejsce: .res 2
+
+.segment "RODATA"
+t_grasz:     tekst "FIRE LUB START - GRA"
+t_nowy:      tekst "< ETAP    >"
+t_klawisze1: tekst "JOYSTICK - RUCH   FIRE - BOMBA"
+t_klawisze2: tekst "SELECT - OD NOWA  OPTION - PAUZA"
+t_klawisze3: tekst "ESC - KONIEC GRY"
+t_koniec:    tekst "KONIEC GRY"
+t_wynik:     tekst "PUNKTY "
+t_wygrana:   tekst "GRATULACJE!"
+t_wygrana2:  tekst "DORVA PRZESZlA OSTATNI ETAP"
+t_brak:      tekst "NA PLANSZY NIE MA DORVY"
+t_brak2:     tekst "POSTAW Ja W EDYTORZE I SPRoBUJ ZNOWU"
+t_etap_nr:   tekst "ETAP "
+
+k_klucz:     tekst "DRZWI Sa ZAMKNIeTE - SZUKAJ KLUCZA"
+k_maski:     tekst "WYJsCIE ZAMKNIeTE - BRAKUJE MASEK"
+k_otwarte:   tekst "WYJsCIE OTWARTE!"
+k_bomba:     tekst "NIE MASZ BOMBY"
+k_stoi:      tekst "MASZYNA STANelA"
+k_rusza:     tekst "MASZYNA RUSZYlA"
+k_ogien:     tekst "MASZ POCHODNIe!"
+k_zycie:     tekst "DODATKOWE zYCIE!"
+k_pauza:     tekst "PAUZA - OPTION: GRAMY DALEJ"
+
+.define KOMUNIKATY k_klucz, k_klucz, k_maski, k_otwarte, k_bomba, k_stoi, k_rusza, k_ogien, k_zycie, k_pauza
+komunikaty_lo: .lobytes KOMUNIKATY
+komunikaty_hi: .hibytes KOMUNIKATY
+
+.segment "CODE"
+
+; Writes the text at A (low), X (high) to the address in napis.
+pisz:   sta miejsce
+        stx miejsce+1
+        ldy #0
+        lda (miejsce),y
+        tax
+        beq @koniec
+        inc miejsce
+        bne @znak
+        inc miejsce+1
+@znak:  lda (miejsce),y
+        sta (napis),y
+        iny
+        dex
+        bne @znak
+@koniec:
+        rts
+
+; A (0..99) as two digits: tens in X, ones in A, as screen codes. Above 99 it shows 99.
+dwie_cyfry:
+        cmp #100
+        bcc :+
+        lda #99
+:       ldx #16
+        sec
+@dziesiatki:
+        sbc #10
+        bcc @reszta
+        inx
+        bne @dziesiatki
+@reszta:
+        adc #26
+        rts
