@@ -25,6 +25,34 @@
 #include <QSignalBlocker>
 
 namespace dorva {
+
+// A text box of the window and which one it is to the logic.
+struct OknoGlowne::PoleOkna {
+    const char* name;
+    int index;
+    Pole pole;
+};
+
+// An option group: how many buttons, what a selection runs, where the record keeps it.
+struct OknoGlowne::OpcjeOkna {
+    const char* name;
+    int count;
+    void (*select)(Edytor&, int);
+    int Okno::*selected;
+};
+
+const OknoGlowne::PoleOkna OknoGlowne::POLA[]{{"txtNazwa", -1, Pole::Nazwa},
+                                              {"txtAutor", -1, Pole::Autor},
+                                              {"txtAutorGry", 0, Pole::AutorGry0},
+                                              {"txtAutorGry", 1, Pole::AutorGry1},
+                                              {"txtAutorGry", 2, Pole::AutorGry2}};
+
+const OknoGlowne::OpcjeOkna OknoGlowne::OPCJE[]{
+    {"optEtapNR", ETAPY_COUNT, SelectEtapNR, &Okno::optEtapNR},
+    {"optObiektyNR", SWIATY_COUNT, [](Edytor& e, int index) { (void)SelectObiektyNR(e, index); }, &Okno::optObiektyNR},
+    {"optPPM", 2, [](Edytor& e, int index) { e.okno.optPPM = index; }, &Okno::optPPM},
+    {"optNN", 2, SelectNN, &Okno::optNN}};
+
 namespace {
 
 QString text(std::string_view utf8) {
@@ -85,6 +113,7 @@ QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
     case Rodzaj::Figura: {
         auto* label = makeLabel<Etykieta>(k, parent);
         label->setFrameStyle(QFrame::Box | QFrame::Plain);
+        label->setAutoFillBackground(true); // so that nothing below is painted anew with it
         return label;
     }
     case Rodzaj::Probka: {
@@ -125,17 +154,6 @@ void placeBeside(QWidget& dialog, const QWidget& window) {
     dialog.move(room ? frame.right() + GAP : frame.right() - window.width() / 4 - dialog.width(), frame.top() + GAP);
 }
 
-struct PoleOkna {
-    const char* name;
-    int index;
-    Pole pole;
-};
-constexpr PoleOkna POLA[]{{"txtNazwa", -1, Pole::Nazwa},
-                          {"txtAutor", -1, Pole::Autor},
-                          {"txtAutorGry", 0, Pole::AutorGry0},
-                          {"txtAutorGry", 1, Pole::AutorGry1},
-                          {"txtAutorGry", 2, Pole::AutorGry2}};
-
 struct PrzyciskOkna {
     const char* name;
     void (*click)(Edytor&);
@@ -145,18 +163,6 @@ constexpr PrzyciskOkna PRZYCISKI[]{{"cmdCzysc", cmdCzysc_Click},       {"cmdLoad
                                    {"cmdSaveArch", cmdSaveArch_Click}, {"cmdTest", cmdTest_Click},
                                    {"cmdCreate", cmdCreate_Click},     {"cmdResetKolory", cmdResetKolory_Click},
                                    {"cmdReload", cmdReload_Click},     {"cmdORN", cmdORN_Click}};
-
-struct OpcjeOkna {
-    const char* name;
-    int count;
-    void (*select)(Edytor&, int);
-    int Okno::*selected;
-};
-constexpr OpcjeOkna OPCJE[]{
-    {"optEtapNR", ETAPY_COUNT, SelectEtapNR, &Okno::optEtapNR},
-    {"optObiektyNR", SWIATY_COUNT, [](Edytor& e, int index) { (void)SelectObiektyNR(e, index); }, &Okno::optObiektyNR},
-    {"optPPM", 2, [](Edytor& e, int index) { e.okno.optPPM = index; }, &Okno::optPPM},
-    {"optNN", 2, SelectNN, &Okno::optNN}};
 
 } // namespace
 
@@ -169,6 +175,13 @@ template <typename Widget> Widget* OknoGlowne::find(const char* name, int index)
     return static_cast<Widget*>(widgets_.value(nameOf(name, index)));
 }
 
+template <typename Widget, std::size_t Count> std::array<Widget*, Count> OknoGlowne::findArray(const char* name) const {
+    std::array<Widget*, Count> widgets;
+    for (std::size_t index = 0; index < Count; ++index)
+        widgets[index] = find<Widget>(name, static_cast<int>(index));
+    return widgets;
+}
+
 OknoGlowne::OknoGlowne(Edytor& e) : e_(e), obrazki_(e.zestawy) {
     setObjectName("frmDP");
     setFixedSize(OKNO_WIDTH, OKNO_HEIGHT);
@@ -177,6 +190,14 @@ OknoGlowne::OknoGlowne(Edytor& e) : e_(e), obrazki_(e.zestawy) {
         build(k);
     imgPG_ = find<PlanszaWidget>("imgPG");
     imgZnak_ = find<WyborWidget>("imgZnak");
+    imgBufor_ = find<ObrazWidget>("imgBufor");
+    imgInfo_ = findArray<ObrazWidget, 10>("imgInfo");
+    lblInfo_ = findArray<Etykieta, 11>("lblInfo");
+    lblKodBufor_ = findArray<Etykieta, 2>("lblKodBufor");
+    lblKolor_ = findArray<Etykieta, SLOTY_COUNT>("lblKolor");
+    chkOstatni_ = find<QCheckBox>("chkOstatni");
+    chkZachowajKolory_ = find<QCheckBox>("chkZachowajKolory");
+    hscMonet_ = find<QScrollBar>("hscMonet");
     setTabOrder();
     bindHooks();
     bindEvents();
@@ -239,34 +260,44 @@ void OknoGlowne::bindEvents() {
     for (const PrzyciskOkna& p : PRZYCISKI)
         connect(find<QPushButton>(p.name), &QPushButton::clicked, this, [this, &p] { run(p.click); });
     for (const OpcjeOkna& o : OPCJE)
-        bindOptions(o.name, o.count, o.select);
+        bindOptions(o);
     for (const PoleOkna& p : POLA)
-        bindText(p.name, p.index, p.pole);
+        bindText(p);
 
     for (int slot = 0; slot < SLOTY_COUNT; ++slot)
-        find<Etykieta>("lblKolor", slot)->onClick = [this, slot] { run([=](Edytor& e) { PickKolor(e, slot); }); };
-    for (int index = 0; index < static_cast<int>(shown_.lblInfo.size()); ++index)
-        find<Etykieta>("lblInfo", index)->onClick = [this, index] { run([=](Edytor& e) { lblInfo_Click(e, index); }); };
-    connect(find<QScrollBar>("hscMonet"), &QScrollBar::valueChanged, this,
+        lblKolor_[static_cast<std::size_t>(slot)]->onClick = [this, slot] {
+            run([=](Edytor& e) { PickKolor(e, slot); });
+        };
+    for (int index = 0; index < static_cast<int>(lblInfo_.size()); ++index)
+        lblInfo_[static_cast<std::size_t>(index)]->onClick = [this, index] {
+            run([=](Edytor& e) { lblInfo_Click(e, index); });
+        };
+    connect(hscMonet_, &QScrollBar::valueChanged, this,
             [this](int value) { run([=](Edytor& e) { (void)SetMonet(e, value); }); });
 
     // A box that holds 2 is shown half checked; a click clears it.
-    connect(find<QCheckBox>("chkOstatni"), &QCheckBox::clicked, this,
+    connect(chkOstatni_, &QCheckBox::clicked, this,
             [this] { run([](Edytor& e) { e.okno.chkOstatni = e.okno.chkOstatni == 0 ? 1 : 0; }); });
-    connect(find<QCheckBox>("chkZachowajKolory"), &QCheckBox::clicked, this,
+    connect(chkZachowajKolory_, &QCheckBox::clicked, this,
             [this](bool checked) { run([=](Edytor& e) { e.okno.chkZachowajKolory = checked; }); });
 }
 
-void OknoGlowne::bindOptions(const char* name, int count, void (*select)(Edytor&, int)) {
+void OknoGlowne::bindOptions(const OpcjeOkna& opcje) {
     auto* group = new QButtonGroup(this);
-    for (int index = 0; index < count; ++index)
-        group->addButton(find<QPushButton>(name, index), index);
+    std::vector<QPushButton*> buttons;
+    for (int index = 0; index < opcje.count; ++index) {
+        buttons.push_back(find<QPushButton>(opcje.name, index));
+        group->addButton(buttons.back(), index);
+    }
+    opcje_.push_back(std::move(buttons));
     connect(group, &QButtonGroup::idClicked, this,
-            [this, select](int index) { run([=](Edytor& e) { select(e, index); }); });
+            [this, &opcje](int index) { run([&](Edytor& e) { opcje.select(e, index); }); });
 }
 
-void OknoGlowne::bindText(const char* name, int index, Pole pole) {
-    auto* box = find<PoleEdycji>(name, index);
+void OknoGlowne::bindText(const PoleOkna& p) {
+    auto* box = find<PoleEdycji>(p.name, p.index);
+    pola_.push_back(box);
+    const Pole pole = p.pole;
     box->setMaxLength(static_cast<int>(poleOf(e_.okno, pole).width));
     box->onEnter = [this, pole] { run([=](Edytor& e) { txt_GotFocus(e, pole); }); };
     box->onLeave = [this, pole] { run([=](Edytor& e) { txt_LostFocus(e, pole); }); };
@@ -279,7 +310,7 @@ void OknoGlowne::showRecord() {
     obrazki_.followMagazyn();
     imgPG_->showOkno(okno, obrazki_);
     imgZnak_->showOkno(okno, obrazki_);
-    find<ObrazWidget>("imgBufor")->showObraz(okno.imgBufor.obraz, obrazki_);
+    imgBufor_->showObraz(okno.imgBufor.obraz, obrazki_);
     showOptions();
     showFigures();
     showKolory();
@@ -291,22 +322,21 @@ void OknoGlowne::showRecord() {
 
 void OknoGlowne::showOptions() {
     const Okno& okno = e_.okno;
-    for (const OpcjeOkna& o : OPCJE) {
-        auto* selected = find<QPushButton>(o.name, okno.*o.selected);
+    for (std::size_t group = 0; group < opcje_.size(); ++group) {
+        QPushButton* selected = opcje_[group][static_cast<std::size_t>(okno.*OPCJE[group].selected)];
         if (shownOnce_ && selected->isChecked())
             continue;
         selected->setChecked(true);
         // the Tab key enters a group at its selected button
-        for (int index = 0; index < o.count; ++index)
-            find<QPushButton>(o.name, index)->setFocusPolicy(Qt::ClickFocus);
-        selected->setFocusPolicy(Qt::StrongFocus);
+        for (QPushButton* button : opcje_[group])
+            button->setFocusPolicy(button == selected ? Qt::StrongFocus : Qt::ClickFocus);
     }
-
-    auto* ostatni = find<QCheckBox>("chkOstatni");
-    ostatni->setTristate(okno.chkOstatni == 2);
-    ostatni->setCheckState(okno.chkOstatni == 2 ? Qt::PartiallyChecked : okno.chkOstatni ? Qt::Checked : Qt::Unchecked);
-    ostatni->setEnabled(okno.chkOstatniEnabled);
-    find<QCheckBox>("chkZachowajKolory")->setChecked(okno.chkZachowajKolory);
+    chkOstatni_->setTristate(okno.chkOstatni == 2);
+    chkOstatni_->setCheckState(okno.chkOstatni == 2 ? Qt::PartiallyChecked
+                               : okno.chkOstatni    ? Qt::Checked
+                                                    : Qt::Unchecked);
+    chkOstatni_->setEnabled(okno.chkOstatniEnabled);
+    chkZachowajKolory_->setChecked(okno.chkZachowajKolory);
 }
 
 void OknoGlowne::showFigures() {
@@ -315,17 +345,16 @@ void OknoGlowne::showFigures() {
         const InfoPole& info = okno.lblInfo[i];
         if (shownOnce_ && info == shown_.lblInfo[i])
             continue;
-        auto* label = find<Etykieta>("lblInfo", static_cast<int>(i));
+        Etykieta* label = lblInfo_[i];
         label->setText(QString::fromStdString(info.caption));
         setColour(label, QPalette::WindowText, info.czerwony ? QColor(Qt::red) : palette().color(QPalette::WindowText));
     }
     for (std::size_t k = 0; k < okno.imgInfo.size(); ++k)
-        find<ObrazWidget>("imgInfo", static_cast<int>(k))->showObraz(okno.imgInfo[k], obrazki_);
+        imgInfo_[k]->showObraz(okno.imgInfo[k], obrazki_);
     for (std::size_t i = 0; i < okno.lblKodBufor.size(); ++i)
-        find<Etykieta>("lblKodBufor", static_cast<int>(i))->setText(QString::fromStdString(okno.lblKodBufor[i]));
-    auto* monet = find<QScrollBar>("hscMonet");
-    const QSignalBlocker quiet(monet);
-    monet->setValue(okno.hscMonet);
+        lblKodBufor_[i]->setText(QString::fromStdString(okno.lblKodBufor[i]));
+    const QSignalBlocker quiet(hscMonet_);
+    hscMonet_->setValue(okno.hscMonet);
 }
 
 void OknoGlowne::showKolory() {
@@ -334,7 +363,7 @@ void OknoGlowne::showKolory() {
         const Probka& probka = e_.okno.lblKolor[i];
         if (shownOnce_ && probka == shown_.lblKolor[i])
             continue;
-        auto* label = find<Etykieta>("lblKolor", static_cast<int>(i));
+        Etykieta* label = lblKolor_[i];
         label->setText(QString::number(probka.value));
         setColour(label, QPalette::Window, toQColor(probka.tlo));
         setColour(label, QPalette::WindowText, probka.wybrana ? lightRed : white);
@@ -347,18 +376,18 @@ void OknoGlowne::showTexts() {
         caption_ = e_.okno.caption;
         setWindowTitle(text(caption_));
     }
-    for (const PoleOkna& p : POLA) {
-        const PoleTekstu& pole = poleOf(e_.okno, p.pole);
-        auto* box = find<PoleEdycji>(p.name, p.index);
+    for (std::size_t i = 0; i < pola_.size(); ++i) {
+        const PoleTekstu& pole = poleOf(e_.okno, POLA[i].pole);
+        PoleEdycji* box = pola_[i];
         if (const QString shown = toQString(pole.tekst); shown != box->text()) {
             const int cursor = box->cursorPosition();
             box->setText(shown);
             box->setCursorPosition(cursor);
         }
-        if (shownOnce_ && pole.zaznaczenia != poleOf(shown_, p.pole).zaznaczenia)
+        if (shownOnce_ && pole.zaznaczenia != poleOf(shown_, POLA[i].pole).zaznaczenia)
             box->selectAll();
     }
-    find<PoleEdycji>("txtAutor")->setEnabled(e_.okno.txtAutorEnabled);
+    pola_[1]->setEnabled(e_.okno.txtAutorEnabled);
 }
 
 void OknoGlowne::showPaleta() {

@@ -8,11 +8,20 @@
 #include <QHash>
 #include <QWidget>
 
+#include <array>
+#include <vector>
+
+class QCheckBox;
+class QPushButton;
+class QScrollBar;
+
 namespace dorva {
 
-enum class Pole;
+class Etykieta;
+class ObrazWidget;
 class PaletaOkno;
 class PlanszaWidget;
+class PoleEdycji;
 class WyborWidget;
 
 class OknoGlowne : public QWidget {
@@ -28,17 +37,23 @@ protected:
     void closeEvent(QCloseEvent*) override;
 
 private:
+    struct PoleOkna;
+    struct OpcjeOkna;
+    static const PoleOkna POLA[5];
+    static const OpcjeOkna OPCJE[4];
+
     void build(const Kontrolka&);
     void setTabOrder();
     void bindHooks();
     void bindEvents();
-    void bindOptions(const char* name, int count, void (*select)(Edytor&, int));
-    void bindText(const char* name, int index, Pole pole);
+    void bindOptions(const OpcjeOkna&);
+    void bindText(const PoleOkna&);
 
     // Runs an operation and shows what it did.
     template <typename Operation> void run(Operation operation);
 
     template <typename Widget> Widget* find(const char* name, int index = -1) const;
+    template <typename Widget, std::size_t Count> std::array<Widget*, Count> findArray(const char* name) const;
     void showOptions();
     void showFigures();
     void showKolory();
@@ -48,11 +63,24 @@ private:
     Edytor& e_;
     Obrazki obrazki_;
     QHash<QString, QWidget*> widgets_; // by control name
-    PlanszaWidget* imgPG_ = nullptr;
-    WyborWidget* imgZnak_ = nullptr;
+
+    // the widgets that are brought up to date after every operation
+    PlanszaWidget* imgPG_;
+    WyborWidget* imgZnak_;
+    ObrazWidget* imgBufor_;
+    std::array<ObrazWidget*, 10> imgInfo_;
+    std::array<Etykieta*, 11> lblInfo_;
+    std::array<Etykieta*, 2> lblKodBufor_;
+    std::array<Etykieta*, SLOTY_COUNT> lblKolor_;
+    std::vector<std::vector<QPushButton*>> opcje_; // by group
+    std::vector<PoleEdycji*> pola_;
+    QCheckBox* chkOstatni_;
+    QCheckBox* chkZachowajKolory_;
+    QScrollBar* hscMonet_;
     PaletaOkno* dlgPaleta_ = nullptr; // made when first opened
-    std::string caption_;             // of the title bar
-    Okno shown_;                      // the record as the labels and boxes show it
+
+    std::string caption_; // of the title bar
+    Okno shown_;          // the record as the labels and boxes show it
     bool shownOnce_ = false;
 };
 

@@ -242,6 +242,10 @@ void WyborWidget::mouseReleaseEvent(QMouseEvent* event) {
         onClick(slot);
 }
 
+ObrazWidget::ObrazWidget(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
 void ObrazWidget::showObraz(ObrazRef ref, Obrazki& obrazki) {
     if (obrazki_ && ref_ == ref && wersja_ == obrazki.wersja())
         return;
@@ -256,6 +260,7 @@ void ObrazWidget::paintEvent(QPaintEvent*) {
         return;
     QPainter painter(this);
     const Obrazek& obrazek = (*obrazki_)[ref_];
+    painter.fillRect(rect(), QColor::fromRgb(SZARY));
     if (width() >= SLOT_SIDE)
         painter.drawImage(QPoint(1, 1), imageOver(obrazek));
     else if (devicePixelRatioF() > 1) {

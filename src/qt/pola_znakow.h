@@ -74,7 +74,7 @@ private:
 // laid over its rim.
 class ObrazWidget : public QWidget {
 public:
-    using QWidget::QWidget;
+    explicit ObrazWidget(QWidget* parent);
     void showObraz(ObrazRef, Obrazki&);
 
 protected:
