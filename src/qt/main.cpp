@@ -1,5 +1,6 @@
 #include "qt/aplikacja.h"
 #include "qt/okno_glowne.h"
+#include "qt/sygnaly.h"
 #include "shell/start.h"
 
 #include <QApplication>
@@ -30,6 +31,7 @@ int main(int argc, char** argv) {
     dorva::OknoGlowne okno(edytor);
     dorva::Form_Load(edytor, ownFolder(), DORVA_VERSION);
     okno.showRecord();
+    dorva::closeOnSignals(okno);
     centre(okno);
     okno.show();
     return QApplication::exec();
