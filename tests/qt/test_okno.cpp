@@ -178,10 +178,10 @@ TEST_F(OknoTest, StartingAndClosingChangesNoFile) {
 TEST_F(OknoTest, ASignalToEndStoresTheWork) {
     open();
     closeOnSignals(*okno);
-    e.okno.imgPG[400].znak = KLUCZ;
+    e.okno.imgPG[410].znak = KLUCZ;
     ASSERT_EQ(::raise(SIGTERM), 0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !okno->isVisible(); }));
-    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 400], 13);
+    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 410], 13);
     for (int signal : {SIGTERM, SIGINT, SIGHUP})
         std::signal(signal, SIG_DFL);
 }
