@@ -244,6 +244,15 @@ TEST(Kompilator, MistakesAreToldWithTheirLine) {
         EXPECT_NE(messageOf([&] { parseLegenda({"l", source}); }), "") << source;
 }
 
+TEST(Kompilator, TheTemplateOfAStageIsAStage) {
+    const fs::path stages = DORVA_STAGES;
+    const Bajty etap =
+        parseEtap(Zrodlo::fromFile(stages / "szablon.txt"), parseLegenda(Zrodlo::fromFile(stages / "legenda.txt")), {});
+    const Droga droga = findDroga(etap);
+    EXPECT_TRUE(droga.wyjscie);
+    EXPECT_GE(droga.maski, etap[uklad::CEL_MASEK]);
+}
+
 TEST(Kompilator, AStageTakesItsWorldsColoursAndOverlaysItsOwn) {
     Swiaty swiaty{};
     swiaty[1].kolory = {10, 20, 30, 40, 50};
