@@ -100,7 +100,9 @@ protected:
     void start() { Form_Load(e, base, "1.0.2"); }
     [[nodiscard]] fs::path etap(int number) const { return base / "ETAPY" / ("DETAP." + std::to_string(number)); }
     Znak& cell(int row, int column) { return e.okno.imgPG[static_cast<std::size_t>(row * 40 + column)].znak; }
-    [[nodiscard]] std::vector<std::string> namesIn(const char* folder) const { return listNames(base / folder, ""); }
+    [[nodiscard]] std::vector<std::string> namesIn(const char* folder) const {
+        return listNames(SYSTEM_PLIKOW, base / folder, "");
+    }
 
     fs::path root, base;
     Edytor e;

@@ -24,7 +24,7 @@ TEST_F(Pliki, WriteRefusesWhatCouldNotBeOpened) {
     fs::create_symlink("petla", root / "petla");
     for (const char* name : {"katalog", "potok", "petla", "brak/plik"})
         EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, root / name, Bajty{1})) << name;
-    EXPECT_EQ(listNames(root, "").size(), 4U) << "no temporary file is left";
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 4U) << "no temporary file is left";
     EXPECT_TRUE(fs::is_fifo(root / "potok"));
 }
 
@@ -69,7 +69,7 @@ TEST_F(Pliki, EveryFailedStepLeavesTheOldFileOrTheNew) {
                                       : writeWhole(system, folder / "plik", Bajty{9});
             failures += written ? 0 : 1;
             EXPECT_EQ(readFile(folder / "plik"), (written ? Bajty{9} : Bajty{1, 2, 3})) << failAt;
-            EXPECT_TRUE(listNames(folder, ".dp-tmp").empty());
+            EXPECT_TRUE(listNames(SYSTEM_PLIKOW, folder, ".dp-tmp").empty());
             EXPECT_EQ(fs::exists(folder / "plik.kopia"), keep && written) << failAt;
             fs::remove(folder / "plik.kopia");
         }

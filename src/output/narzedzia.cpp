@@ -3,11 +3,11 @@
 namespace dorva {
 
 void RunEmulator(Edytor& e) {
-    e.haki.startProgram(e.KatalogBazowy / "PLIKI" / "DP3.BAT", OknoProgramu::Hidden);
+    askProgram(e.haki, e.KatalogBazowy / "PLIKI" / "DP3.BAT", OknoProgramu::Hidden);
 }
 
 void cmdORN_Click(Edytor& e) {
-    e.haki.startProgram(e.KatalogBazowy / "OBIEKTY" / "ORN.exe", OknoProgramu::Normal);
+    askProgram(e.haki, e.KatalogBazowy / "OBIEKTY" / "ORN.exe", OknoProgramu::Normal);
 }
 
 } // namespace dorva

@@ -17,18 +17,22 @@ std::optional<Bajty> readSzablon(Edytor& e) {
 }
 
 bool writeTestXex(Edytor& e, const Bajty& obraz) {
-    return writeWhole(e.system, e.KatalogBazowy / "PLIKI" / "TEST.XEX", obraz);
+    return writeWhole(e.system, testXexPath(e), obraz);
 }
 
 // The launcher names its files relative to the base folder.
 void offerRun(Edytor& e, const Komunikat& question) {
     std::error_code error;
     std::filesystem::current_path(e.KatalogBazowy, error);
-    if (!error && e.haki.messageBox(question))
+    if (!error && askMessage(e.haki, question))
         RunEmulator(e);
 }
 
 } // namespace
+
+std::filesystem::path testXexPath(const Edytor& e) {
+    return e.KatalogBazowy / "PLIKI" / "TEST.XEX";
+}
 
 void cmdCreate_Click(Edytor& e) {
     PackEtap(e);
@@ -44,11 +48,11 @@ void cmdCreate_Click(Edytor& e) {
         splice(*obraz, rekordOffset(i), ETAP_SIZE_BYTES, (*etapy)[i]);
     spliceTytul(*obraz, {e.okno.txtAutorGry[0].tekst, e.okno.txtAutorGry[1].tekst, e.okno.txtAutorGry[2].tekst});
     if (obraz->size() != GRA_SIZE_BYTES) {
-        e.haki.messageBox(komunikaty::NIE_MOZNA_GRY);
+        askMessage(e.haki, komunikaty::NIE_MOZNA_GRY);
         return;
     }
     const auto path = askSavePath(e, {std::string(NAZWA_GRY), e.OstatniaSciezka, FILTR_GRY});
-    if (!path || !writeWhole(e.system, *path, *obraz))
+    if (!path || !writeChosen(e, *path, *obraz))
         return;
     if (!writeTestXex(e, *obraz))
         return;
@@ -67,7 +71,7 @@ void cmdTest_Click(Edytor& e) {
     splice(*obraz, rekordOffset(0), ETAP_SIZE_BYTES, e.obrazEtapu);
     spliceTytul(*obraz, {e.okno.txtAutorGry[0].tekst, Tekst::spaces(LINIA_WIDTH), Tekst{std::string(LINIA_TESTU)}});
     if (obraz->size() != GRA_SIZE_BYTES) {
-        e.haki.messageBox(komunikaty::NIE_MOZNA_PLIKU);
+        askMessage(e.haki, komunikaty::NIE_MOZNA_PLIKU);
         return;
     }
     if (!writeTestXex(e, *obraz))

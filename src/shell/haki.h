@@ -42,6 +42,13 @@ struct Haki {
     std::function<std::optional<Bitmapa>(const std::filesystem::path&, int width, int height)> loadPicture;
 };
 
+// The hooks as the operations ask them. One that is empty or throws answers like a user who cancels.
+bool askMessage(const Haki&, const Komunikat&);
+std::optional<std::filesystem::path> askOpen(const Haki&, const DialogPliku&);
+std::optional<std::filesystem::path> askSave(const Haki&, const DialogPliku&);
+void askProgram(const Haki&, const std::filesystem::path&, OknoProgramu);
+std::optional<Bitmapa> askPicture(const Haki&, const std::filesystem::path&, int width, int height);
+
 namespace komunikaty {
 inline constexpr Komunikat ZLY_FORMAT{"Uwaga!", "Niewłaściwy format pliku!", Ikona::Critical, Przyciski::Ok};
 inline constexpr Komunikat ZASTAPIC{"Ostrzeżenie!", "Plik już istnieje!\nZastąpić?", Ikona::Warning,

@@ -1,11 +1,13 @@
 #include "shell/pliki.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <set>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,12 +19,14 @@ namespace fs = std::filesystem;
 constexpr std::string_view TEMPORARY_PREFIX = "dorva-";
 constexpr std::string_view TEMPORARY_SUFFIX = ".dp-tmp";
 constexpr ::mode_t NEW_FILE_MODE = 0666;
+constexpr ::mode_t MODE_BITS = 07777;
 
 // An open file that is closed when its scope ends.
 class Otwarty {
 public:
+    // O_NONBLOCK: a pipe in place of a file answers at once instead of waiting for its other end.
     Otwarty(const SystemPlikow& system, const fs::path& path, int flags, ::mode_t mode = NEW_FILE_MODE)
-        : system_(system), file_(system.open(path.c_str(), flags | O_CLOEXEC, mode)) {}
+        : system_(system), file_(system.open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode)) {}
     ~Otwarty() {
         if (file_ >= 0)
             system_.close(file_);
@@ -35,6 +39,12 @@ public:
     [[nodiscard]] bool isRegular() const {
         struct ::stat info {};
         return system_.fstat(file_, &info) == 0 && S_ISREG(info.st_mode);
+    }
+    [[nodiscard]] bool setMode(::mode_t mode) const {
+        // Asked only where it is needed: some file systems know no mode bits and refuse every change.
+        struct ::stat info {};
+        return system_.fstat(file_, &info) == 0 &&
+               ((info.st_mode & MODE_BITS) == mode || system_.fchmod(file_, mode) == 0);
     }
     [[nodiscard]] bool closeNow() {
         const int file = file_;
@@ -71,42 +81,61 @@ bool writeAll(const SystemPlikow& system, int file, std::span<const Bajt> bytes)
     return true;
 }
 
+fs::path folderOf(const fs::path& path) {
+    return path.has_parent_path() ? path.parent_path() : fs::path(".");
+}
+
 // The file that a path stands for once its symbolic links are followed, also where that file is missing.
-std::optional<fs::path> resolved(fs::path path) {
-    std::error_code error;
-    for (int links = 0; links < 40; ++links) {
-        if (!fs::is_symlink(fs::symlink_status(path, error)))
+// Nothing where it can't be told: a rename would then put a file in the place of a link.
+std::optional<fs::path> resolved(const SystemPlikow& system, fs::path path) {
+    constexpr int LINKS_MAX = 40;
+    std::array<char, 4096> target{};
+    for (int links = 0; links < LINKS_MAX; ++links) {
+        struct ::stat info {};
+        if (system.lstat(path.c_str(), &info) != 0)
+            return errno == ENOENT ? std::optional(path) : std::nullopt;
+        if (!S_ISLNK(info.st_mode))
             return path;
-        const fs::path target = fs::read_symlink(path, error);
-        if (error)
+        const ::ssize_t length = system.readlink(path.c_str(), target.data(), target.size());
+        if (length <= 0 || static_cast<std::size_t>(length) == target.size())
             return std::nullopt;
-        path = target.is_absolute() ? target : path.parent_path() / target;
+        path = path.parent_path() / std::string_view(target.data(), static_cast<std::size_t>(length));
     }
     return std::nullopt;
 }
 
-// True if an ordinary open for writing would accept the file, or if there is none. A rename alone would
-// also replace read-only files, devices and directories.
-bool acceptsWriting(const SystemPlikow& system, const fs::path& path, ::mode_t& mode) {
+// What a write is about to replace: the file behind all links and, if it is there, what it is like.
+struct Cel {
+    fs::path path;
+    std::optional<struct ::stat> old;
+};
+
+// Nothing where an ordinary open for writing would fail. A rename alone would also replace read-only
+// files, devices and directories.
+std::optional<Cel> findCel(const SystemPlikow& system, const fs::path& path) {
+    const auto target = resolved(system, path);
+    if (!target)
+        return std::nullopt;
     struct ::stat info {};
-    if (system.stat(path.c_str(), &info) != 0)
-        return errno == ENOENT;
-    mode = info.st_mode & 07777;
-    return S_ISREG(info.st_mode) && Otwarty(system, path, O_WRONLY).ok();
+    if (system.stat(target->c_str(), &info) != 0)
+        return errno == ENOENT ? std::optional(Cel{*target, std::nullopt}) : std::nullopt;
+    if (!S_ISREG(info.st_mode) || !Otwarty(system, *target, O_WRONLY).ok())
+        return std::nullopt;
+    return Cel{*target, info};
 }
 
 bool writeTemporary(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes,
-                    std::optional<::mode_t> mode) {
+                    const std::optional<struct ::stat>& like) {
     Otwarty file(system, path, O_WRONLY | O_CREAT | O_EXCL);
     if (!file.ok())
         return false;
-    if (mode && system.fchmod(file.file(), *mode) != 0)
+    if (like && !file.setMode(like->st_mode & MODE_BITS))
         return false;
     return writeAll(system, file.file(), bytes) && system.fsync(file.file()) == 0 && file.closeNow();
 }
 
-// Makes the rename itself outlive a power cut. The file is in place already, so a failure is no failure
-// of the write.
+// Makes a new name itself outlive a power cut. It is in place already, so a failure is no failure of
+// the write.
 void flushFolder(const SystemPlikow& system, const fs::path& folder) {
     const Otwarty file(system, folder, O_RDONLY | O_DIRECTORY);
     if (file.ok())
@@ -119,6 +148,17 @@ fs::path temporaryPath(const fs::path& target) {
            (std::string(TEMPORARY_PREFIX) + std::to_string(::getpid()) + std::string(TEMPORARY_SUFFIX));
 }
 
+bool replace(const SystemPlikow& system, const Cel& cel, std::span<const Bajt> bytes) {
+    const fs::path temporary = temporaryPath(cel.path);
+    system.unlink(temporary.c_str()); // left over by a killed process of the same number
+    if (!writeTemporary(system, temporary, bytes, cel.old) || system.rename(temporary.c_str(), cel.path.c_str()) != 0) {
+        system.unlink(temporary.c_str());
+        return false;
+    }
+    flushFolder(system, folderOf(cel.path));
+    return true;
+}
+
 // True if the process whose number a temporary file carries is still there.
 bool ownerLives(std::string_view name) {
     const std::string number(name.substr(TEMPORARY_PREFIX.size()));
@@ -126,54 +166,65 @@ bool ownerLives(std::string_view name) {
     return pid > 0 && pid != ::getpid() && (::kill(static_cast<::pid_t>(pid), 0) == 0 || errno == EPERM);
 }
 
-fs::path folderOf(const fs::path& path) {
-    return path.has_parent_path() ? path.parent_path() : fs::path(".");
-}
-
 // The first free name of <name>.kopia, .kopia2, .kopia3, ...
-std::optional<fs::path> freeKopia(const fs::path& path) {
-    std::error_code error;
-    for (int number = 1; number < 10000; ++number) {
+std::optional<fs::path> freeKopia(const SystemPlikow& system, const fs::path& path) {
+    constexpr int KOPIE_MAX = 10000;
+    for (int number = 1; number < KOPIE_MAX; ++number) {
         fs::path kopia = path;
         kopia += number == 1 ? ".kopia" : ".kopia" + std::to_string(number);
-        if (fs::symlink_status(kopia, error).type() == fs::file_type::not_found)
-            return kopia;
+        struct ::stat info {};
+        if (system.lstat(kopia.c_str(), &info) == 0)
+            continue;
+        return errno == ENOENT ? std::optional(kopia) : std::nullopt;
     }
     return std::nullopt;
 }
 
-// A second name for the old file, or a copy of it where the file system has no hard links.
-bool keepAs(const SystemPlikow& system, const fs::path& old, const fs::path& kopia) {
-    if (system.link(old.c_str(), kopia.c_str()) == 0)
-        return true;
-    const auto length = lengthOf(system, old);
-    constexpr std::uintmax_t COPY_MAX_BYTES = 64U << 20U;
-    if (!length || *length > COPY_MAX_BYTES)
+bool holds(const SystemPlikow& system, const Cel& cel, std::span<const Bajt> bytes) {
+    if (static_cast<std::uintmax_t>(cel.old->st_size) != bytes.size())
         return false;
-    const auto bytes = readFirst(system, old, static_cast<std::size_t>(*length));
-    return bytes && writeWhole(system, kopia, *bytes);
+    const auto old = readOptional(system, cel.path, bytes.size());
+    return old && std::equal(old->begin(), old->end(), bytes.begin());
+}
+
+// A second name for the old file, or a copy of it where the file system has no hard links.
+bool keepAs(const SystemPlikow& system, const Cel& cel, const fs::path& kopia) {
+    if (system.link(cel.path.c_str(), kopia.c_str()) == 0) {
+        flushFolder(system, folderOf(kopia));
+        return true;
+    }
+    constexpr ::off_t COPY_MAX_BYTES = 64 << 20;
+    if (errno == EEXIST || cel.old->st_size > COPY_MAX_BYTES)
+        return false;
+    const auto bytes = readOptional(system, cel.path, static_cast<std::size_t>(cel.old->st_size));
+    return bytes && replace(system, {kopia, cel.old}, *bytes);
 }
 
 int openFile(const char* path, int flags, ::mode_t mode) {
     return ::open(path, flags, mode);
 }
 
-} // namespace
-
-const SystemPlikow SYSTEM_PLIKOW{openFile, ::read,   ::write, ::fsync, ::close, ::rename,
-                                 ::link,   ::unlink, ::stat,  ::fstat, ::fchmod};
-
-std::optional<Bajty> readFirst(const SystemPlikow& system, const fs::path& path, std::size_t count) {
-    // O_NONBLOCK: a pipe in place of a file answers at once instead of waiting for a writer.
-    const Otwarty file(system, path, O_RDONLY | O_NONBLOCK);
-    if (!file.ok() && errno == ENOENT)
-        const Otwarty created(system, path, O_WRONLY | O_CREAT);
+std::optional<Bajty> readOpened(const SystemPlikow& system, const Otwarty& file, std::size_t count) {
     if (!file.ok() || !file.isRegular())
         return std::nullopt;
     Bajty bytes(count);
-    if (!readAll(system, file.file(), bytes))
-        return std::nullopt;
-    return bytes;
+    return readAll(system, file.file(), bytes) ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
+} // namespace
+
+const SystemPlikow SYSTEM_PLIKOW{openFile, ::read,  ::write, ::fsync,  ::close,    ::rename,  ::link,    ::unlink,
+                                 ::stat,   ::lstat, ::fstat, ::fchmod, ::readlink, ::opendir, ::readdir, ::closedir};
+
+std::optional<Bajty> readFirst(const SystemPlikow& system, const fs::path& path, std::size_t count) {
+    const Otwarty file(system, path, O_RDONLY);
+    if (!file.ok() && errno == ENOENT)
+        const Otwarty created(system, path, O_WRONLY | O_CREAT);
+    return readOpened(system, file, count);
+}
+
+std::optional<Bajty> readOptional(const SystemPlikow& system, const fs::path& path, std::size_t count) {
+    return readOpened(system, Otwarty(system, path, O_RDONLY), count);
 }
 
 std::optional<std::uintmax_t> lengthOf(const SystemPlikow& system, const fs::path& path) {
@@ -188,60 +239,63 @@ bool fileExists(const SystemPlikow& system, const fs::path& path) {
     return system.stat(path.c_str(), &info) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
+bool isSameFile(const SystemPlikow& system, const fs::path& a, const fs::path& b) {
+    struct ::stat first {};
+    struct ::stat second {};
+    if (system.stat(a.c_str(), &first) != 0 || system.stat(b.c_str(), &second) != 0)
+        return errno != ENOENT && errno != ENOTDIR;
+    return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 bool writeWhole(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes) {
-    const auto target = resolved(path);
-    if (!target)
-        return false;
-    ::mode_t mode = 0;
-    if (!acceptsWriting(system, *target, mode))
-        return false;
-    const fs::path temporary = temporaryPath(*target);
-    system.unlink(temporary.c_str()); // left over by a killed process of the same number
-    const bool written = writeTemporary(system, temporary, bytes, mode ? std::optional(mode) : std::nullopt) &&
-                         system.rename(temporary.c_str(), target->c_str()) == 0;
-    if (!written) {
-        system.unlink(temporary.c_str());
-        return false;
-    }
-    flushFolder(system, folderOf(*target));
-    return true;
+    const auto cel = findCel(system, path);
+    return cel && replace(system, *cel, bytes);
 }
 
 bool writeKeepingOld(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes) {
-    const auto length = lengthOf(system, path);
-    if (!length || *length == 0)
-        return writeWhole(system, path, bytes);
-    if (*length == bytes.size()) {
-        const auto old = readFirst(system, path, bytes.size());
-        if (old && std::equal(old->begin(), old->end(), bytes.begin()))
-            return true;
-    }
-    const auto target = resolved(path);
-    const auto kopia = freeKopia(path);
-    if (!target || !kopia || !keepAs(system, *target, *kopia))
+    const auto cel = findCel(system, path);
+    if (!cel)
         return false;
-    if (writeWhole(system, path, bytes))
+    if (!cel->old || cel->old->st_size == 0)
+        return replace(system, *cel, bytes);
+    if (holds(system, *cel, bytes))
+        return true;
+    const auto kopia = freeKopia(system, path);
+    if (!kopia || !keepAs(system, *cel, *kopia))
+        return false;
+    if (replace(system, *cel, bytes))
         return true;
     system.unlink(kopia->c_str());
     return false;
 }
 
-std::vector<std::string> listNames(const fs::path& folder, std::string_view suffix) {
+std::vector<std::string> listNames(const SystemPlikow& system, const fs::path& folder, std::string_view suffix) {
     std::vector<std::string> names;
-    std::error_code error;
-    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
-        const std::string name = it->path().filename().string();
-        if (name.size() >= suffix.size() && name.ends_with(suffix))
-            names.push_back(name);
+    ::DIR* const listing = system.opendir(folder.c_str());
+    if (!listing)
+        return names;
+    errno = 0;
+    while (const ::dirent* entry = system.readdir(listing)) {
+        const std::string_view name = entry->d_name;
+        if (name.ends_with(suffix) && name != "." && name != "..")
+            names.emplace_back(name);
     }
+    if (errno != 0)
+        names.clear();
+    system.closedir(listing);
     std::sort(names.begin(), names.end());
     return names;
 }
 
-void sweepTemporary(const SystemPlikow& system, const fs::path& folder) {
-    for (const std::string& name : listNames(folder, TEMPORARY_SUFFIX))
-        if (name.starts_with(TEMPORARY_PREFIX) && !ownerLives(name))
-            system.unlink((folder / name).c_str());
+void sweepTemporary(const SystemPlikow& system, std::span<const fs::path> files) {
+    std::set<fs::path> folders;
+    for (const fs::path& file : files)
+        if (const auto target = resolved(system, file))
+            folders.insert(folderOf(*target));
+    for (const fs::path& folder : folders)
+        for (const std::string& name : listNames(system, folder, TEMPORARY_SUFFIX))
+            if (name.starts_with(TEMPORARY_PREFIX) && !ownerLives(name))
+                system.unlink((folder / name).c_str());
 }
 
 } // namespace dorva

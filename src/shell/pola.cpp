@@ -23,7 +23,8 @@ PoleTekstu& poleOf(Okno& okno, Pole pole) {
 }
 
 void txt_Change(Edytor& e, Pole pole, const Tekst& tekst) {
-    SetTekst(poleOf(e.okno, pole), tekst);
+    PoleTekstu& box = poleOf(e.okno, pole);
+    SetTekst(box, {tekst.znaki.substr(0, box.width)});
 }
 
 void txt_GotFocus(Edytor& e, Pole pole) {

@@ -10,7 +10,8 @@ enum class Pole { Nazwa, Autor, AutorGry0, AutorGry1, AutorGry2 };
 
 PoleTekstu& poleOf(Okno&, Pole);
 
-// The user has changed the text; an emptied box is refilled with spaces, all selected.
+// The user has changed the text. What is longer than the box is cut off; an emptied box is refilled with spaces, all
+// selected.
 void txt_Change(Edytor&, Pole, const Tekst&);
 void txt_GotFocus(Edytor&, Pole);
 

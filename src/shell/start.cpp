@@ -1,5 +1,6 @@
 #include "shell/start.h"
 
+#include "output/obraz_gry.h"
 #include "stage/etap.h"
 #include "stage/zbior_etapow.h"
 #include "tiles/kolory.h"
@@ -18,9 +19,17 @@ void setTitle(Edytor& e, std::string_view version) {
 // The parent of the program's folder becomes the current directory and the start of the file dialogs.
 void setFolders(Edytor& e, const std::filesystem::path& folder) {
     std::error_code error;
-    std::filesystem::current_path(folder / "..", error);
+    e.KatalogBazowy = std::filesystem::absolute(folder, error);
+    std::filesystem::current_path(e.KatalogBazowy / "..", error);
     e.OstatniaSciezka = std::filesystem::current_path(error);
-    e.KatalogBazowy = folder;
+}
+
+// What a killed run left beside the files that the editor writes.
+void sweepLeftovers(Edytor& e) {
+    std::vector<std::filesystem::path> files{autorGryPath(e), testXexPath(e)};
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        files.push_back(etapPath(e, number));
+    sweepTemporary(e.system, files);
 }
 
 void loadColours(Edytor& e) {
@@ -68,8 +77,7 @@ void loadWork(Edytor& e) {
 void Form_Load(Edytor& e, const std::filesystem::path& folder, std::string_view version) {
     setTitle(e, version);
     setFolders(e, folder);
-    sweepTemporary(e.system, e.KatalogBazowy / "ETAPY");
-    sweepTemporary(e.system, e.KatalogBazowy / "PLIKI");
+    sweepLeftovers(e);
     loadColours(e);
     loadWork(e);
 }

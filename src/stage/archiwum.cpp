@@ -24,11 +24,13 @@ Bajty assemble(const Bajty& autorGry, const std::array<Bajty, ETAPY_COUNT>& etap
 // the editor failed to take over, is kept aside.
 bool writeEtap(Edytor& e, int number, std::span<const Bajt> image) {
     const auto path = etapPath(e, number);
-    const bool lost = number == e.NumerEtapu && !e.etapPrzejety;
-    const auto length = lengthOf(e.system, path);
-    if (lost || (length && *length != ETAP_SIZE_BYTES))
-        return writeKeepingOld(e.system, path, image);
-    return writeWhole(e.system, path, image);
+    const bool current = number == e.NumerEtapu;
+    const bool keep = (current && !e.etapPrzejety) || lengthOf(e.system, path) != ETAP_SIZE_BYTES;
+    if (!(keep ? writeKeepingOld(e.system, path, image) : writeWhole(e.system, path, image)))
+        return false;
+    if (current)
+        e.etapPrzejety = false; // until the editor has taken over the archive's stage
+    return true;
 }
 
 } // namespace
@@ -44,24 +46,24 @@ void cmdSaveArch_Click(Edytor& e) {
         return;
     const Bajty archiwum = assemble(autorGryBytes(e), *etapy);
     if (archiwum.size() != ARCHIWUM_SIZE_BYTES) {
-        e.haki.messageBox(komunikaty::NIE_MOZNA_PLIKU);
+        askMessage(e.haki, komunikaty::NIE_MOZNA_PLIKU);
         return;
     }
     const auto path = askSavePath(e, {std::string(NAZWA_ARCHIWUM), e.OstatniaSciezka, FILTR_ZAPISU});
-    if (!path || !writeWhole(e.system, *path, archiwum))
+    if (!path || !writeChosen(e, *path, archiwum))
         return;
-    e.haki.messageBox(komunikaty::ARCHIWUM_ZAPISANE);
+    askMessage(e.haki, komunikaty::ARCHIWUM_ZAPISANE);
 }
 
 void cmdLoadArch_Click(Edytor& e) {
-    const auto path = e.haki.openDialog({"", e.OstatniaSciezka, FILTR_ODCZYTU});
+    const auto path = askOpen(e.haki, {"", e.OstatniaSciezka, FILTR_ODCZYTU});
     if (!path)
         return;
     const auto length = lengthOf(e.system, *path);
     if (!length)
         return;
     if (*length != ARCHIWUM_SIZE_BYTES) {
-        e.haki.messageBox(komunikaty::ZLY_FORMAT);
+        askMessage(e.haki, komunikaty::ZLY_FORMAT);
         return;
     }
     e.OstatniaSciezka = *path;

@@ -4,6 +4,8 @@
 #include "stage/etap.h"
 #include "tiles/zestaw.h"
 
+#include <algorithm>
+
 namespace dorva {
 namespace {
 
@@ -50,7 +52,7 @@ void optEtapNR_Click(Edytor& e, int index) {
     PackEtap(e);
     if (!writeBiezacyEtap(e)) {
         e.okno.optEtapNR = e.NumerEtapu - 1;
-        e.haki.messageBox(komunikaty::NIE_MOZNA_ETAPU);
+        askMessage(e.haki, komunikaty::NIE_MOZNA_ETAPU);
         return;
     }
     e.NumerEtapu = index + 1;
@@ -59,7 +61,7 @@ void optEtapNR_Click(Edytor& e, int index) {
 }
 
 void cmdLoad_Click(Edytor& e) {
-    const auto path = e.haki.openDialog({"", e.OstatniaSciezka, FILTR_ODCZYTU});
+    const auto path = askOpen(e.haki, {"", e.OstatniaSciezka, FILTR_ODCZYTU});
     if (!path)
         return;
     e.OstatniaSciezka = *path;
@@ -67,7 +69,7 @@ void cmdLoad_Click(Edytor& e) {
     if (!length)
         return;
     if (*length != ETAP_SIZE_BYTES) {
-        e.haki.messageBox(komunikaty::ZLY_FORMAT);
+        askMessage(e.haki, komunikaty::ZLY_FORMAT);
         return;
     }
     e.obrazEtapu.assign(ETAP_SIZE_BYTES, 0);
@@ -81,18 +83,18 @@ void cmdLoad_Click(Edytor& e) {
 void cmdSave_Click(Edytor& e) {
     PackEtap(e);
     if (e.obrazEtapu.size() != ETAP_SIZE_BYTES) {
-        e.haki.messageBox(komunikaty::NIE_MOZNA_PLIKU);
+        askMessage(e.haki, komunikaty::NIE_MOZNA_PLIKU);
         return;
     }
     const Bajty image = e.obrazEtapu;
     const auto path = askSavePath(e, {"DETAP." + std::to_string(e.NumerEtapu), e.OstatniaSciezka, FILTR_ZAPISU});
-    if (!path || !writeWhole(e.system, *path, image))
+    if (!path || !writeChosen(e, *path, image))
         return;
-    e.haki.messageBox(komunikaty::ETAP_ZAPISANY);
+    askMessage(e.haki, komunikaty::ETAP_ZAPISANY);
 }
 
 void cmdCzysc_Click(Edytor& e) {
-    if (!e.haki.messageBox(komunikaty::CZYSZCZENIE))
+    if (!askMessage(e.haki, komunikaty::CZYSZCZENIE))
         return;
     ClearEtap(e);
     e.okno.txtAutorEnabled = true;
@@ -166,13 +168,24 @@ std::optional<std::array<Bajty, ETAPY_COUNT>> readAllEtapy(Edytor& e) {
 }
 
 std::optional<std::filesystem::path> askSavePath(Edytor& e, const DialogPliku& dialog) {
-    auto path = e.haki.saveDialog(dialog);
+    auto path = askSave(e.haki, dialog);
     if (!path)
         return std::nullopt;
-    if (fileExists(e.system, *path) && !e.haki.messageBox(komunikaty::ZASTAPIC))
+    if (fileExists(e.system, *path) && !askMessage(e.haki, komunikaty::ZASTAPIC))
         return std::nullopt;
     e.OstatniaSciezka = *path;
     return path;
+}
+
+bool writeChosen(Edytor& e, const std::filesystem::path& path, std::span<const Bajt> bytes) {
+    sweepTemporary(e.system, std::array{path});
+    if (!writeWhole(e.system, path, bytes))
+        return false;
+    if (isSameFile(e.system, path, etapPath(e, e.NumerEtapu)))
+        e.etapPrzejety = std::ranges::equal(bytes, e.obrazEtapu);
+    if (isSameFile(e.system, path, autorGryPath(e)))
+        e.autorPrzejety = false;
+    return true;
 }
 
 } // namespace dorva

@@ -41,4 +41,8 @@ std::optional<std::array<Bajty, ETAPY_COUNT>> readAllEtapy(Edytor&);
 // Asks for a file to save to and, if it exists, whether to replace it. Sets OstatniaSciezka.
 std::optional<std::filesystem::path> askSavePath(Edytor&, const DialogPliku&);
 
+// Writes a file that the user has named. Where it is one of the editor's own, what it now holds counts as
+// not taken over.
+[[nodiscard]] bool writeChosen(Edytor&, const std::filesystem::path&, std::span<const Bajt> bytes);
+
 } // namespace dorva

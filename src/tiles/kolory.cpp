@@ -12,27 +12,32 @@ constexpr std::array<std::string_view, SWIATY_COUNT> PLIKI_KOLOROW{"OBIEKTY/ORN_
                                                                    "OBIEKTY/ORN_EXPORT/FNT11.ORN.ND.KOLORY",
                                                                    "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND.KOLORY"};
 
-// The start of an optional file; it is not created where it is missing.
-std::optional<Bajty> readOptional(const Edytor& e, std::string_view name, std::size_t count) {
-    const auto path = e.KatalogBazowy / name;
-    return fileExists(e.system, path) ? readFirst(e.system, path, count) : std::nullopt;
+std::filesystem::path kolorPath(const Edytor& e, int swiat) {
+    return e.KatalogBazowy / PLIKI_KOLOROW[static_cast<std::size_t>(swiat)];
+}
+
+void takeKolory(Edytor& e, int swiat, const Bajty& bytes) {
+    std::copy(bytes.begin(), bytes.end(),
+              e.KoloryDomyslne[static_cast<std::size_t>(swiat)].begin() + KOLORY_FIRST_SLOT);
 }
 
 } // namespace
 
 void LoadPaleta(Edytor& e) {
-    const auto bytes = readOptional(e, PLIK_PALETY, PALETA_SIZE_BYTES);
+    const auto bytes = readOptional(e.system, e.KatalogBazowy / PLIK_PALETY, PALETA_SIZE_BYTES);
     e.Paleta = bytes ? parsePaleta(*bytes).value_or(PaletaWbudowana) : PaletaWbudowana;
 }
 
-std::optional<Bajty> readKolory(Edytor& e, int swiat) {
-    return readOptional(e, PLIKI_KOLOROW[static_cast<std::size_t>(swiat)], KOLORY_SIZE_BYTES);
+void LoadKolory(Edytor& e, int swiat) {
+    if (const auto bytes = readOptional(e.system, kolorPath(e, swiat), KOLORY_SIZE_BYTES))
+        takeKolory(e, swiat, *bytes);
 }
 
-void LoadKolory(Edytor& e, int swiat) {
-    if (const auto bytes = readKolory(e, swiat))
-        std::copy(bytes->begin(), bytes->end(),
-                  e.KoloryDomyslne[static_cast<std::size_t>(swiat)].begin() + KOLORY_FIRST_SLOT);
+bool openKolory(Edytor& e, int swiat) {
+    const auto bytes = readFirst(e.system, kolorPath(e, swiat), KOLORY_SIZE_BYTES);
+    if (bytes)
+        takeKolory(e, swiat, *bytes);
+    return bytes.has_value();
 }
 
 void ShowKolor(Edytor& e, int slot, Bajt value) {
@@ -48,7 +53,7 @@ void showDomyslne(Edytor& e, int swiat, int first, int last) {
 
 void cmdResetKolory_Click(Edytor& e) {
     if (e.okno.chkZachowajKolory) {
-        e.haki.messageBox(komunikaty::KOLORY_ZABLOKOWANE);
+        askMessage(e.haki, komunikaty::KOLORY_ZABLOKOWANE);
         return;
     }
     showDomyslne(e, e.okno.optObiektyNR, 0, SLOTY_COUNT - 1);

@@ -11,8 +11,9 @@ void LoadPaleta(Edytor&);
 // A world's colour file into its row of KoloryDomyslne; left alone where the file is missing or short.
 void LoadKolory(Edytor&, int swiat);
 
-// The five bytes of a world's colour file; nothing if it is missing or short.
-std::optional<Bajty> readKolory(Edytor&, int swiat);
+// Likewise, but without asking first whether the file is there: a missing one is created, empty. False
+// where nothing was read.
+[[nodiscard]] bool openKolory(Edytor&, int swiat);
 
 // The one way to write a slot.
 void ShowKolor(Edytor&, int slot, Bajt value);

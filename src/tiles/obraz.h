@@ -23,6 +23,11 @@ using ZnakObraz = std::array<std::uint32_t, OBRAZ_SIDE * OBRAZ_SIDE>;
 struct Bitmapa {
     int width = 0, height = 0;
     std::vector<std::uint32_t> piksele;
+
+    [[nodiscard]] bool isWhole() const {
+        return width >= 0 && height >= 0 &&
+               piksele.size() >= static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    }
 };
 
 // Which picture a control shows: that of a code in a world, or in the window's default state.

@@ -22,7 +22,7 @@ void showWybrany(Edytor& e) {
 
 void PickKolor(Edytor& e, int slot) {
     if (e.okno.chkZachowajKolory) {
-        e.haki.messageBox(komunikaty::KOLORY_ZABLOKOWANE);
+        askMessage(e.haki, komunikaty::KOLORY_ZABLOKOWANE);
         return;
     }
     e.WybranySlot = slot;

@@ -2,18 +2,17 @@
 
 #include "tiles/kolory.h"
 
-#include <algorithm>
-
 namespace dorva {
 namespace {
 
 constexpr std::string_view KATALOG_EKSPORTU = "OBIEKTY/ORN_EXPORT";
 
-// A picture hook that throws is a picture that can't be loaded.
-std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& path) try {
-    return e.haki.loadPicture ? e.haki.loadPicture(path, PASEK_WIDTH, OBRAZ_SIDE) : std::nullopt;
-} catch (const std::exception&) {
-    return std::nullopt;
+// Only a regular file reaches the hook (a pipe would hold it up for ever), and only a whole picture is cut.
+std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& path) {
+    if (!lengthOf(e.system, path))
+        return std::nullopt;
+    auto strip = askPicture(e.haki, path, PASEK_WIDTH, OBRAZ_SIDE);
+    return strip && strip->isWhole() ? strip : std::nullopt;
 }
 
 void cutStrip(Magazyn& zestawy, const Bitmapa& strip, int swiat) {
@@ -28,7 +27,7 @@ void cutStrip(Magazyn& zestawy, const Bitmapa& strip, int swiat) {
 
 bool ScanZestawy(Edytor& e) {
     const auto folder = e.KatalogBazowy / KATALOG_EKSPORTU;
-    const auto names = listNames(folder, ".ND");
+    const auto names = listNames(e.system, folder, ".ND");
     for (std::size_t swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
         // The listing says once that it is at its end; asking it again is a failure.
         if (swiat > names.size())
@@ -47,11 +46,8 @@ void LoadZestaw(Edytor& e, const std::filesystem::path& path, int swiat) {
         return;
     cutStrip(e.zestawy, *strip, swiat);
 
-    const auto kolory = readKolory(e, swiat);
-    if (!kolory)
+    if (!openKolory(e, swiat))
         return;
-    std::copy(kolory->begin(), kolory->end(),
-              e.KoloryDomyslne[static_cast<std::size_t>(swiat)].begin() + KOLORY_FIRST_SLOT);
     if (swiat != e.BiezacySwiat)
         return;
     showDomyslne(e, swiat, KOLORY_FIRST_SLOT, KOLORY_FIRST_SLOT + static_cast<int>(KOLORY_SIZE_BYTES) - 1);
