@@ -10,7 +10,6 @@
 #include <deque>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <map>
 #include <unistd.h>
 
@@ -20,7 +19,12 @@ namespace fs = std::filesystem;
 
 inline Bajty readFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::error_code error;
+    Bajty bytes(fs::file_size(path, error));
+    if (error)
+        return {};
+    file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    return bytes;
 }
 
 inline void writeFile(const fs::path& path, const Bajty& bytes) {
@@ -47,17 +51,21 @@ inline Bajty sampleEtap(int number) {
     return image;
 }
 
-inline Bajty sampleSzablon() {
-    Bajty bytes(GRA_SIZE_BYTES);
-    for (std::size_t i = 0; i < bytes.size(); ++i)
-        bytes[i] = static_cast<Bajt>((i * 31) >> 3);
-    return bytes;
+inline const Bajty& sampleSzablon() {
+    static const Bajty szablon = [] {
+        Bajty bytes(GRA_SIZE_BYTES);
+        for (std::size_t i = 0; i < bytes.size(); ++i)
+            bytes[i] = static_cast<Bajt>((i * 31) >> 3);
+        return bytes;
+    }();
+    return szablon;
 }
 
 class Pulpit : public ::testing::Test {
 protected:
     void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "dorva-XXXXXX").string();
+        std::string pattern =
+            ((fs::exists("/dev/shm") ? fs::path("/dev/shm") : fs::temp_directory_path()) / "dorva-XXXXXX").string();
         root = ::mkdtemp(pattern.data());
         base = root / "praca";
         for (const char* folder : {"ETAPY", "PLIKI", "OBIEKTY/ORN_EXPORT"})
