@@ -1,6 +1,10 @@
+#include "awaria.h"
 #include "pulpit.h"
 
+#include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 
 namespace dorva::test {
 namespace {
@@ -35,46 +39,6 @@ TEST_F(Pliki, ReadNeverHangsAndCreatesTheMissing) {
     EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, root, 1));
     EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, root / "nowy", 1));
     EXPECT_EQ(lengthOf(SYSTEM_PLIKOW, root / "nowy"), 0U);
-}
-
-int failAt = 0, steps = 0;
-
-template <auto Real, class... Args> auto failing(Args... args) {
-    if (++steps == failAt) {
-        errno = ENOSPC;
-        return decltype((*Real)(args...)){-1};
-    }
-    return (*Real)(args...);
-}
-
-int failingOpen(const char* path, int flags, ::mode_t mode) {
-    return ++steps == failAt ? -1 : SYSTEM_PLIKOW.open(path, flags, mode);
-}
-
-TEST_F(Pliki, EveryFailedStepLeavesTheOldFileOrTheNew) {
-    SystemPlikow system = SYSTEM_PLIKOW;
-    system.open = failingOpen;
-    system.write = [](int f, const void* b, std::size_t n) { return failing<::write>(f, b, n); };
-    system.fsync = [](int f) { return failing<::fsync>(f); };
-    system.rename = [](const char* a, const char* b) { return failing<::rename>(a, b); };
-    system.link = [](const char* a, const char* b) { return failing<::link>(a, b); };
-    const auto folder = root / "f";
-    fs::create_directory(folder);
-    int failures = 0;
-    for (failAt = 1; failAt <= 12; ++failAt) {
-        for (bool keep : {false, true}) {
-            writeFile(folder / "plik", {1, 2, 3});
-            steps = 0;
-            const bool written = keep ? writeKeepingOld(system, folder / "plik", Bajty{9})
-                                      : writeWhole(system, folder / "plik", Bajty{9});
-            failures += written ? 0 : 1;
-            EXPECT_EQ(readFile(folder / "plik"), (written ? Bajty{9} : Bajty{1, 2, 3})) << failAt;
-            EXPECT_TRUE(listNames(SYSTEM_PLIKOW, folder, ".dp-tmp").empty());
-            EXPECT_EQ(fs::exists(folder / "plik.kopia"), keep && written) << failAt;
-            fs::remove(folder / "plik.kopia");
-        }
-    }
-    EXPECT_GE(failures, 8);
 }
 
 TEST_F(Pliki, StartSweepsLeftovers) {
