@@ -20,9 +20,10 @@ namespace fs = std::filesystem;
 inline Bajty readFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     std::error_code error;
-    Bajty bytes(fs::file_size(path, error));
+    const auto length = fs::file_size(path, error);
     if (error)
         return {};
+    Bajty bytes(length);
     file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     return bytes;
 }

@@ -23,7 +23,6 @@ protected:
         for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"}) {
             writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".KOLORY"),
                       Bajty(7, static_cast<Bajt>(10 * ++swiat)));
-            writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".TILES.BMP"), {});
             strips[std::string(name) + ".TILES.BMP"] = sampleStrip(swiat);
         }
     }

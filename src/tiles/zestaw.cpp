@@ -7,10 +7,7 @@ namespace {
 
 constexpr std::string_view KATALOG_EKSPORTU = "OBIEKTY/ORN_EXPORT";
 
-// Only a regular file reaches the hook (a pipe would hold it up for ever), and only a whole picture is cut.
 std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& path) {
-    if (!lengthOf(e.system, path))
-        return std::nullopt;
     auto strip = askPicture(e.haki, path, PASEK_WIDTH, OBRAZ_SIDE);
     return strip && strip->isWhole() ? strip : std::nullopt;
 }
