@@ -56,13 +56,13 @@ std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width,
     if (image.isNull())
         return std::nullopt;
 
-    const QImage part = image.copy(0, 0, std::min(width, image.width()), std::min(height, image.height()))
-                            .convertToFormat(QImage::Format_ARGB32);
-    Bitmapa bitmapa{part.width(), part.height(), {}};
-    bitmapa.piksele.reserve(static_cast<std::size_t>(part.width() * part.height()));
-    for (int y = 0; y < part.height(); ++y) {
-        const auto* row = reinterpret_cast<const std::uint32_t*>(part.constScanLine(y));
-        bitmapa.piksele.insert(bitmapa.piksele.end(), row, row + part.width());
+    // Row by row: the whole picture in 32 bits would cost more memory than all else at the start.
+    Bitmapa bitmapa{std::min(width, image.width()), std::min(height, image.height()), {}};
+    bitmapa.piksele.reserve(static_cast<std::size_t>(bitmapa.width * bitmapa.height));
+    for (int y = 0; y < bitmapa.height; ++y) {
+        const QImage part = image.copy(0, y, bitmapa.width, 1).convertToFormat(QImage::Format_ARGB32);
+        const auto* row = reinterpret_cast<const std::uint32_t*>(part.constScanLine(0));
+        bitmapa.piksele.insert(bitmapa.piksele.end(), row, row + bitmapa.width);
     }
     return bitmapa;
 }
