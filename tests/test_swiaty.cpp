@@ -218,11 +218,11 @@ TEST(Kompilator, MistakesAreToldWithTheirLine) {
                                             {kolory + "\n; uwaga\n0 NICO\n", "s:8: the tile \"0 NIC\""},
                                             {kolory + "0 NIC\n...\n", "s:7: a row of a tile"},
                                             {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
-                                            {kolory + pusty + "1 ZIEMIA\nlustro 64\n", "s:16: a number from 0 to 63"},
+                                            {kolory + pusty + "1 ZIEMIA\nlustro 1\n", "s:16: a number from 0 to 0"},
                                             {kolory + pusty, "s:14: the file ends"}})
         EXPECT_EQ(messageOf([&] { parseRysunki({"s", source}); }).substr(0, message.size()), message) << source;
 
-    const Legenda legenda = parseLegenda({"l", ". 0 NIC\n~ 139 WODA ; INV\n"});
+    const Legenda legenda = parseLegenda({"l", "kolory standard\n. 0 NIC\n~ 139 WODA ; INV\n"});
     const std::string head = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n";
     const std::string row = std::string(40, '.') + "\n";
     const Swiaty swiaty{};
@@ -241,7 +241,11 @@ TEST(Kompilator, MistakesAreToldWithTheirLine) {
                   message)
             << source;
     for (const char* source : {"ab 0 NIC\n", ". 0 NIC\n. 1 ZIEMIA\n", ". 64 NIC\n", ". 1 NIC\n", ". x NIC\n", ". 0\n"})
-        EXPECT_NE(messageOf([&] { parseLegenda({"l", source}); }), "") << source;
+        EXPECT_EQ(messageOf([&] {
+                      parseLegenda({"l", std::string("kolory tlo 4\n") + source});
+                  }).substr(0, 2),
+                  "l:")
+            << source;
 }
 
 TEST(Kompilator, TheTemplateOfAStageIsAStage) {
@@ -253,15 +257,16 @@ TEST(Kompilator, TheTemplateOfAStageIsAStage) {
     EXPECT_GE(droga.maski, etap[uklad::CEL_MASEK]);
 }
 
-TEST(Kompilator, AStageTakesItsWorldsColoursAndOverlaysItsOwn) {
+TEST(Kompilator, AStagesColoursAreTheWorldsUnderTheSharedUnderItsOwn) {
     Swiaty swiaty{};
     swiaty[1].kolory = {10, 20, 30, 40, 50};
     std::string source = "swiat 2\nkolory tlo 6 klucze 8\ncel 7\nostatni 1\npowitanie ala, Żółw\nopis x\nplansza\n";
     for (int row = 0; row < PLANSZA_ROWS; ++row)
         source += std::string(40, row == 2 ? '~' : '.') + "\n";
-    const Bajty etap = parseEtap({"s", source}, parseLegenda({"l", ". 0 NIC\n~ 139 WODA\n"}), swiaty);
+    const Bajty etap = parseEtap(
+        {"s", source}, parseLegenda({"l", "kolory klucze 30 tlo 2 bomby 206\n. 0 NIC\n~ 139 WODA\n"}), swiaty);
     ASSERT_EQ(etap.size(), ETAP_SIZE_BYTES);
-    EXPECT_EQ(Bajty(etap.begin() + 16, etap.begin() + 28), (Bajty{8, 192, 64, 128, 10, 20, 30, 40, 6, 0, 0, 164}));
+    EXPECT_EQ(Bajty(etap.begin() + 16, etap.begin() + 28), (Bajty{8, 206, 64, 128, 10, 20, 30, 40, 6, 0, 0, 164}));
     EXPECT_EQ(etap[32 + 79], 0);
     EXPECT_EQ(etap[32 + 80], 139);
     EXPECT_EQ(etap[32 + 119], 139);

@@ -24,20 +24,30 @@ Tekst takeTekst(Zrodlo& z, std::string_view name, std::size_t width) {
     return tekst;
 }
 
-std::array<Bajt, SLOTY_COUNT> takeKolory(Zrodlo& z, std::size_t swiat, const Rysunki& rysunki) {
-    std::array<Bajt, SLOTY_COUNT> kolory = KOLORY_STARTOWE[swiat];
-    std::ranges::copy(rysunki.kolory, kolory.begin() + KOLORY_FIRST_SLOT);
-    std::string_view pairs = takePole(z, "kolory"); // "standard", or "grunt 180 tlo 0"
+// The colours of a line "kolory grunt 180 tlo 0", or none of "kolory standard".
+WybraneKolory takeKolory(Zrodlo& z) {
+    WybraneKolory wybrane{};
+    std::string_view pairs = takePole(z, "kolory");
     while (pairs != "standard" && !pairs.empty()) {
         const auto [nazwa, value] = splitSlowo(pairs);
         const auto [liczba, reszta] = splitSlowo(value);
         const auto slot = std::ranges::find(NAZWY_SLOTOW, nazwa);
         if (slot == NAZWY_SLOTOW.end())
             z.fail("no colour has the name \"" + std::string(nazwa) + "\"");
-        kolory[static_cast<std::size_t>(slot - NAZWY_SLOTOW.begin())] =
+        wybrane[static_cast<std::size_t>(slot - NAZWY_SLOTOW.begin())] =
             static_cast<Bajt>(parseLiczba(z, liczba, 0, 255));
         pairs = reszta;
     }
+    return wybrane;
+}
+
+// The world's colours, under those that all stages share, under the stage's own.
+std::array<Bajt, SLOTY_COUNT> mixKolory(std::size_t swiat, const Rysunki& rysunki, const WybraneKolory& wspolne,
+                                        const WybraneKolory& wlasne) {
+    std::array<Bajt, SLOTY_COUNT> kolory = KOLORY_STARTOWE[swiat];
+    std::ranges::copy(rysunki.kolory, kolory.begin() + KOLORY_FIRST_SLOT);
+    for (std::size_t slot = 0; slot < kolory.size(); ++slot)
+        kolory[slot] = wlasne[slot].value_or(wspolne[slot].value_or(kolory[slot]));
     return kolory;
 }
 
@@ -61,6 +71,7 @@ void takePlansza(Zrodlo& z, const Legenda& legenda, std::span<Bajt> cells) {
 
 Legenda parseLegenda(Zrodlo z) {
     Legenda legenda{};
+    legenda.kolory = takeKolory(z);
     legenda.kody.fill(-1);
     while (!z.atEnd()) {
         const auto [znaczek, reszta] = splitSlowo(z.take());
@@ -78,7 +89,7 @@ Legenda parseLegenda(Zrodlo z) {
 
 Bajty parseEtap(Zrodlo z, const Legenda& legenda, const Swiaty& swiaty) {
     const auto swiat = static_cast<std::size_t>(parseLiczba(z, takePole(z, "swiat"), 1, SWIATY_COUNT) - 1);
-    const auto kolory = takeKolory(z, swiat, swiaty[swiat]);
+    const auto kolory = mixKolory(swiat, swiaty[swiat], legenda.kolory, takeKolory(z));
     const int cel = parseLiczba(z, takePole(z, "cel"), CEL_MIN, CEL_MAX);
     const int ostatni = parseLiczba(z, takePole(z, "ostatni"), 0, 1);
     const Tekst nazwa = takeTekst(z, "powitanie", NAZWA_WIDTH);

@@ -3,10 +3,16 @@
 
 #include "rysunki.h"
 
+#include <optional>
+
 namespace dorva {
 
-// Which tile code a character of a stage's board stands for.
+// Colours by slot, where a source gives any.
+using WybraneKolory = std::array<std::optional<Bajt>, SLOTY_COUNT>;
+
+// What all stages share: colours, and which tile code a character of a board stands for.
 struct Legenda {
+    WybraneKolory kolory;
     std::array<int, 128> kody; // by character; below 0 where it stands for nothing
 };
 
@@ -14,7 +20,7 @@ using Swiaty = std::array<Rysunki, SWIATY_COUNT>;
 
 Legenda parseLegenda(Zrodlo);
 
-// The stage image, 931 bytes. A stage's colours are its world's; single ones can be given.
+// The stage image, 931 bytes.
 Bajty parseEtap(Zrodlo, const Legenda&, const Swiaty&);
 
 // The three title lines of the game, 60 bytes.

@@ -25,19 +25,20 @@ Ksztalt takeKsztalt(Zrodlo& z) {
     return ksztalt;
 }
 
-// The drawing of a tile, or the one it is the mirror image of: "lustro 26" left to right, "odbicie 28" top to
-// bottom, "jak 5" unchanged.
-Ksztalt takeRysunek(Zrodlo& z, const Rysunki& rysunki) {
+// The drawing of the tile `code`, or the earlier one that it mirrors: "lustro 26" left to right, "odbicie 28"
+// top to bottom.
+Ksztalt takeRysunek(Zrodlo& z, const Rysunki& rysunki, int code) {
     const auto [slowo, numer] = splitSlowo(z.peek());
-    if (slowo != "lustro" && slowo != "odbicie" && slowo != "jak")
+    if (slowo != "lustro" && slowo != "odbicie")
         return takeKsztalt(z);
     z.take();
-    Ksztalt ksztalt = rysunki.ksztalty[static_cast<std::size_t>(parseLiczba(z, numer, 0, ZNAKI_COUNT - 1))];
-    if (slowo == "odbicie")
+    Ksztalt ksztalt = rysunki.ksztalty[static_cast<std::size_t>(parseLiczba(z, numer, 0, code - 1))];
+    if (slowo == "odbicie") {
         std::ranges::reverse(ksztalt);
-    if (slowo == "lustro")
-        for (auto& row : ksztalt)
-            std::ranges::reverse(row);
+        return ksztalt;
+    }
+    for (auto& row : ksztalt)
+        std::ranges::reverse(row);
     return ksztalt;
 }
 
@@ -78,7 +79,7 @@ Rysunki parseRysunki(Zrodlo z) {
         const std::string title = std::to_string(i) + " " + std::string(NAZWY_ZNAKOW[i]);
         if (z.take() != title)
             z.fail("the tile \"" + title + "\" should stand here");
-        rysunki.ksztalty[i] = takeRysunek(z, rysunki);
+        rysunki.ksztalty[i] = takeRysunek(z, rysunki, static_cast<int>(i));
     }
     if (z.take() != "obcy")
         z.fail("the drawing \"obcy\" should stand here");
