@@ -14,10 +14,6 @@ namespace {
 constexpr int FONT_PIXELS = 11;
 constexpr int FONT_STALY_PIXELS = 14, ZNAK_PIXELS = 8;
 constexpr QColor WYBRANY_KOLOR(0x8C, 0xB4, 0xE4); // of a button that is selected
-constexpr char16_t SYMBOLE_STEROWANIA = 0x2400;   // pictures of the control codes
-constexpr char16_t SYMBOL_DEL = 0x2421;
-constexpr Bajt KOD_DEL = 127;
-
 bool isWindowChange(const QFocusEvent* event) {
     return event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
 }
@@ -47,30 +43,6 @@ QFont fontStaly() {
             break;
     }
     return font;
-}
-
-QString toQString(const Tekst& tekst) {
-    QString result;
-    result.reserve(static_cast<qsizetype>(tekst.size()));
-    for (char c : tekst.znaki) {
-        const auto code = static_cast<Bajt>(c);
-        if (code < ' ')
-            result += QChar(static_cast<char16_t>(SYMBOLE_STEROWANIA + code));
-        else
-            result += QChar(code == KOD_DEL ? SYMBOL_DEL : toUnicode(code));
-    }
-    return result;
-}
-
-Tekst fromQString(const QString& text) {
-    Tekst result;
-    for (char32_t c : text.toUcs4()) {
-        if (c >= SYMBOLE_STEROWANIA && c < SYMBOLE_STEROWANIA + ' ')
-            result.znaki += static_cast<char>(c - SYMBOLE_STEROWANIA);
-        else
-            result.znaki += static_cast<char>(c == SYMBOL_DEL ? KOD_DEL : fromUnicode(c));
-    }
-    return result;
 }
 
 void Ramka::paintEvent(QPaintEvent*) {

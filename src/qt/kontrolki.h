@@ -1,8 +1,6 @@
 // The small widgets of the window that Qt does not have just so.
 #pragma once
 
-#include "stage/tekst.h"
-
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,11 +17,6 @@ QFont fontFigury();
 // The fixed-pitch font of the text boxes: eight pixels a character at most, so that every box shows its
 // full width.
 QFont fontStaly();
-
-// The window's text for bytes of the code page. A control code is shown by its symbol, so that a box
-// always holds as many characters as the text.
-QString toQString(const Tekst&);
-Tekst fromQString(const QString&);
 
 // A frame with a thin line and its caption in it; the caption is narrowed where it would not fit.
 class Ramka : public QGroupBox {

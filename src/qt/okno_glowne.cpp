@@ -8,7 +8,9 @@
 #include "qt/kontrolki.h"
 #include "qt/paleta_okno.h"
 #include "qt/pola_znakow.h"
+#include "qt/przeklad.h"
 #include "qt/rozmowy.h"
+#include "qt/wytwornia.h"
 #include "shell/pola.h"
 #include "shell/start.h"
 #include "stage/archiwum.h"
@@ -55,95 +57,8 @@ const OknoGlowne::OpcjeOkna OknoGlowne::OPCJE[]{
 
 namespace {
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 QString nameOf(const char* name, int index) {
     return index < 0 ? QString(name) : QString("%1(%2)").arg(name).arg(index);
-}
-
-QColor toQColor(Rgb c) {
-    return {c.r, c.g, c.b};
-}
-
-void setColour(QWidget* widget, QPalette::ColorRole role, const QColor& colour) {
-    QPalette palette = widget->palette();
-    palette.setColor(role, colour);
-    widget->setPalette(palette);
-}
-
-template <typename Label> Label* makeLabel(const Kontrolka& k, QWidget* parent) {
-    auto* label = new Label(text(k.caption), parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignCenter);
-    return label;
-}
-
-// Makes the widget that a row of the catalogue asks for.
-QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
-    switch (k.rodzaj) {
-    case Rodzaj::Ramka:
-        return new Ramka(text(k.caption), parent);
-    case Rodzaj::Pole: {
-        auto* pole = new QWidget(parent);
-        pole->setAutoFillBackground(true);
-        setColour(pole, QPalette::Window, QColor::fromRgb(SZARY));
-        return pole;
-    }
-    case Rodzaj::Przycisk:
-        return new Przycisk(text(k.caption), parent);
-    case Rodzaj::Opcja: {
-        auto* opcja = new Przycisk(text(k.caption), parent);
-        opcja->setCheckable(true);
-        return opcja;
-    }
-    case Rodzaj::Znacznik:
-        return new QCheckBox(text(k.caption), parent);
-    case Rodzaj::Etykieta: {
-        auto* label = makeLabel<Etykieta>(k, parent);
-        label->setWordWrap(true);
-        return label;
-    }
-    case Rodzaj::Nazwa: {
-        auto* label = makeLabel<Etykieta>(k, parent);
-        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        return label;
-    }
-    case Rodzaj::Figura: {
-        auto* label = makeLabel<Etykieta>(k, parent);
-        label->setFrameStyle(QFrame::Box | QFrame::Plain);
-        label->setAutoFillBackground(true); // so that nothing below is painted anew with it
-        return label;
-    }
-    case Rodzaj::Probka: {
-        auto* label = makeLabel<ProbkaKoloru>(k, parent);
-        label->setFrameStyle(QFrame::Box | QFrame::Plain);
-        label->setAutoFillBackground(true);
-        label->setFont(fontFigury());
-        return label;
-    }
-    case Rodzaj::Pasek: {
-        auto* pasek = new QScrollBar(Qt::Horizontal, parent);
-        pasek->setRange(CEL_MIN, CEL_MAX);
-        pasek->setPageStep(1);
-        pasek->setTracking(false);
-        pasek->setFocusPolicy(Qt::StrongFocus);
-        return pasek;
-    }
-    case Rodzaj::Tekst: {
-        auto* box = new PoleEdycji(parent);
-        box->setFont(fontStaly());
-        return box;
-    }
-    case Rodzaj::Obraz:
-        return new ObrazWidget(parent);
-    case Rodzaj::Plansza:
-        return new PlanszaWidget(parent);
-    case Rodzaj::Wybor:
-        return new WyborWidget(parent);
-    }
-    return nullptr;
 }
 
 // To the right of the window where the screen has room, else over its left part: swatches stay in sight.
@@ -207,12 +122,12 @@ OknoGlowne::OknoGlowne(Edytor& e) : e_(e), obrazki_(e.zestawy) {
 OknoGlowne::~OknoGlowne() = default;
 
 void OknoGlowne::build(const Kontrolka& k) {
-    QWidget* parent = k.container.empty() ? this : widgets_.value(text(k.container));
+    QWidget* parent = k.container.empty() ? this : widgets_.value(toQString(k.container));
     QWidget* widget = makeWidget(k, parent);
     const QString name = nameOf(k.name.data(), k.index);
     widget->setObjectName(name);
     widget->setGeometry(pixels(k.left), pixels(k.top), pixels(k.width), pixels(k.height));
-    widget->setToolTip(text(k.tooltip));
+    widget->setToolTip(toQString(k.tooltip));
     widget->setEnabled(k.widac == Widac::Tak || k.widac == Widac::Schowane);
     widget->setVisible(k.widac == Widac::Tak || k.widac == Widac::Wylaczone);
     widgets_.insert(name, widget);
@@ -223,8 +138,8 @@ void OknoGlowne::setTabOrder() {
     for (std::string_view name : kolejnoscTab()) {
         // An option group is visited at its selected button, so each of its buttons joins the chain.
         for (int index = 0;; ++index) {
-            QWidget* widget =
-                widgets_.value(index == 0 && widgets_.contains(text(name)) ? text(name) : nameOf(name.data(), index));
+            QWidget* widget = widgets_.value(
+                index == 0 && widgets_.contains(toQString(name)) ? toQString(name) : nameOf(name.data(), index));
             if (!widget)
                 break;
             if (last)
@@ -346,13 +261,13 @@ void OknoGlowne::showFigures() {
         if (shownOnce_ && info == shown_.lblInfo[i])
             continue;
         Etykieta* label = lblInfo_[i];
-        label->setText(QString::fromStdString(info.caption));
+        label->setText(toQString(info.caption));
         setColour(label, QPalette::WindowText, info.czerwony ? QColor(Qt::red) : palette().color(QPalette::WindowText));
     }
     for (std::size_t k = 0; k < okno.imgInfo.size(); ++k)
         imgInfo_[k]->showObraz(okno.imgInfo[k], obrazki_);
     for (std::size_t i = 0; i < okno.lblKodBufor.size(); ++i)
-        lblKodBufor_[i]->setText(QString::fromStdString(okno.lblKodBufor[i]));
+        lblKodBufor_[i]->setText(toQString(okno.lblKodBufor[i]));
     const QSignalBlocker quiet(hscMonet_);
     hscMonet_->setValue(okno.hscMonet);
 }
@@ -374,7 +289,7 @@ void OknoGlowne::showKolory() {
 void OknoGlowne::showTexts() {
     if (caption_ != e_.okno.caption) {
         caption_ = e_.okno.caption;
-        setWindowTitle(text(caption_));
+        setWindowTitle(toQString(caption_));
     }
     for (std::size_t i = 0; i < pola_.size(); ++i) {
         const PoleTekstu& pole = poleOf(e_.okno, POLA[i].pole);

@@ -2,6 +2,7 @@
 
 #include "qt/kontrolki.h"
 #include "qt/kursory.h"
+#include "qt/przeklad.h"
 #include "tiles/paleta_barw.h"
 
 #include <QMouseEvent>
@@ -17,10 +18,6 @@ constexpr QSize CLIENT{210, 337};
 constexpr QRect FRA_PALETA{24, 16, 129, 257}, PIC_WYBRANY{160, 16, 41, 257}, LBL_WYBRANY{24, 280, 177, 17},
     CMZ_ZAMKNIJ{24, 304, 177, 25};
 
-QColor toQColor(Rgb c) {
-    return {c.r, c.g, c.b};
-}
-
 QLabel* addLabel(QWidget* parent, const QString& name, const QString& text, QRect place) {
     auto* label = new QLabel(text, parent);
     label->setObjectName(name);
@@ -28,12 +25,6 @@ QLabel* addLabel(QWidget* parent, const QString& name, const QString& text, QRec
     label->setAlignment(Qt::AlignCenter);
     label->setFont(fontStaly());
     return label;
-}
-
-void setBackground(QWidget* widget, Rgb colour) {
-    QPalette palette = widget->palette();
-    palette.setColor(QPalette::Window, toQColor(colour));
-    widget->setPalette(palette);
 }
 
 // A field of one colour within a thin border.
@@ -85,7 +76,7 @@ PaletaOkno::PaletaOkno(QWidget* parent)
         auto* cell = new Komorka(fraPaleta);
         cell->setObjectName(QString("picPaleta(%1)").arg(i));
         cell->setGeometry(i % COLUMNS * CELL_PITCH, i / COLUMNS * CELL_PITCH, CELL_SIDE, CELL_SIDE);
-        cell->setToolTip(QString::fromStdString(kolorText(2 * i)));
+        cell->setToolTip(toQString(kolorText(2 * i)));
         cell->setCursor(hand);
         cell->onClick = [this, i] { onPick(i); };
         picPaleta_[static_cast<std::size_t>(i)] = cell;
@@ -113,9 +104,9 @@ PaletaOkno::PaletaOkno(QWidget* parent)
 
 void PaletaOkno::showOkno(const OknoPalety& okno) {
     for (std::size_t i = 0; i < picPaleta_.size(); ++i)
-        setBackground(picPaleta_[i], okno.picPaleta[i]);
-    setBackground(picWybrany_, okno.picWybrany);
-    lblWybrany_->setText(QString::fromStdString(okno.lblWybrany));
+        setColour(picPaleta_[i], QPalette::Window, toQColor(okno.picPaleta[i]));
+    setColour(picWybrany_, QPalette::Window, toQColor(okno.picWybrany));
+    lblWybrany_->setText(toQString(okno.lblWybrany));
     if (okno.otwarte == isVisible())
         return;
     setVisible(okno.otwarte);

@@ -2,6 +2,7 @@
 
 #include "board/plansza.h"
 #include "qt/kursory.h"
+#include "qt/przeklad.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -9,6 +10,7 @@
 #include <QToolTip>
 
 #include <cmath>
+#include <utility>
 
 namespace dorva {
 namespace {
@@ -154,12 +156,11 @@ void PlanszaWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void PlanszaWidget::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint from = pointer_;
-    pointer_ = cellAt(event->position());
-    const int buttons = buttonsOf(event->buttons());
-    if (!onMove)
+    const QPoint from = std::exchange(pointer_, cellAt(event->position()));
+    if (from == pointer_ || !onMove)
         return;
-    if (buttons == 0 || from == pointer_) {
+    const int buttons = buttonsOf(event->buttons());
+    if (buttons == 0) {
         if (onBoard(pointer_))
             onMove(indexOf(pointer_), buttons);
         return;
@@ -220,8 +221,7 @@ bool WyborWidget::event(QEvent* event) {
     if (slot < 0)
         QToolTip::hideText();
     else {
-        const std::string_view name = NAZWY_ZNAKOW[static_cast<std::size_t>(slot)];
-        QToolTip::showText(help->globalPos(), QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())), this,
+        QToolTip::showText(help->globalPos(), toQString(NAZWY_ZNAKOW[static_cast<std::size_t>(slot)]), this,
                            slotRect(slot));
     }
     return true;

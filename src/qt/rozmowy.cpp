@@ -1,9 +1,9 @@
 #include "qt/rozmowy.h"
 
+#include "qt/przeklad.h"
 #include "shell/pliki.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QProcess>
@@ -13,18 +13,6 @@ namespace dorva {
 namespace {
 
 namespace fs = std::filesystem;
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-QString toQString(const fs::path& path) {
-    return QFile::decodeName(QByteArray::fromStdString(path.string()));
-}
-
-fs::path toPath(const QString& name) {
-    return QFile::encodeName(name).toStdString();
-}
 
 constexpr QMessageBox::Icon iconOf(Ikona ikona) {
     switch (ikona) {
@@ -40,7 +28,7 @@ constexpr QMessageBox::Icon iconOf(Ikona ikona) {
 // "label|pattern|label|pattern" to the dialog's "label (pattern)" each. "*.*" means all files, also those
 // without a dot.
 QStringList nameFilters(std::string_view filter) {
-    const QStringList parts = text(filter).split('|');
+    const QStringList parts = toQString(filter).split('|');
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
         filters += parts[i] + " (" + (parts[i + 1] == "*.*" ? QString("*") : parts[i + 1]) + ")";
@@ -49,7 +37,7 @@ QStringList nameFilters(std::string_view filter) {
 
 QString startFolder(const fs::path& start) {
     std::error_code error;
-    return toQString(fs::is_directory(start, error) ? start : start.parent_path());
+    return nameOfPath(fs::is_directory(start, error) ? start : start.parent_path());
 }
 
 std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, const QString& accept) {
@@ -62,7 +50,7 @@ std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, co
     dialog.setLabelText(QFileDialog::FileName, "Nazwa pliku:");
     dialog.setLabelText(QFileDialog::FileType, "Pliki typu:");
     if (!question.name.empty())
-        dialog.selectFile(QString::fromStdString(question.name));
+        dialog.selectFile(toQString(question.name));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return toPath(dialog.selectedFiles().constFirst());
@@ -76,8 +64,8 @@ bool hasInterpreterLine(const fs::path& program) {
 } // namespace
 
 bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
-    QMessageBox box(iconOf(komunikat.ikona), text(komunikat.title), text(komunikat.text), QMessageBox::NoButton,
-                    parent);
+    QMessageBox box(iconOf(komunikat.ikona), toQString(komunikat.title), toQString(komunikat.text),
+                    QMessageBox::NoButton, parent);
     box.setTextFormat(Qt::PlainText);
     const bool yesNo = komunikat.przyciski == Przyciski::YesNo;
     QPushButton* accept = box.addButton(yesNo ? "Tak" : "OK", QMessageBox::AcceptRole);
@@ -109,7 +97,7 @@ void startDetached(const fs::path& program) {
     if (!lengthOf(SYSTEM_PLIKOW, program))
         return;
     const bool script = program.extension() == ".BAT" && !hasInterpreterLine(program);
-    const QString name = toQString(program);
+    const QString name = nameOfPath(program);
     QProcess process;
     process.setProgram(script ? "sh" : name);
     process.setArguments(script ? QStringList{name} : QStringList{});

@@ -1,0 +1,61 @@
+#include "qt/przeklad.h"
+
+#include <QFile>
+#include <QWidget>
+
+namespace dorva {
+namespace {
+
+constexpr char16_t SYMBOLE_STEROWANIA = 0x2400; // pictures of the control codes
+constexpr char16_t SYMBOL_DEL = 0x2421;
+constexpr Bajt KOD_DEL = 127;
+
+} // namespace
+
+QString toQString(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QString toQString(const Tekst& tekst) {
+    QString result;
+    result.reserve(static_cast<qsizetype>(tekst.size()));
+    for (char c : tekst.znaki) {
+        const auto code = static_cast<Bajt>(c);
+        if (code < ' ')
+            result += QChar(static_cast<char16_t>(SYMBOLE_STEROWANIA + code));
+        else
+            result += QChar(code == KOD_DEL ? SYMBOL_DEL : toUnicode(code));
+    }
+    return result;
+}
+
+Tekst fromQString(const QString& text) {
+    Tekst result;
+    for (char32_t c : text.toUcs4()) {
+        if (c >= SYMBOLE_STEROWANIA && c < SYMBOLE_STEROWANIA + ' ')
+            result.znaki += static_cast<char>(c - SYMBOLE_STEROWANIA);
+        else
+            result.znaki += static_cast<char>(c == SYMBOL_DEL ? KOD_DEL : fromUnicode(c));
+    }
+    return result;
+}
+
+QString nameOfPath(const std::filesystem::path& path) {
+    return QFile::decodeName(QByteArray::fromStdString(path.string()));
+}
+
+std::filesystem::path toPath(const QString& name) {
+    return QFile::encodeName(name).toStdString();
+}
+
+QColor toQColor(Rgb c) {
+    return {c.r, c.g, c.b};
+}
+
+void setColour(QWidget* widget, QPalette::ColorRole role, const QColor& colour) {
+    QPalette palette = widget->palette();
+    palette.setColor(role, colour);
+    widget->setPalette(palette);
+}
+
+} // namespace dorva
