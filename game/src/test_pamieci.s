@@ -42,7 +42,7 @@ sprawdz_pamiec:
         sta (SAVMSC),y
         dey
         bpl @napis
-@stoj:  jmp @stoj
+stoj:   jmp stoj
 
 banki:  .byte BANK0, BANK1, BANK2, BANK3
 komunikat:

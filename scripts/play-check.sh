@@ -1,0 +1,241 @@
+#!/bin/sh
+# play-check.sh [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory: title, the
+# recorded runs through stages 1 to 3, dying, the last stage, all 32 stages, a board without a heroine, RESET, a machine
+# of 64 KB. Says so and ends well where there is no emulator. --pictures renews docs/obrazy/gra-*.png (needs Xvfb and
+# ImageMagick).
+set -eu
+
+cd "$(dirname "$0")/.."
+pictures=no
+[ "${1-}" != --pictures ] || { pictures=yes && shift; }
+build=${1-build/release}
+game=$build/data/PLIKI/DP2.DTA labels=$build/game/src/szablon.lbl stages=$build/data/ETAPY runs=tests/gra/przejscia
+
+command -v atari800 >/dev/null || { echo "play-check: skipped, the emulator atari800 is not installed"; exit 0; }
+[ -f "$game" ] && [ -f "$labels" ] || { echo "play-check: no game in $build; build it first" >&2; exit 1; }
+work=$(mktemp -d)
+xvfb=
+trap 'rm -rf "$work"; [ -z "$xvfb" ] || kill "$xvfb"' EXIT
+
+# --- what the emulator is given -------------------------------------------------------------------------------------
+
+at() { # at LABEL: its address in hexadecimal
+    awk -v name=".$1" '$3 == name { sub(/^0+/, "", $2); print $2; exit }' "$labels"
+}
+
+plus() { # plus ADDRESS BYTES: the address so many bytes on
+    printf '%X' $((0x$1 + $2))
+}
+
+# record TOKENS...: a recording of input. A token is letters and a number of frames: L R U D stick, F trigger, - nothing.
+record() {
+    echo "$*" | awk '
+        BEGIN { print "Atari800 event recording, version: 1"; print 10387 }
+        { for (i = 1; i <= NF; ++i) {
+            stick = 255 - ($i ~ /U/) - 2 * ($i ~ /D/) - 4 * ($i ~ /L/) - 8 * ($i ~ /R/)
+            match($i, /[0-9]+/)
+            for (n = substr($i, RSTART); n > 0; --n)
+                printf "-1 0 7 \n%d \n255 \n%d \n1 \n1 \n1 \n00000000 \n", stick, $i !~ /F/
+        } }'
+}
+
+# run_of STAGE: the recorded run. Its first move also ends the greeting, so it takes a frame more than in the rules.
+run_of() {
+    awk '{ for (i = 1; i <= NF; ++i) {
+        n = substr($i, 2) + (++count == 1)
+        printf "%s%d ", substr($i, 1, 1), n
+    } }' "$runs/etap$1.txt"
+}
+
+# emulate FILE [OPTION...]: runs FILE with the input $work/input and the monitor commands $work/commands.
+emulate() {
+    file=$1
+    shift
+    : >>"$work/config"
+    (cd "$work" && timeout 300 atari800 -config "$work/config" -nobasic -xl-rev altirra -nosound \
+        -playback "$work/input" "$@" -run "$file" -monitor <"$work/commands" >"$work/log" 2>&1) || true
+    rm -f "$work/config"
+}
+
+play() { # play FILE [OPTION...]: without a picture, as fast as it goes
+    SDL_VIDEODRIVER=dummy SDL_AUDIODRIVER=dummy emulate "$@" -turbo
+}
+
+until_at() { # until_at LABEL: goes on until the program comes there
+    echo "BPC $(at "$1")"
+    echo CONT
+}
+
+dump() { # dump LABEL BYTES NAME: a piece of memory into a file
+    from=$(at "$1")
+    echo "WRITE $from $(plus "$from" $(($2 - 1))) $3"
+}
+
+# a copy of the game with bytes replaced: patch FILE OFFSET BYTE...
+patch() {
+    file=$1 offset=$2
+    shift 2
+    for byte; do printf "\\$(printf %03o "$byte")"; done | dd of="$file" bs=1 seek="$offset" conv=notrunc status=none
+}
+
+# test_build STAGE_FILE FILE: a game as a test build makes it: the stage in the place of stage 1, marked as the last.
+test_build() {
+    cp "$game" "$2"
+    dd if="$1" of="$2" bs=1 seek=29724 conv=notrunc status=none
+    patch "$2" $((29724 + 833)) 1
+    patch "$2" 116202 12 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155
+    patch "$2" 116224 7 52 37 51 52 0 37 52 33 48 53 155 155 155 155 155 155 155 155 155 155 155
+}
+
+# --- what is expected -----------------------------------------------------------------------------------------------
+
+bytes() { # bytes FILE OFFSET COUNT: in decimal, on one line
+    od -An -v -tu1 -j "$2" -N "$3" "$1" | tr -s ' \n' ' ' | sed 's/^ //; s/ $//'
+}
+
+expect() { # expect WHAT IS SHOULD_BE
+    if [ "$2" = "$3" ]; then
+        echo "ok: $1"
+    else
+        echo "FAILED: $1: '$2' instead of '$3'" >&2
+        exit 1
+    fi
+}
+
+came_to() { # the labels at which the program stopped, in order
+    awk -v labels="$labels" '
+        BEGIN { while ((getline line < labels) > 0) { split(line, f, " "); sub(/^0+/, "", f[2]); names[f[2]] = f[3] } }
+        /^\(breakpoint at/ { gsub(/^0+|\)/, "", $3); printf "%s%s", sep, substr(names[$3], 2); sep = " " }' "$work/log"
+}
+
+title_lines() { # the bytes that the three title lines of FILE put on the text screen, from column 8 on
+    for line in 0 1 2; do
+        bytes "$1" $((116180 + 22 * line)) 22 | awk '{
+            for (i = 0; i < 24; ++i) row[i] = 0
+            for (i = 2; i <= NF && $i != 155; ++i) row[$1 + i - 2] = $i
+            for (i = 0; i < 24; ++i) printf "%d ", row[i] }'
+    done
+}
+
+shown_lines() { # the same from the dumped text screen
+    for line in 0 1 2; do bytes "$work/ekran" $((40 * (1 + 2 * line) + 8)) 24 | sed 's/$/ /' | tr -d '\n'; done
+}
+
+start="-400 F10 -60"
+
+check_title() {
+    record "$start" >"$work/input"
+    { until_at wcisniete && dump ekran 600 ekran && echo QUIT; } >"$work/commands"
+    play "$PWD/$game" -xe
+    expect "the title shows its three lines at their start columns" "$(shown_lines)" "$(title_lines "$game")"
+}
+
+check_runs() { # check_runs OPTION: PAL or NTSC
+    record "$start" "$(run_of 1)" -100 "$(run_of 2)" -100 "$(run_of 3)" -300 >"$work/input"
+    {
+        for stage in 1 2 3; do
+            until_at graj_etap && until_at otworz && dump brak_masek 1 "masks$stage"
+            until_at policz_energie && dump numer_etapu 1 "stage$stage"
+        done
+        until_at graj_etap && dump numer_etapu 1 stage4
+        echo QUIT
+    } >"$work/commands"
+    play "$PWD/$game" -xe "$1"
+    one="graj_etap otworz policz_energie"
+    expect "stages 1 to 3 are entered, their exits open, she goes through ($1)" "$(came_to)" "$one $one $one graj_etap"
+    for stage in 1 2 3; do
+        expect "stage $stage: no mask is missing" "$(bytes "$work/masks$stage" 0 1) $(bytes "$work/stage$stage" 0 1)" "0 $stage"
+    done
+    expect "stage 4 follows" "$(bytes "$work/stage4" 0 1)" 4
+}
+
+check_dying() { # she steps into a fire and stays there, three times
+    cp "$stages/DETAP.1" "$work/etap"
+    dorva=$(od -An -v -tu1 -w1 "$work/etap" | awk 'NR > 32 && $1 == 63 { print NR - 1; exit }')
+    patch "$work/etap" $((dorva - 1)) 35 63 35
+    test_build "$work/etap" "$work/ogien.xex"
+    record "$start" R7 -300 R7 -300 R7 -400 >"$work/input"
+    {
+        for lives in 3 2 1; do until_at graj_etap && dump zycia 1 "lives$lives"; done
+        until_at ekran_konca && until_at wcisniete && echo QUIT
+    } >"$work/commands"
+    play "$work/ogien.xex" -xe
+    expect "three tries, then the end of the game" "$(came_to)" "graj_etap graj_etap graj_etap ekran_konca wcisniete"
+    expect "a life is lost each time" "$(bytes "$work/lives3" 0 1) $(bytes "$work/lives2" 0 1) $(bytes "$work/lives1" 0 1)" "3 2 1"
+}
+
+check_test_build() {
+    test_build "$stages/DETAP.2" "$work/test.xex"
+    record "$start" "$(run_of 2)" -300 >"$work/input"
+    { until_at wcisniete && dump ekran 600 ekran && until_at ekran_wygranej && echo QUIT; } >"$work/commands"
+    play "$work/test.xex" -xe
+    expect "a test build shows its title lines" "$(shown_lines)" "$(title_lines "$work/test.xex")"
+    expect "its only stage is the last one" "$(came_to)" "wcisniete ekran_wygranej"
+}
+
+check_all_stages() {
+    record -9000 >"$work/input"
+    {
+        until_at wcisniete
+        echo "BPC $(at graj_etap)"
+        for stage in $(seq 32); do
+            printf 'C %s %X\nCONT %s\n' "$(at numer_etapu)" "$stage" "$(at graj)"
+            dump plansza 800 "plansza$stage" && dump zestaw 512 "zestaw$stage" && dump kolory 12 "kolory$stage"
+            dump linia_info 40 "linia$stage"
+        done
+        echo QUIT
+    } >"$work/commands"
+    play "$PWD/$game" -xe
+    for stage in $(seq 32); do
+        file=$stages/DETAP.$stage
+        world=$(bytes "$file" 834 1)
+        same=
+        [ "$(bytes "$work/plansza$stage" 0 800)" = "$(bytes "$file" 32 800)" ] || same="$same board"
+        [ "$(bytes "$work/kolory$stage" 0 12)" = "$(bytes "$file" 16 12)" ] || same="$same colours"
+        [ "$(bytes "$work/linia$stage" 8 32)" = "$(bytes "$file" 835 32)" ] || same="$same greeting"
+        [ "$(bytes "$work/zestaw$stage" 0 512)" = "$(bytes "$build/data/OBIEKTY/ORN_EXPORT/FNT${world}1.ORN.ND" 0 512)" ] ||
+            same="$same tiles"
+        [ -z "$same" ] || expect "stage $stage as it was painted" "other:$same" "the same"
+    done
+    expect "all 32 stages as they were painted: board, tiles, colours, greeting" 32 32
+}
+
+check_empty_board() {
+    cp "$stages/DETAP.1" "$work/etap"
+    patch "$work/etap" 32 $(bytes "$stages/DETAP.1" 32 800 | sed 's/\b63\b/0/g')
+    test_build "$work/etap" "$work/pusta.xex"
+    record "$start" -100 F10 -100 >"$work/input"
+    { until_at ekran_bez_dorvy && until_at rysuj_tytul && echo QUIT; } >"$work/commands"
+    play "$work/pusta.xex" -xe
+    expect "a board without a heroine: a word, then the title" "$(came_to)" "ekran_bez_dorvy rysuj_tytul"
+}
+
+check_reset() {
+    record "$start" "$(run_of 1)" -600 >"$work/input"
+    {
+        until_at graj_etap && until_at otworz
+        echo "BPC $(at rysuj_tytul)" && echo WARMSTART # goes on by itself
+        until_at wcisniete && dump ekran 600 ekran && echo QUIT
+    } >"$work/commands"
+    play "$PWD/$game" -xe
+    expect "RESET in the middle of a stage brings the title" "$(came_to)" "graj_etap otworz rysuj_tytul wcisniete"
+    expect "and the title is whole" "$(shown_lines)" "$(title_lines "$game")"
+}
+
+check_small_machine() {
+    record -1000 >"$work/input"
+    { until_at stoj && echo QUIT; } >"$work/commands"
+    play "$PWD/$game" -xl
+    expect "a machine of 64 KB is told what is missing" "$(came_to)" stoj
+}
+
+check_title
+check_runs -pal
+check_runs -ntsc
+check_dying
+check_test_build
+check_all_stages
+check_empty_board
+check_reset
+check_small_machine
+[ "$pictures" = yes ] || exit 0
