@@ -1,6 +1,7 @@
 #include "qt/kontrolki.h"
 
 #include <QFocusEvent>
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
@@ -12,8 +13,17 @@ namespace dorva {
 namespace {
 
 constexpr int FONT_PIXELS = 11;
-constexpr int FONT_STALY_PIXELS = 14, ZNAK_PIXELS = 8;
+constexpr int FONT_STALY_PIXELS = 13, ZNAK_PIXELS = 8;
 constexpr QColor WYBRANY_KOLOR(0x8C, 0xB4, 0xE4); // of a button that is selected
+// One family by name: a font with a list of families looks for all its substitutes at once, and that takes
+// longer than all else at the start.
+QString firstInstalled(std::initializer_list<const char*> families) {
+    for (const char* family : families)
+        if (QFontDatabase::hasFamily(family))
+            return family;
+    return *families.begin();
+}
+
 bool isWindowChange(const QFocusEvent* event) {
     return event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
 }
@@ -21,8 +31,8 @@ bool isWindowChange(const QFocusEvent* event) {
 } // namespace
 
 QFont fontOkna() {
-    QFont font;
-    font.setFamilies({"Liberation Sans", "Arial", "DejaVu Sans"});
+    static const QString family = firstInstalled({"Liberation Sans", "Arial", "DejaVu Sans"});
+    QFont font(family);
     font.setPixelSize(FONT_PIXELS);
     return font;
 }
@@ -34,8 +44,9 @@ QFont fontFigury() {
 }
 
 QFont fontStaly() {
-    QFont font;
-    font.setFamilies({"Liberation Mono", "DejaVu Sans Mono", "Courier New", "monospace"});
+    static const QString family = firstInstalled({"Liberation Mono", "DejaVu Sans Mono", "Courier New"});
+    QFont font(family);
+    font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
     for (int size = FONT_STALY_PIXELS; size > 6; --size) {
         font.setPixelSize(size);

@@ -100,7 +100,6 @@ template <typename Widget, std::size_t Count> std::array<Widget*, Count> OknoGlo
 OknoGlowne::OknoGlowne(Edytor& e) : e_(e), obrazki_(e.zestawy) {
     setObjectName("frmDP");
     setFixedSize(OKNO_WIDTH, OKNO_HEIGHT);
-    setFont(fontOkna());
     for (const Kontrolka& k : katalogOkna())
         build(k);
     imgPG_ = find<PlanszaWidget>("imgPG");

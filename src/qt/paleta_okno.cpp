@@ -66,7 +66,6 @@ PaletaOkno::PaletaOkno(QWidget* parent)
     setObjectName("dlgPaleta");
     setWindowTitle("Paleta Atari");
     setFixedSize(CLIENT);
-    setFont(fontOkna());
 
     auto* fraPaleta = new QWidget(this);
     fraPaleta->setObjectName("fraPaleta");
