@@ -77,17 +77,24 @@ TEST_F(Rozmowy, ClearingAsksAndStays) {
     EXPECT_EQ(find<QLineEdit>("txtNazwa")->text(), QString(32, ' '));
 }
 
-TEST_F(Rozmowy, TheLauncherRunsBesideTheEditor) {
+// The launcher of the working folder, with an emulator that notes how it was called.
+TEST_F(Rozmowy, TheLauncherRunsTheEmulatorBesideTheEditor) {
     open();
-    const std::string script = ": a batch file\npwd > PLIKI/DZIALA.TXT\n";
-    writeFile(base / "PLIKI/DP3.BAT", Bajty(script.begin(), script.end()));
+    fs::copy_file(DORVA_LAUNCHER, base / "PLIKI/DP3.BAT");
+    const std::string emulator = "#!/bin/sh\n{ pwd; echo \"$@\"; } > \"" + (root / "wywolanie").string() + "\"\n";
+    writeFile(root / "atari800", Bajty(emulator.begin(), emulator.end()));
+    fs::permissions(root / "atari800", fs::perms::owner_all);
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QByteArray::fromStdString(root.string()) + ":" + path);
+
     whenAskedPress("Tak");
     click("cmdTest");
     EXPECT_EQ(said, QStringList("Dorva Planszownik|Został utworzony plik XEX z testowanym etapem.\n"
                                 "Uruchomić plik na emulatorze Atari?"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !readFile(base / "PLIKI/DZIALA.TXT").empty(); }));
-    const Bajty folderBytes = readFile(base / "PLIKI/DZIALA.TXT");
-    EXPECT_EQ(std::string(folderBytes.begin(), folderBytes.end()), fs::canonical(base).string() + "\n");
+    const std::string called = fs::canonical(base).string() + "\n-xe -nobasic -run PLIKI/TEST.XEX\n";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(root / "wywolanie").size() == called.size(); }));
+    EXPECT_EQ(readFile(root / "wywolanie"), Bajty(called.begin(), called.end()));
+    qputenv("PATH", path);
 
     startDetached(base / "PLIKI/BRAK.BAT"); // nothing happens, nothing is created
     EXPECT_FALSE(fs::exists(base / "PLIKI/BRAK.BAT"));
