@@ -67,6 +67,43 @@ TEST_F(Archiwum, SaveEndsSilentlyWithoutAllStages) {
     EXPECT_TRUE(shown.empty());
 }
 
+TEST_F(Archiwum, LoadThatBreaksOffLosesNoStageOfTheArchive) {
+    start();
+    Bajty archive(60, ' ');
+    for (int number = 1; number <= ETAPY_COUNT; ++number) {
+        const Bajty image = sampleEtap(33 - number);
+        archive.insert(archive.end(), image.begin(), image.end());
+    }
+    writeFile(root / "x.dpa", archive);
+    fs::remove(etap(20));
+    fs::create_directory(etap(20));
+    chosen = root / "x.dpa";
+    SelectEtapNR(e, 6);
+    cmdLoadArch_Click(e);
+    EXPECT_EQ(readFile(etap(7)), sampleEtap(26));
+    EXPECT_EQ(e.obrazEtapu, sampleEtap(7)) << "the editor never came to the archive's stage";
+    SelectEtapNR(e, 0);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.7.kopia"), sampleEtap(26));
+}
+
+TEST_F(Archiwum, SavedOverTheEditorsOwnFilesIsKept) {
+    start();
+    chosen = etap(1);
+    cmdSaveArch_Click(e);
+    const Bajty archive = readFile(etap(1));
+    SelectEtapNR(e, 1);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.1.kopia"), archive);
+    chosen = base / "PLIKI/DP1.DTA";
+    cmdSave_Click(e);
+    Form_QueryUnload(e);
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia"), sampleEtap(2));
+    chosen = etap(2);
+    cmdSave_Click(e);
+    cell(3, 3) = BOMBA;
+    Form_QueryUnload(e);
+    EXPECT_EQ(namesIn("ETAPY").size(), 33U) << "the stage saved over its own file needs no copy";
+}
+
 TEST_F(Archiwum, LoadKeepsDamagedStageFilesAsideAndMayRefuseAField) {
     start();
     Bajty archive(ARCHIWUM_SIZE_BYTES, 7);

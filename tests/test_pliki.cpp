@@ -1,10 +1,6 @@
-#include "awaria.h"
 #include "pulpit.h"
 
-#include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
 namespace dorva::test {
 namespace {
@@ -39,6 +35,48 @@ TEST_F(Pliki, ReadNeverHangsAndCreatesTheMissing) {
     EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, root, 1));
     EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, root / "nowy", 1));
     EXPECT_EQ(lengthOf(SYSTEM_PLIKOW, root / "nowy"), 0U);
+}
+
+// One call that fails, by name.
+template <class Call> SystemPlikow without(Call call) {
+    SystemPlikow system = SYSTEM_PLIKOW;
+    call(system);
+    return system;
+}
+
+TEST_F(Pliki, WhatIsNotOnDiskIsNotWritten) {
+    writeFile(root / "plik", {1});
+    const auto unflushed = without([](SystemPlikow& s) { s.fsync = [](int) { return -1; }; });
+    const auto unclosed = without([](SystemPlikow& s) { s.close = [](int file) { return ::close(file), -1; }; });
+    for (const SystemPlikow& system : {unflushed, unclosed})
+        EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{2}));
+    EXPECT_EQ(readFile(root / "plik"), Bajty{1});
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 2U);
+}
+
+TEST_F(Pliki, FileSystemsWithoutModeBitsOrHardLinks) {
+    const auto system = without([](SystemPlikow& s) {
+        s.fchmod = [](int, ::mode_t) { return errno = EPERM, -1; };
+        s.link = [](const char*, const char*) { return errno = EPERM, -1; };
+    });
+    ::umask(022);
+    writeFile(root / "plik", {1});
+    ASSERT_TRUE(writeKeepingOld(system, root / "plik", Bajty{2}));
+    EXPECT_EQ(readFile(root / "plik.kopia"), Bajty{1});
+    fs::permissions(root / "plik", fs::perms(0600));
+    EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{3})) << "a private file never becomes a public one";
+    EXPECT_EQ(readFile(root / "plik"), Bajty{2});
+}
+
+TEST_F(Pliki, ListingThatBreaksOffGivesNoNames) {
+    writeFile(root / "a.ND", {});
+    writeFile(root / "b.ND", {});
+    static int entries = 0;
+    const auto system = without([](SystemPlikow& s) {
+        s.readdir = [](::DIR* folder) { return ++entries == 4 ? (errno = EIO, nullptr) : ::readdir(folder); };
+    });
+    EXPECT_TRUE(listNames(system, root, ".ND").empty());
+    EXPECT_EQ(listNames(system, root, ".ND").size(), 2U);
 }
 
 TEST_F(Pliki, StartSweepsLeftovers) {

@@ -1,5 +1,8 @@
+#include "output/narzedzia.h"
+#include "output/obraz_gry.h"
 #include "pulpit.h"
 #include "shell/pola.h"
+#include "stage/archiwum.h"
 
 namespace dorva::test {
 namespace {
@@ -68,12 +71,42 @@ TEST_F(Start, TitleLinesOfOtherLengths) {
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia"), Bajty(20, 'Q'));
 }
 
+TEST_F(Start, HooksThatThrowOrAreMissingAnswerLikeACancel) {
+    const auto fail = [](auto&&...) -> bool { throw std::runtime_error("hook"); };
+    for (bool missing : {false, true}) {
+        e = Edytor{};
+        if (!missing) {
+            e.haki.messageBox = fail;
+            e.haki.openDialog = e.haki.saveDialog = [&](const DialogPliku&) { return fail(), std::nullopt; };
+            e.haki.startProgram = [&](const fs::path&, OknoProgramu) { fail(); };
+            e.haki.loadPicture = [&](const fs::path&, int, int) { return fail(), std::nullopt; };
+        }
+        start();
+        cell(5, 5) = BOMBA;
+        for (auto operation : {cmdSave_Click, cmdLoad_Click, cmdSaveArch_Click, cmdLoadArch_Click, cmdCreate_Click,
+                               cmdTest_Click, cmdCzysc_Click, RunEmulator, cmdORN_Click})
+            operation(e);
+        EXPECT_EQ(cell(5, 5), BOMBA) << "nothing was cleared";
+        Form_QueryUnload(e);
+        EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 205], 14);
+    }
+}
+
+TEST_F(Start, RelativeProgramFolder) {
+    fs::current_path(root);
+    Form_Load(e, base.filename(), "1.0.2");
+    EXPECT_EQ(e.obrazEtapu, sampleEtap(1));
+    EXPECT_EQ(e.OstatniaSciezka, fs::canonical(root));
+}
+
 TEST_F(Start, EmptiedBoxIsRefilledAndLeavingFitsTheText) {
     start();
     const unsigned before = e.okno.txtAutor.zaznaczenia;
     txt_Change(e, Pole::Autor, {});
     EXPECT_EQ(e.okno.txtAutor.tekst, Tekst::spaces(64));
     EXPECT_EQ(e.okno.txtAutor.zaznaczenia, before + 1);
+    txt_Change(e, Pole::Nazwa, {std::string(33, 'A')});
+    EXPECT_EQ(e.okno.txtNazwa.tekst.size(), 32U);
     txt_Change(e, Pole::AutorGry1, {"za\xBF\xF3\xB3\xE6"});
     txt_LostFocus(e, Pole::AutorGry1);
     EXPECT_EQ(e.okno.txtAutorGry[1].tekst.znaki, "ZA\xAF\xD3\xA3\xC6" + std::string(14, ' '));

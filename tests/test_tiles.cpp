@@ -74,6 +74,9 @@ TEST_F(Tiles, StripsOfOtherSizes) {
     EXPECT_EQ(pixel({1, DORVA}), 0U);
     EXPECT_EQ(e.zestawy.find({2, DORVA}), nullptr);
     EXPECT_EQ(e.okno.optObiektyNR, 1) << "start-up goes on";
+    strips["FNT11.ORN.ND.TILES.BMP"].piksele.pop_back();
+    cmdReload_Click(e);
+    EXPECT_EQ(pixel({1, znak(2)}, 5), 0xFF080002U) << "a picture that is not whole changes nothing";
 }
 
 TEST_F(Tiles, ReloadTakesNewColoursOfTheWorldOnShow) {
@@ -107,6 +110,13 @@ TEST_F(Tiles, PaletteFileOrBuiltInTable) {
     writeFile(base / "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY", Bajty(4, 99));
     LoadKolory(e, 0);
     EXPECT_EQ(e.KoloryDomyslne[0][4], 10);
+    const auto third = base / "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND.KOLORY";
+    fs::remove(third);
+    LoadKolory(e, 2);
+    EXPECT_FALSE(fs::exists(third)) << "asked for first";
+    LoadZestaw(e, base / "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND", 2);
+    EXPECT_EQ(fs::file_size(third), 0U) << "opened at once";
+    EXPECT_EQ(e.KoloryDomyslne[2][4], 30);
 }
 
 TEST_F(Tiles, PaletteDialogWritesTheChosenSlot) {
