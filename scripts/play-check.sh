@@ -229,6 +229,62 @@ check_small_machine() {
     expect "a machine of 64 KB is told what is missing" "$(came_to)" stoj
 }
 
+# --- pictures -------------------------------------------------------------------------------------------------------
+
+look() { # look NAME: lets the program go on and takes a picture a second later
+    echo "!(sleep 1; import -window root -crop 672x480+0+0 +repage $work/$1.png) &"
+}
+
+watch() { # watch FILE: at the pace of the real machine, on a display of its own
+    SDL_AUDIODRIVER=dummy emulate "$1" -xe -pal -win-width 672 -win-height 480
+}
+
+keep() { # keep NAME [OPERATION...]: a picture for the documentation
+    name=$1
+    shift
+    convert "$work/$name.png" "$@" +dither -colors 64 -define png:compression-level=9 "PNG8:docs/obrazy/gra-$name.png"
+    echo "picture: docs/obrazy/gra-$name.png"
+}
+
+take_pictures() {
+    command -v Xvfb >/dev/null && command -v convert >/dev/null || { echo "pictures: skipped, no Xvfb or ImageMagick"; return; }
+    Xvfb -displayfd 3 -noreset -screen 0 1024x768x24 3>"$work/display" 2>/dev/null &
+    xvfb=$!
+    while [ ! -s "$work/display" ]; do sleep 0.1; done
+    DISPLAY=:$(cat "$work/display")
+    export DISPLAY
+    mkdir -p docs/obrazy
+
+    record "$start" "$(run_of 1)" -100 "$(run_of 2)" -400 >"$work/input"
+    {
+        until_at wcisniete && look tytul && until_at graj
+        until_at otworz && look wyjscie && until_at policz_energie
+        until_at powitaj && until_at otworz && until_at policz_energie && echo QUIT
+    } >"$work/commands"
+    watch "$PWD/$game"
+    for name in tytul wyjscie; do keep "$name"; done
+
+    test_build "$stages/DETAP.2" "$work/test.xex"
+    record "$start" "$(run_of 2)" -400 F10 -60 >"$work/input"
+    { until_at ekran_wygranej && look wygrana && until_at rysuj_tytul && echo QUIT; } >"$work/commands"
+    watch "$work/test.xex"
+    keep wygrana
+
+    record -9000 >"$work/input"
+    {
+        until_at wcisniete
+        for stage in $(seq 32); do
+            printf 'BPC %s\nC %s %X\nCONT %s\n' "$(at powitaj)" "$(at numer_etapu)" "$stage" "$(at graj)"
+            look "etap$stage" && until_at graj_etap
+        done
+        echo QUIT
+    } >"$work/commands"
+    watch "$PWD/$game"
+    for stage in 8 14 24; do keep "etap$stage"; done
+    (cd "$work" && montage $(seq -f etap%g.png 32) -sample 50% -tile 4x8 -geometry +2+2 etapy.png)
+    keep etapy
+}
+
 check_title
 check_runs -pal
 check_runs -ntsc
@@ -238,4 +294,4 @@ check_all_stages
 check_empty_board
 check_reset
 check_small_machine
-[ "$pictures" = yes ] || exit 0
+[ "$pictures" = no ] || take_pictures

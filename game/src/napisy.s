@@ -2,7 +2,7 @@
 ; a c e l n o s x z for A C E L N O S Z Z with their marks.
 .include "atari.inc"
 .include "reguly.inc"
-.export pisz, dwie_cyfry, komunikaty_lo, komunikaty_hi
+.export pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi
 .export t_grasz, t_klawisze1, t_klawisze2, t_klawisze3, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 .export t_etap_nr, t_nowy
 .exportzp napis
@@ -28,7 +28,7 @@ t_klawisze1: tekst "JOYSTICK - RUCH   FIRE - BOMBA"
 t_klawisze2: tekst "SELECT - OD NOWA  OPTION - PAUZA"
 t_klawisze3: tekst "ESC - KONIEC GRY"
 t_koniec:    tekst "KONIEC GRY"
-t_wynik:     tekst "PUNKTY "
+t_wynik:     tekst "PUNKTY 000000"
 t_wygrana:   tekst "GRATULACJE!"
 t_wygrana2:  tekst "DORVA PRZESZlA OSTATNI ETAP"
 t_brak:      tekst "NA PLANSZY NIE MA DORVY"
@@ -68,6 +68,23 @@ pisz:   sta miejsce
         bne @znak
 @koniec:
         rts
+
+; Writes the text at A (low), X (high) in the middle of the 40 columns from napis on.
+pisz_srodkiem:
+        sta miejsce
+        stx miejsce+1
+        ldy #0
+        lda #40
+        sec
+        sbc (miejsce),y
+        lsr
+        clc
+        adc napis
+        sta napis
+        bcc :+
+        inc napis+1
+:       lda miejsce
+        jmp pisz
 
 ; A (0..99) as two digits: tens in X, ones in A, as screen codes. Above 99 it shows 99.
 dwie_cyfry:

@@ -9,7 +9,7 @@
 .export zacznij_panel, rysuj_panel, info_powitanie, info_komunikat, info_takt
 .importzp energia, zycia, klucze, bomby, brak_masek, komunikat, numer_etapu, napis
 .import punkty, panel_symboli, panel_cyfr, linia_info, powitanie
-.import pisz, dwie_cyfry, komunikaty_lo, komunikaty_hi, t_etap_nr
+.import pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi, t_etap_nr
 
 K_ETAP    = 0
 K_KLUCZE  = 3
@@ -143,7 +143,7 @@ info_powitanie:
         bpl @znak
         rts
 
-; Shows the message komunikat for a while.
+; Shows the message komunikat in the middle of the line for a while.
 info_komunikat:
         jsr czysc_info
         lda #CZAS_KOMUNIKATU
@@ -153,7 +153,7 @@ info_komunikat:
         sta komunikat
         lda komunikaty_lo,y
         ldx komunikaty_hi,y
-        jmp pisz
+        jmp pisz_srodkiem
 
 ; Every tick: a new message appears, an old one gives way to the greeting.
 info_takt:

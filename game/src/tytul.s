@@ -6,7 +6,7 @@
 .include "reguly.inc"
 .export tytul, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
-.import tytuly, ekran, logo, punkty, pisz, dwie_cyfry, czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
+.import tytuly, ekran, logo, punkty, pisz_srodkiem, dwie_cyfry, czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
 .import t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
 .import t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 
@@ -18,15 +18,15 @@ W_LEWO    = %1000
 W_PRAWO   = %0100
 LOGO_TLO  = 3                           ; screen column of the first letter's left edge
 
-; writes a text at a row and column of the text screen
-.macro pisz_w wiersz, kolumna, tekst
-        lda #<(ekran + wiersz * 40 + kolumna)
+; writes a text in the middle of a row of the text screen
+.macro pisz_w wiersz, tekst
+        lda #<(ekran + wiersz * 40)
         sta napis
-        lda #>(ekran + wiersz * 40 + kolumna)
+        lda #>(ekran + wiersz * 40)
         sta napis+1
         lda #<tekst
         ldx #>tekst
-        jsr pisz
+        jsr pisz_srodkiem
 .endmacro
 
 .segment "RODATA"
@@ -90,22 +90,22 @@ rysuj_tytul:
         jsr czysc_tekst
         jsr rysuj_logo
         jsr pisz_linie
-        pisz_w 8, 14, t_nowy
+        pisz_w 8, t_nowy
         lda numer_etapu
         jsr dwie_cyfry
         stx ekran + 8 * 40 + 21
         sta ekran + 8 * 40 + 22
-        pisz_w 10, 10, t_grasz
-        pisz_w 12, 5, t_klawisze1
-        pisz_w 13, 4, t_klawisze2
-        pisz_w 14, 12, t_klawisze3
+        pisz_w 10, t_grasz
+        pisz_w 12, t_klawisze1
+        pisz_w 13, t_klawisze2
+        pisz_w 14, t_klawisze3
         jmp pokaz_tekst
 
 ; Game over.
 ekran_konca:
         jsr czysc_tekst
         jsr rysuj_logo
-        pisz_w 4, 15, t_koniec
+        pisz_w 4, t_koniec
         jsr pisz_wynik
         jmp czekaj_na_gracza
 
@@ -113,16 +113,16 @@ ekran_konca:
 ekran_wygranej:
         jsr czysc_tekst
         jsr rysuj_logo
-        pisz_w 3, 15, t_wygrana
-        pisz_w 5, 7, t_wygrana2
+        pisz_w 3, t_wygrana
+        pisz_w 5, t_wygrana2
         jsr pisz_wynik
         jmp czekaj_na_gracza
 
 ekran_bez_dorvy:
         jsr czysc_tekst
         jsr rysuj_logo
-        pisz_w 4, 9, t_brak
-        pisz_w 6, 2, t_brak2
+        pisz_w 4, t_brak
+        pisz_w 6, t_brak2
 ; Shows the screen until fire or START.
 czekaj_na_gracza:
         jsr pokaz_tekst
@@ -145,7 +145,7 @@ wcisniete:
         rts
 
 pisz_wynik:
-        pisz_w 8, 13, t_wynik
+        pisz_w 8, t_wynik
         ldx #0
         ldy #0
 @cyfry: lda punkty,x
