@@ -1,13 +1,13 @@
 /* Plays a recorded run: `odtworz STAGE RUN`. STAGE is a stage file of 931 bytes. RUN is text: tokens of letters and
    a number of ticks, say `R12 D6 F1 -30`: L R U D is the stick, F the trigger, - neither. Prints how the run ends, and
    the board if the stage isn't finished by it. Ends with 0 if she has gone through the exit. */
+#include "reguly.h"
 #include <ctype.h>
 #include <fcntl.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 #include <unistd.h>
-#include "reguly.h"
 
 enum { ETAP_PLANSZA = 32, ETAP_CEL = 832, ETAP_BAJTY = 931 };
 
@@ -34,11 +34,21 @@ static void zagraj(const char* p) {
         spust = 1;
         for (; *p && !isdigit(*p); ++p)
             switch (*p) {
-            case 'L': drazek &= 15 - LEWO; break;
-            case 'R': drazek &= 15 - PRAWO; break;
-            case 'U': drazek &= 15 - GORA; break;
-            case 'D': drazek &= 15 - DOL; break;
-            case 'F': spust = 0; break;
+            case 'L':
+                drazek &= 15 - LEWO;
+                break;
+            case 'R':
+                drazek &= 15 - PRAWO;
+                break;
+            case 'U':
+                drazek &= 15 - GORA;
+                break;
+            case 'D':
+                drazek &= 15 - DOL;
+                break;
+            case 'F':
+                spust = 0;
+                break;
             }
         for (n = 0; isdigit(*p); ++p)
             n = n * 10 + (*p - '0');
@@ -62,8 +72,8 @@ int main(int argc, char* argv[]) {
         return 1;
     }
     zagraj(przebieg);
-    printf("result %u ticks %u energy %u masks %u keys %u bombs %u at %u,%u\n", wynik, takty, energia, brak_masek, klucze,
-           bomby, dorva_x, dorva_y);
+    printf("result %u ticks %u energy %u masks %u keys %u bombs %u at %u,%u\n", wynik, takty, energia, brak_masek,
+           klucze, bomby, dorva_x, dorva_y);
     if (wynik == ETAP_PRZESZLA)
         return 0;
     for (i = 0; i < POLA; ++i)

@@ -1,8 +1,8 @@
 /* Tests of the rules. `testy GROUP` runs one group and ends with the number of failed checks. */
+#include "reguly.h"
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
-#include "reguly.h"
 
 static unsigned bledy;
 
@@ -44,8 +44,12 @@ static byte uloz3(byte cel, const char* a, const char* b, const char* c) {
     return uloz(w1, 3, cel);
 }
 
-static byte pole(byte w, byte k) { return plansza[w * KOLUMNY + k]; }
-static byte tu(byte w, byte k) { return dorva_y == w && dorva_x == k; }
+static byte pole(byte w, byte k) {
+    return plansza[w * KOLUMNY + k];
+}
+static byte tu(byte w, byte k) {
+    return dorva_y == w && dorva_x == k;
+}
 
 static void takty(unsigned n) {
     while (n--)
@@ -57,11 +61,21 @@ static void idz(const char* ruchy) {
     for (; *ruchy; ++ruchy) {
         drazek = 15;
         switch (*ruchy) {
-        case 'L': drazek = 15 - LEWO; break;
-        case 'R': drazek = 15 - PRAWO; break;
-        case 'U': drazek = 15 - GORA; break;
-        case 'D': drazek = 15 - DOL; break;
-        case 'B': spust = 0; break;
+        case 'L':
+            drazek = 15 - LEWO;
+            break;
+        case 'R':
+            drazek = 15 - PRAWO;
+            break;
+        case 'U':
+            drazek = 15 - GORA;
+            break;
+        case 'D':
+            drazek = 15 - DOL;
+            break;
+        case 'B':
+            spust = 0;
+            break;
         }
         takt();
         spust = 1;
@@ -185,6 +199,9 @@ static void branie(void) {
     CHECK(pole(1, 3) == 35 && tu(1, 2));
     takty(2000);
     CHECK(pole(1, 3) == 0 && pole(1, 4) != 35 && pole(1, 5) != 35);
+    uloz3(1, "Dwfzwz", "", ""); /* a painted fire burns for ever and takes the thicket beside it */
+    takty(4000);
+    CHECK(pole(1, 3) == 35 && pole(1, 4) == 0 && pole(1, 6) == 8);
 }
 
 static void pchanie(void) {
@@ -204,6 +221,9 @@ static void pchanie(void) {
     idz("UU");
     CHECK(tu(1, 1) && energia == 99);
     uloz1(1, "DS^ "); /* a trap is shut by it */
+    idz("RRR");
+    CHECK(tu(1, 3) && energia == 99 && pole(1, 4) == 15);
+    uloz1(1, "DSf "); /* a fire is put out */
     idz("RRR");
     CHECK(tu(1, 3) && energia == 99 && pole(1, 4) == 15);
     uloz1(1, "DS,."); /* what lay beneath comes back */
@@ -234,6 +254,11 @@ static void bomby_i_mury(void) {
     idz("RBR");
     takty(110);
     CHECK(energia == 99 - 35);
+
+    uloz3(1, "E.M", "+QK", "oeD"); /* nothing that a stage needs is lost */
+    takty(200);
+    CHECK((pole(1, 1) & 127) == 9 && pole(1, 2) == 0 && pole(1, 3) == 12 && pole(2, 1) == 10 && pole(2, 3) == 13 &&
+          pole(3, 1) == 55 && pole(3, 2) == 16);
 
     uloz3(1, " QB$", "O|*L", "D   "); /* a chain; blocks crack; coins and walls stay; creatures score */
     takty(260);
@@ -283,10 +308,21 @@ static void wedrowcy(void) {
     CHECK(pole(1, 1) == 25);
 
     uloz3(1, "!...", "....", "D|||"); /* a ghost passes earth and leaves it whole */
-    takty(500);
+    for (prawy = 0, i = 0; i < 100; ++i) {
+        takty(9);
+        prawy |= pole(1, 3) == 24 || pole(2, 2) == 24;
+    }
+    CHECK(prawy);
     for (lewy = 0, i = 0; i < 4; ++i)
         lewy += (pole(1, 1 + i) == 1) + (pole(2, 1 + i) == 1);
     CHECK(lewy == 7 - (pole(1, 1) != 24));
+
+    uloz1(1, "Di!|");
+    idz("RRRR");
+    CHECK(pochodnia && energia == 99); /* a torch keeps it away */
+    uloz3(1, "R   s", "|||||", "D");   /* a statue is no heroine */
+    takty(9 * 20);
+    CHECK(energia == 99);
 
     uloz3(1, "D      ", "T| || |", "       "); /* a tracker takes her way, round the corner */
     idz("RRRDDRRR");
@@ -296,13 +332,15 @@ static void wedrowcy(void) {
 
 static void strzelanie(void) {
     byte i, byl = 0;
-    uloz3(1, "  ,    ", " *  D  ", "       ");
+    uloz3(1, " ,     ", " *  D  ", "       ");
     for (i = 0; i < 40; ++i) {
         takty(9);
-        byl |= pole(2, 3) == 20;
+        byl |= (pole(2, 3) == 20) + 2 * (pole(1, 2) == 21) + 4 * (pole(2, 1) == 19) + 8 * (pole(3, 2) == 22);
     }
-    CHECK(byl && energia < 99);
-    CHECK(pole(1, 3) == 3);
+    CHECK(byl == 15 && energia < 99);
+    maszyna_stoi = 1;
+    takty(90);
+    CHECK(pole(1, 2) == 3 && pole(2, 3) == 0);
 
     uloz3(1, "       ", " *  D  ", "@      "); /* the machine stops emitters */
     maszyna_stoi = 1;
@@ -417,11 +455,14 @@ static void losowe(void) {
             wynik = 0;
         }
         CHECK(i == 3000);
-        for (i = 0; i < 256 && przed[i] == 0xC3; ++i) {}
+        for (i = 0; i < 256 && przed[i] == 0xC3; ++i) {
+        }
         CHECK(i == 256);
-        for (i = 0; i < 224 && za[i] == 0xC3; ++i) {}
+        for (i = 0; i < 224 && za[i] == 0xC3; ++i) {
+        }
         CHECK(i == 224);
-        for (i = POLA; i < 1024 && !pod[i] && !stan[i] && !zapach[i]; ++i) {}
+        for (i = POLA; i < 1024 && !pod[i] && !stan[i] && !zapach[i]; ++i) {
+        }
         CHECK(i == 1024);
         for (i = 0; i < POLA; ++i)
             if ((i < 40 || i >= 760 || i % 40 == 0 || i % 40 == 39) && plansza[i] != brzeg[i])
