@@ -4,6 +4,7 @@
 #include "shell/start.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QScreen>
 
 namespace {
@@ -16,6 +17,13 @@ std::filesystem::path ownFolder() {
                  : executable.parent_path();
 }
 
+QIcon ownIcon() {
+    QIcon icon;
+    for (int size : {16, 32, 48, 64, 128, 256})
+        icon.addFile(QString(":/ikona%1.png").arg(size), QSize(size, size));
+    return icon;
+}
+
 void centre(QWidget& window) {
     if (const QScreen* screen = window.screen())
         window.move(screen->availableGeometry().center() - window.rect().center());
@@ -26,6 +34,7 @@ void centre(QWidget& window) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     dorva::setUpApplication(application);
+    QApplication::setWindowIcon(ownIcon());
 
     dorva::Edytor edytor;
     dorva::OknoGlowne okno(edytor);

@@ -65,8 +65,8 @@ void drawObrys(QPainter& painter, QRect rect) {
     painter.drawRect(rect);
 }
 
-void drawBorder(QPainter& painter, QRect rect) {
-    painter.setPen(QColor(0x40, 0x40, 0x40));
+void drawBorder(QPainter& painter, QRect rect, QColor colour) {
+    painter.setPen(colour);
     painter.drawRect(rect.adjusted(0, 0, -1, -1));
 }
 
@@ -190,7 +190,7 @@ void WyborWidget::showOkno(const Okno& okno, Obrazki& obrazki) {
     for (int slot : WYBOR_ORDER) {
         const QRect rect = slotRect(slot);
         painter.drawImage(rect.topLeft() + QPoint(1, 1), imageOver(obrazki[refs_[static_cast<std::size_t>(slot)]]));
-        drawBorder(painter, rect);
+        drawBorder(painter, rect, QColor::fromRgb(SZARY)); // tells dark tiles apart as well as light ones
     }
     update();
 }
@@ -268,7 +268,7 @@ void ObrazWidget::paintEvent(QPaintEvent*) {
         painter.drawImage(rect(), imageOver(obrazek));
     } else
         painter.drawImage(QPoint(0, 0), smallImageOver(obrazek));
-    drawBorder(painter, rect());
+    drawBorder(painter, rect(), Qt::black);
 }
 
 } // namespace dorva
