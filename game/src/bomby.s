@@ -2,7 +2,7 @@
 .include "reguly.inc"
 .export odpalona, epicentrum, wybuch
 .importzp wsk, wpod, wstan, kod, kolej
-.import cechy, zbadaj, licznik, ustaw_licznik, zran, zwroc_pole, zglos_efekt, dodaj_punkty
+.import zbadaj, licznik, ustaw_licznik, zran, zwroc_pole, zglos_efekt, dodaj_punkty
 
 LONT      = 9                           ; turns that a fuse burns
 

@@ -6,7 +6,7 @@
 .importzp drazek, spust, wsk, wpod, wstan, wzap, kolej, maszyna_stoi, pochodnia, otwarte
 .importzp wynik, efekt, komunikat, energia, zycia, klucze, bomby, monety, brak_masek, po_przeskoku
 .import punkty
-.import plansza, stan, sasiad, delta_lo, delta_hi, wskaz_pole, przejdz, przesun, zapal
+.import plansza, sasiad, delta_lo, delta_hi, wskaz_pole, przejdz, przesun, zapal
 
 KIERUNKI_DRAZKA = 4
 MONETY_NA_ZYCIE = 20
@@ -202,7 +202,7 @@ sprawdz_spust:
         sta (wpod),y
         lda kolej
         sta (wstan),y
-        dzwiek EF_STUK
+        dzwiek EF_BOMBA
         rts
 @brak:  powiedz KOM_BOMBA
         rts

@@ -7,7 +7,7 @@
 .include "reguly.inc"
 .export zacznij_ekran, pokaz_plansze, pokaz_tekst, czekaj_klatke, czekaj_klatki, czysc_tekst
 .export ekran, logo, linia_info, panel_symboli, panel_cyfr, kolory
-.import plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek
+.import plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
 
 .segment "EKRANY"
 logo:   .res LOGO_WIERSZE * 40          ; tiles above the text
@@ -161,12 +161,13 @@ czekaj_klatki:
         bne czekaj_klatki
         rts
 
-; Every frame: the interrupts start anew, the sound goes on.
+; Every frame: the interrupts start anew, effects and tune go on.
 klatka: lda po_liscie
         sta VDSLST
         lda po_liscie+1
         sta VDSLST+1
         jsr graj_dzwiek
+        jsr graj_muzyke
         jmp XITVBV
 
 .macro nastepne_dli adres

@@ -66,7 +66,8 @@ wczytaj_etap:
         iny
         cpy #POLA - 768
         bne @reszta
-        lda (rekord),y                  ; ETAP_CEL and what follows
+        .assert ETAP_CEL = ETAP_PLANSZA + POLA && ETAP_NAZWA = ETAP_SWIAT + 1, error, "read in one sweep"
+        lda (rekord),y                  ; the goal, the flag, the world, the greeting
         sta cel_masek
         iny
         lda (rekord),y

@@ -5,7 +5,7 @@
 .importzp numer_etapu, drazek, spust, wynik, efekt, energia, zycia, komunikat
 .import wczytaj_etap, ostatni, punkty, punkty_na_starcie, nowa_gra, reguly_start, takt, rysuj_dorve
 .import pokaz_plansze, czekaj_klatke, czekaj_klatki, zacznij_panel, rysuj_panel, info_powitanie, info_takt
-.import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, dodaj_punkty
+.import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, ucisz_muzyke, dodaj_punkty
 
 CZAS_POWITANIA = 120                    ; frames that a stage waits before it begins by itself
 CZAS_SMIERCI = 80
@@ -21,7 +21,8 @@ licznik: .res 1
 .segment "CODE"
 
 ; Plays from stage numer_etapu on, to the end of the game.
-graj:   jsr nowa_gra
+graj:   jsr ucisz_muzyke
+        jsr nowa_gra
 @etap:  ldx #2
 @punkty:
         lda punkty,x

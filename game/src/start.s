@@ -1,7 +1,7 @@
 ; The entry: takes the machine over, then title and game by turns.
 .include "atari.inc"
 .export start
-.import zrob_czcionki, zacznij_ekran, cisza, tytul, graj
+.import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj
 
 .segment "CODE"
 start:  ldx #$FF
@@ -22,6 +22,7 @@ start:  ldx #$FF
         lda #0
         sta COLDST
         jsr cisza
+        jsr ucisz_muzyke
         jsr zrob_czcionki
         jsr zacznij_ekran
 @petla: jsr tytul

@@ -1,7 +1,7 @@
 ; Emitters and their rays, those who throw and spit, and what they throw.
 .include "reguly.inc"
 .export promiennik, promien, miotnik, miotacz, plujka, strzalka, kamyk
-.importzp wsk, wstan, kod, kolumna, wiersz, kolej, dorva_x, dorva_y, maszyna_stoi
+.importzp kod, kolumna, wiersz, dorva_x, dorva_y, maszyna_stoi
 .import sasiad, przejdz, zbadaj, przesun, wstaw, licznik, ustaw_licznik, zran, zwroc_pole, zglos_efekt
 
 TURY_PROMIENNIKA = 14                   ; turns from one flash to the next

@@ -8,7 +8,7 @@
 .exportzp maszyna_stoi, pochodnia, otwarte, po_przeskoku
 .importzp kolej, dorva, ziarno
 .import plansza, pod, stan, zapach, dorva_inv
-.import dorva_takt, podstaw_dorve, policz_wspolrzedne, otworz, rysuj_dorve, ruszaj, nowa_kolej
+.import dorva_takt, podstaw_dorve, policz_wspolrzedne, otworz, ruszaj, nowa_kolej
 
 ZYCIA_NA_START = 3
 

@@ -6,7 +6,8 @@
 .include "reguly.inc"
 .export tytul, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
-.import tytuly, ekran, logo, punkty, pisz_srodkiem, dwie_cyfry, czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
+.import zacznij_muzyke, tytuly, ekran, logo, punkty, pisz_srodkiem, dwie_cyfry
+.import czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
 .import t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
 .import t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 
@@ -16,6 +17,8 @@ ETAPY     = 32
 PROSTO    = %1100                       ; the stick's bits for left and right
 W_LEWO    = %1000
 W_PRAWO   = %0100
+KLATKI_KROKU = 7
+POSCIG    = 5                           ; the tracker's distance
 LOGO_TLO  = 3                           ; screen column of the first letter's left edge
 
 ; writes a text in the middle of a row of the text screen
@@ -44,6 +47,8 @@ bity:   .res 1
 litera: .res 1
 rzad:   .res 1
 byl_drazek: .res 1
+droga:  .res 1          ; how far she has come below the logo
+klatki: .res 1          ; frames until her next step
 poczatek: .res 1
 
 .segment "CODE"
@@ -51,12 +56,17 @@ poczatek: .res 1
 ; The title screen. Returns when the player starts; numer_etapu is the stage that the player has chosen.
 tytul:  lda #1
         sta numer_etapu
+        sta klatki
+        lda #0
+        sta droga
         lda #PROSTO
         sta byl_drazek
+        jsr zacznij_muzyke
 @od_nowa:
         jsr rysuj_tytul
 @czekaj:
         jsr czekaj_klatke
+        jsr idz_pod_logo
         jsr wcisniete
         bne @drazek
         jmp czekaj_na_puszczenie
@@ -125,6 +135,7 @@ ekran_bez_dorvy:
         pisz_w 6, t_brak2
 ; Shows the screen until fire or START.
 czekaj_na_gracza:
+        jsr zacznij_muzyke
         jsr pokaz_tekst
         jsr czekaj_na_puszczenie
 @czekaj:
@@ -216,9 +227,35 @@ rysuj_logo:
         lda rzad
         cmp #5
         bne @rzad
-        lda #DORVA                      ; and herself below it, on her way
-        sta logo + 6 * 40 + 19
         rts
+
+; Below the name the heroine goes her way, and a tracker goes it after her.
+idz_pod_logo:
+        dec klatki
+        bne @nic
+        lda #KLATKI_KROKU
+        sta klatki
+        ldx droga
+        inx
+        cpx #40 + POSCIG
+        bcc :+
+        ldx #0
+:       stx droga
+        lda #0
+        ldy #39
+@czysc: sta logo + (LOGO_WIERSZE - 1) * 40,y
+        dey
+        bpl @czysc
+        cpx #40
+        bcs @tropiciel
+        lda #IDZIE_PRAWO
+        sta logo + (LOGO_WIERSZE - 1) * 40,x
+@tropiciel:
+        cpx #POSCIG
+        bcc @nic
+        lda #TROPICIEL + PRAWO
+        sta logo + (LOGO_WIERSZE - 1) * 40 - POSCIG,x
+@nic:   rts
 
 ; Writes the three lines, each from its start column on, up to the first 155.
 pisz_linie:
