@@ -1,23 +1,23 @@
 #!/bin/sh
-# play-check.sh [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory: title, the
-# recorded runs through stages 1 to 3, dying, the last stage, all 32 stages, a board without a heroine, RESET, a machine
-# of 64 KB. Says so and ends well where there is no emulator. --pictures renews docs/obrazy/gra-*.png (needs Xvfb and
-# ImageMagick).
+# play-check.sh [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory: title,
+# the recorded runs through stages 1 to 3, dying, the last stage, all 32 stages, boards without a heroine and of any
+# bytes, RESET, a machine of 64 KB. Says so and ends well where there is no emulator. --pictures renews
+# docs/obrazy/gra-*.png (needs Xvfb and ImageMagick).
 set -eu
 
 cd "$(dirname "$0")/.."
 pictures=no
 [ "${1-}" != --pictures ] || { pictures=yes && shift; }
 build=${1-build/release}
-game=$build/data/PLIKI/DP2.DTA labels=$build/game/src/szablon.lbl stages=$build/data/ETAPY runs=tests/gra/przejscia
+game=$build/data/PLIKI/DP2.DTA labels=$build/game/src/szablon.lbl
+stages=$build/data/ETAPY tiles=$build/data/OBIEKTY/ORN_EXPORT
+runs=tests/gra/przejscia
 
 command -v atari800 >/dev/null || { echo "play-check: skipped, the emulator atari800 is not installed"; exit 0; }
 [ -f "$game" ] && [ -f "$labels" ] || { echo "play-check: no game in $build; build it first" >&2; exit 1; }
 work=$(mktemp -d)
 xvfb=
 trap 'rm -rf "$work"; [ -z "$xvfb" ] || kill "$xvfb"' EXIT
-
-# --- what the emulator is given -------------------------------------------------------------------------------------
 
 at() { # at LABEL: its address in hexadecimal
     awk -v name=".$1" '$3 == name { sub(/^0+/, "", $2); print $2; exit }' "$labels"
@@ -27,7 +27,8 @@ plus() { # plus ADDRESS BYTES: the address so many bytes on
     printf '%X' $((0x$1 + $2))
 }
 
-# record TOKENS...: a recording of input. A token is letters and a number of frames: L R U D stick, F trigger, - nothing.
+# record TOKENS...: a recording of input. A token is letters and a number of frames: L R U D stick, F trigger,
+# S SELECT, O OPTION, E the key ESC, - nothing.
 record() {
     echo "$*" | awk '
         BEGIN { print "Atari800 event recording, version: 1"; print 10387 }
@@ -35,7 +36,8 @@ record() {
             stick = 255 - ($i ~ /U/) - 2 * ($i ~ /D/) - 4 * ($i ~ /L/) - 8 * ($i ~ /R/)
             match($i, /[0-9]+/)
             for (n = substr($i, RSTART); n > 0; --n)
-                printf "-1 0 7 \n%d \n255 \n%d \n1 \n1 \n1 \n00000000 \n", stick, $i !~ /F/
+                printf "%d 0 %d \n%d \n255 \n%d \n1 \n1 \n1 \n00000000 \n",
+                    ($i ~ /E/) ? 28 : -1, 7 - 2 * ($i ~ /S/) - 4 * ($i ~ /O/), stick, $i !~ /F/
         } }'
 }
 
@@ -87,8 +89,6 @@ test_build() {
     patch "$2" 116224 7 52 37 51 52 0 37 52 33 48 53 155 155 155 155 155 155 155 155 155 155 155
 }
 
-# --- what is expected -----------------------------------------------------------------------------------------------
-
 bytes() { # bytes FILE OFFSET COUNT: in decimal, on one line
     od -An -v -tu1 -j "$2" -N "$3" "$1" | tr -s ' \n' ' ' | sed 's/^ //; s/ $//'
 }
@@ -104,8 +104,18 @@ expect() { # expect WHAT IS SHOULD_BE
 
 came_to() { # the labels at which the program stopped, in order
     awk -v labels="$labels" '
-        BEGIN { while ((getline line < labels) > 0) { split(line, f, " "); sub(/^0+/, "", f[2]); names[f[2]] = f[3] } }
-        /^\(breakpoint at/ { gsub(/^0+|\)/, "", $3); printf "%s%s", sep, substr(names[$3], 2); sep = " " }' "$work/log"
+        BEGIN {
+            while ((getline line < labels) > 0) {
+                split(line, field, " ")
+                sub(/^0+/, "", field[2])
+                names[field[2]] = field[3]
+            }
+        }
+        /^\(breakpoint at/ {
+            gsub(/^0+|\)/, "", $3)
+            printf "%s%s", sep, substr(names[$3], 2)
+            sep = " "
+        }' "$work/log"
 }
 
 title_lines() { # the bytes that the three title lines of FILE put on the text screen, from column 8 on
@@ -144,7 +154,8 @@ check_runs() { # check_runs OPTION: PAL or NTSC
     one="graj_etap otworz policz_energie"
     expect "stages 1 to 3 are entered, their exits open, she goes through ($1)" "$(came_to)" "$one $one $one graj_etap"
     for stage in 1 2 3; do
-        expect "stage $stage: no mask is missing" "$(bytes "$work/masks$stage" 0 1) $(bytes "$work/stage$stage" 0 1)" "0 $stage"
+        expect "stage $stage: no mask is missing" \
+            "$(bytes "$work/masks$stage" 0 1) $(bytes "$work/stage$stage" 0 1)" "0 $stage"
     done
     expect "stage 4 follows" "$(bytes "$work/stage4" 0 1)" 4
 }
@@ -161,7 +172,19 @@ check_dying() { # she steps into a fire and stays there, three times
     } >"$work/commands"
     play "$work/ogien.xex" -xe
     expect "three tries, then the end of the game" "$(came_to)" "graj_etap graj_etap graj_etap ekran_konca wcisniete"
-    expect "a life is lost each time" "$(bytes "$work/lives3" 0 1) $(bytes "$work/lives2" 0 1) $(bytes "$work/lives1" 0 1)" "3 2 1"
+    expect "a life is lost each time" \
+        "$(for lives in 3 2 1; do bytes "$work/lives$lives" 0 1 | tr -d '\n'; done)" 321
+}
+
+check_keys() { # a pause of half a minute, the stage anew, the end of the game
+    record "$start" R7 O5 -1500 O5 R60 S5 -120 R7 -30 E5 -200 >"$work/input"
+    {
+        until_at graj_etap && until_at puszczone && until_at takt
+        until_at graj_etap && dump zycia 1 lives && until_at ekran_konca && echo QUIT
+    } >"$work/commands"
+    play "$PWD/$game" -xe
+    expect "pause, SELECT and ESC" "$(came_to)" "graj_etap puszczone takt graj_etap ekran_konca"
+    expect "SELECT costs a life" "$(bytes "$work/lives" 0 1)" 2
 }
 
 check_test_build() {
@@ -193,7 +216,7 @@ check_all_stages() {
         [ "$(bytes "$work/plansza$stage" 0 800)" = "$(bytes "$file" 32 800)" ] || same="$same board"
         [ "$(bytes "$work/kolory$stage" 0 12)" = "$(bytes "$file" 16 12)" ] || same="$same colours"
         [ "$(bytes "$work/linia$stage" 8 32)" = "$(bytes "$file" 835 32)" ] || same="$same greeting"
-        [ "$(bytes "$work/zestaw$stage" 0 512)" = "$(bytes "$build/data/OBIEKTY/ORN_EXPORT/FNT${world}1.ORN.ND" 0 512)" ] ||
+        [ "$(bytes "$work/zestaw$stage" 0 512)" = "$(bytes "$tiles/FNT${world}1.ORN.ND" 0 512)" ] ||
             same="$same tiles"
         [ -z "$same" ] || expect "stage $stage as it was painted" "other:$same" "the same"
     done
@@ -208,6 +231,20 @@ check_empty_board() {
     { until_at ekran_bez_dorvy && until_at rysuj_tytul && echo QUIT; } >"$work/commands"
     play "$work/pusta.xex" -xe
     expect "a board without a heroine: a word, then the title" "$(came_to)" "ekran_bez_dorvy rysuj_tytul"
+}
+
+check_any_bytes() { # stages of 931 bytes as they come, but for the heroine: the game lives and still takes ESC
+    for seed in 1 2 3; do
+        cp "$stages/DETAP.1" "$work/etap"
+        patch "$work/etap" 0 $(awk -v x="$seed" 'BEGIN {
+            for (i = 0; i < 931; ++i) { x = (x * 16807) % 2147483647; print int(x / 128) % 256 } }')
+        patch "$work/etap" 452 63
+        test_build "$work/etap" "$work/byle.xex"
+        record "$start" R50 D50 L90 U50 F3 R200 D60 F3 L60 U300 F10 R60 E5 -300 >"$work/input"
+        { until_at ekran_konca && until_at wcisniete && echo QUIT; } >"$work/commands"
+        play "$work/byle.xex" -xe
+        expect "any bytes are a stage ($seed)" "$(came_to)" "ekran_konca wcisniete"
+    done
 }
 
 check_reset() {
@@ -229,8 +266,6 @@ check_small_machine() {
     expect "a machine of 64 KB is told what is missing" "$(came_to)" stoj
 }
 
-# --- pictures -------------------------------------------------------------------------------------------------------
-
 look() { # look NAME: lets the program go on and takes a picture a second later
     echo "!(sleep 1; import -window root -crop 672x480+0+0 +repage $work/$1.png) &"
 }
@@ -247,7 +282,10 @@ keep() { # keep NAME [OPERATION...]: a picture for the documentation
 }
 
 take_pictures() {
-    command -v Xvfb >/dev/null && command -v convert >/dev/null || { echo "pictures: skipped, no Xvfb or ImageMagick"; return; }
+    if ! command -v Xvfb >/dev/null || ! command -v convert >/dev/null; then
+        echo "pictures: skipped, no Xvfb or ImageMagick"
+        return
+    fi
     Xvfb -displayfd 3 -noreset -screen 0 1024x768x24 3>"$work/display" 2>/dev/null &
     xvfb=$!
     while [ ! -s "$work/display" ]; do sleep 0.1; done
@@ -289,9 +327,11 @@ check_title
 check_runs -pal
 check_runs -ntsc
 check_dying
+check_keys
 check_test_build
 check_all_stages
 check_empty_board
+check_any_bytes
 check_reset
 check_small_machine
 [ "$pictures" = no ] || take_pictures
