@@ -72,7 +72,7 @@ paint() { # a trap into a field of earth, row 9, column 20; the board's corner i
 
 close() {
     if [ -n "$manager" ]; then
-        xdotool windowactivate "$window" && sleep 0.5 && xdotool key alt+F4 || fail "the window answers"
+        { xdotool windowactivate "$window" && sleep 0.5 && xdotool key alt+F4; } || fail "the window answers"
     else
         kill -TERM "$editor"
     fi
