@@ -29,6 +29,10 @@ bezruch: .res 1
 krzyk:   .res 1
 ochrona: .res 1
 byl_spust: .res 1
+byl_drazek: .res 1      ; directions pressed in the tick before
+wybrany: .res 1         ; the newest of those that are held
+nowy:    .res 1         ; a direction pressed since the last step
+chce:    .res 1
 glebokosc: .res 1       ; 0 on firm ground, 1 knees, 2 armpits, 3 eyes
 tonie:   .res 1
 po_bagnie: .res 1
@@ -44,7 +48,7 @@ tu:      .res 2
 dorva_inv: .res 1       ; bit 7 of the tile that she started as
 
 .segment "RODATA"
-bity_drazka: .byte %0100, %1000, %0001, %0010           ; left, right, up, down; 0 is pressed
+bity_drazka: .byte %0100, %1000, %0001, %0010           ; left, right, up, down
 obraz:       .byte IDZIE_LEWO, IDZIE_PRAWO, IDZIE_GORA, IDZIE_DOL
 ; what happens at a step to each tile
 .linecont +
@@ -75,6 +79,9 @@ podstaw_dorve:
         sta opor
         sta naczynia
         sta byl_spust
+        sta byl_drazek
+        sta wybrany
+        sta nowy
         lda #1
         sta zegar
         lda #DOL
@@ -99,13 +106,14 @@ dorva_takt:
         jsr wskaz_pole
         jsr otoczenie
         jsr sprawdz_spust
-        lda odstep
+        jsr sprawdz_drazek
+        ldy odstep
         bne @rysuj
         ldx #KIERUNKI_DRAZKA - 1
 @kierunek:
-        lda drazek
+        lda chce
         and bity_drazka,x
-        beq @krok
+        bne @krok
         dex
         bpl @kierunek
         lda bezruch
@@ -113,7 +121,9 @@ dorva_takt:
         bcs @rysuj
         inc bezruch
         bne @rysuj
-@krok:  jsr zrob_krok
+@krok:  lda #0
+        sta nowy
+        jsr zrob_krok
 @rysuj:
 ; Shows her as she is now.
 rysuj_dorve:
@@ -181,6 +191,31 @@ otoczenie:
 @suchy: lda #0
         sta zywiol
 @nic:   rts
+
+; chce := the direction that she is to go. The newest one wins while several are pressed; one that was only tapped
+; between two steps is not forgotten.
+sprawdz_drazek:
+        lda drazek
+        and #15
+        eor #15
+        tax
+        eor byl_drazek                  ; pressed now and not before
+        stx byl_drazek
+        and byl_drazek
+        beq @stare
+        sta nowy
+        sta wybrany
+@stare: lda byl_drazek
+        and wybrany
+        bne @trzyma
+        lda byl_drazek                  ; the newest has been let go
+@trzyma:
+        sta wybrany
+        ldx nowy
+        beq @bez
+        txa
+@bez:   sta chce
+        rts
 
 ; Fire, once a press: she lays a bomb where she stands. Its fuse starts when she goes.
 sprawdz_spust:

@@ -114,6 +114,20 @@ static void chodzenie(void) {
     takty(13);
     CHECK(tu(1, 4));
 
+    uloz3(1, "D    ", "     ", "     "); /* the newest direction wins, and a tap between two steps counts */
+    drazek = 15 - PRAWO;
+    takty(6);
+    drazek = 15 - PRAWO - DOL;
+    takty(6);
+    CHECK(tu(2, 2));
+    drazek = 15 - PRAWO;
+    takty(2);
+    drazek = 15 - PRAWO - DOL;
+    takty(2);
+    drazek = 15 - PRAWO;
+    takty(9);
+    CHECK(tu(3, 4));
+
     uloz1(1, "D."); /* INV partners and codes that are no tiles */
     plansza[43] = 129;
     plansza[44] = 70;
