@@ -162,7 +162,8 @@ czekaj_klatki:
         rts
 
 ; Every frame: the interrupts start anew, effects and tune go on.
-klatka: lda po_liscie
+klatka: cld                             ; the score may be in the middle of a sum
+        lda po_liscie
         sta VDSLST
         lda po_liscie+1
         sta VDSLST+1

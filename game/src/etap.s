@@ -1,7 +1,7 @@
 ; The stage set-up: takes a stage record out of its bank.
 .include "atari.inc"
 .include "reguly.inc"
-.export wczytaj_etap, ostatni, swiat, powitanie
+.export wczytaj_etap, ostatni, powitanie
 .exportzp numer_etapu
 .import plansza, cel_masek, kolory, wez_zestaw
 

@@ -6,7 +6,7 @@
 ; The upper two bits of a character choose its colour: slots 0 keys, 1 bombs, 2 masks and stage, 3 energy, points.
 .include "atari.inc"
 .include "reguly.inc"
-.export zacznij_panel, rysuj_panel, info_powitanie, info_komunikat, info_takt
+.export zacznij_panel, rysuj_panel, info_powitanie, info_takt
 .importzp energia, zycia, klucze, bomby, brak_masek, komunikat, numer_etapu, napis
 .import punkty, panel_symboli, panel_cyfr, linia_info, powitanie
 .import pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi, t_etap_nr

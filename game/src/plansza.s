@@ -7,7 +7,7 @@
 ;   stan      whose turn, edge flag, counter
 ;   zapach    the heroine's scent: the number of the step that brought her here, 0 for never
 .include "reguly.inc"
-.export plansza, pod, stan, zapach, cechy, sasiad, odwrotny, delta_lo, delta_hi
+.export plansza, pod, stan, zapach, cechy, sasiad, delta_lo, delta_hi
 .export wskaz_pole, przejdz, zbadaj, przesun, wstaw, licznik, ustaw_licznik, los
 .exportzp wsk, wpod, wstan, wzap, kolej, ziarno
 .importzp dorva
@@ -31,7 +31,6 @@ pomoc:  .res 1
 
 .segment "RODATA"
 sasiad:   .byte TU - 1, TU + 1, TU - KOLUMNY, TU + KOLUMNY   ; by direction
-odwrotny: .byte PRAWO, LEWO, DOL, GORA
 delta_lo: .byte <-1, 1, <-KOLUMNY, KOLUMNY
 delta_hi: .byte >-1, 0, >-KOLUMNY, 0
 

@@ -3,11 +3,11 @@
 ; In: plansza and cel_masek before reguly_start; drazek (as STICK0: 0 bits are pressed) and spust (as STRIG0:
 ; 0 is pressed) before takt. Out: wynik, efekt, komunikat and the figures of the panel.
 .include "reguly.inc"
-.export reguly_start, takt, nowa_gra, punkty, punkty_na_starcie, cel_masek
+.export reguly_start, takt, nowa_gra, punkty_na_starcie, cel_masek
 .exportzp drazek, spust, wynik, efekt, komunikat, energia, zycia, klucze, bomby, monety, brak_masek
 .exportzp maszyna_stoi, pochodnia, otwarte, po_przeskoku
 .importzp kolej, dorva, ziarno
-.import plansza, pod, stan, zapach, dorva_inv
+.import plansza, pod, stan, zapach, dorva_inv, punkty
 .import dorva_takt, podstaw_dorve, policz_wspolrzedne, otworz, ruszaj, nowa_kolej
 
 ZYCIA_NA_START = 3
@@ -34,7 +34,6 @@ adres:  .res 2
 w_stanie: .res 2
 
 .segment "BSS"
-punkty: .res 3          ; six BCD digits, the highest first
 punkty_na_starcie: .res 3
 cel_masek: .res 1
 

@@ -1,0 +1,333 @@
+; What happens as the heroine steps at a tile: one routine a tile. It comes with the code in cel_kod, the direction in
+; kier, and Y at the tile's cell; it either lets her go there (na_pole, na_to, wejdz) or just returns.
+.include "reguly.inc"
+.export wejscia_lo, wejscia_hi
+.importzp wsk, wpod, wstan, dorva, kier, cel_kod, opor, naczynia
+.importzp klucze, maszyna_stoi, pochodnia, otwarte, brak_masek, wynik, komunikat, po_przeskoku
+.import plansza, sasiad, wskaz_pole, przejdz, przesun, zapal
+.import na_pole, na_to, wejdz, zapadnij, zostaw_zapach, policz_wspolrzedne
+.import zran, zabierz, dodaj_punkty, dodaj_energie, dodaj_bombe, dodaj_klucz, dodaj_monete, otworz, zglos_efekt
+
+SZARPNIECIA = 3                         ; tugs until a thicket lets her through
+CO_ELIKSIR = 30
+CO_NACZYNIE = 15
+
+.segment "ZEROPAGE"
+parzysty: .res 1        ; the magic object is the second of its pair
+pozycja: .res 1         ; low byte of the cell that is looked at
+tu:      .res 2
+
+.segment "RODATA"
+; what happens at a step to each tile
+.linecont +
+.define WEJSCIA \
+        na_pole, kop, w_pulapke, na_pole, naczynie, mur, mur, mur, \
+        zarosla, wyjscie, drzwi, w_wode, maska, klucz, bomba, skrzynia, \
+        eliksir, mur, mur, promien, promien, promien, promien, mur, \
+        duch, stwor, stwor, stwor, straznik, straznik, ognista, ognista, \
+        ognista, ognista, moneta, w_ogien, tropiciel, tropiciel, tropiciel, tropiciel, \
+        mur, mur, mur, strzalka, strzalka, kamyk, kamyk, kamyk, \
+        kamyk, w_bagno, mur, mur, mur, mur, ognista, magiczny, \
+        maszyna, pochodnie, mur, mur, mur, mur, mur, mur
+wejscia_lo: .lobytes WEJSCIA
+wejscia_hi: .hibytes WEJSCIA
+        .assert wejscia_hi - wejscia_lo = 64 && * - wejscia_hi = 64, error, "one entry a tile"
+
+.segment "CODE"
+
+mur:    rts
+
+; earth: dug, and a trace is left
+kop:    dzwiek EF_KOPIE
+        lda cel_kod
+        and #INV
+        ora #SLAD
+        jmp wejdz
+
+w_pulapke:
+        lda #RANA_PULAPKA               ; it snaps once
+        jsr zran
+        jmp na_puste
+
+; A jar is broken by stepping at it. What is inside goes round: coins, strength, coins, a bomb.
+naczynie:
+        dzwiek EF_STUK
+        lda naczynia
+        inc naczynia
+        lsr
+        bcc @monety
+        lsr
+        bcc @sila
+        jsr dodaj_bombe
+        jmp na_puste
+@sila:  lda #CO_NACZYNIE
+        jsr dodaj_energie
+        jmp na_puste
+@monety:
+        lda #$50
+        ldx #$00
+        jsr dodaj_punkty
+na_puste:
+        lda #NIC
+        jmp wejdz
+
+; A thicket lets her through after a few tugs; with a torch she sets fire to it.
+zarosla:
+        lda pochodnia
+        bne @pal
+        dzwiek EF_KOPIE
+        inc opor
+        lda opor
+        cmp #SZARPNIECIA
+        bcc stoi
+        lda #0
+        sta opor
+        beq na_puste
+@pal:   jsr zapal
+        dzwiek EF_STRZAL
+stoi:   rts
+
+wyjscie:
+        lda otwarte
+        beq @za_malo
+        lda #ETAP_PRZESZLA
+        sta wynik
+        jmp na_to
+@za_malo:
+        powiedz KOM_MASKI
+        rts
+
+drzwi:  lda klucze
+        beq @nie
+        dec klucze
+        dzwiek EF_DRZWI
+        jmp na_puste
+@nie:   powiedz KOM_KLUCZ
+        rts
+
+w_wode: lda #RANA_WODA
+        jsr zabierz
+        dzwiek EF_BAGNO
+        jmp na_to
+
+w_ogien:
+        lda #RANA_OGIEN
+        jsr zran
+        jmp na_to
+
+maska:  lda #$00                        ; 100
+        ldx #$01
+        jsr dodaj_punkty
+        dzwiek EF_MASKA
+        lda brak_masek
+        beq na_puste
+        dec brak_masek
+        bne na_puste
+        jsr otworz
+        jmp na_puste
+
+klucz:  jsr dodaj_klucz
+        jmp na_puste
+
+bomba:  jsr dodaj_bombe
+        jmp na_puste
+
+eliksir:
+        lda #CO_ELIKSIR
+        jsr dodaj_energie
+        jmp na_puste
+
+moneta: jsr dodaj_monete
+        jmp na_puste
+
+; The torch burns thickets and keeps ghosts away, to the end of the stage.
+pochodnie:
+        lda #1
+        sta pochodnia
+        dzwiek EF_BIERZE
+        powiedz KOM_OGIEN
+        jmp na_puste
+
+; A touch stops the machine and with it all emitters and launchers; the next one starts it again.
+maszyna:
+        lda maszyna_stoi
+        eor #1
+        sta maszyna_stoi
+        lda cel_kod
+        eor #INV
+        sta (wsk),y
+        dzwiek EF_DRZWI
+        ldx #KOM_RUSZA
+        lda maszyna_stoi
+        beq :+
+        ldx #KOM_STOI
+:       stx komunikat
+        rts
+
+; A crate goes on to a free cell; a trap, water, fire or swamp is filled by it.
+skrzynia:
+        ldx kier
+        jsr przejdz                     ; the crate's own surroundings
+        ldx kier
+        ldy sasiad,x
+        lda (wstan),y
+        and #S_BRZEG
+        bne @stoi
+        lda (wsk),y
+        and #$7F
+        beq @dalej                      ; nothing
+        cmp #SLAD
+        beq @dalej
+        cmp #PULAPKA
+        beq @gasi
+        cmp #OGIEN
+        beq @gasi
+        cmp #WODA
+        beq @zasyp
+        cmp #BAGNO
+        bne @stoi
+@zasyp: lda #NIC                        ; the crate is gone, the cell is ground
+        sta (wsk),y
+        ldy #TU
+        lda (wpod),y
+        sta (wsk),y
+        jmp @pchnieta
+@gasi:  lda #NIC
+        sta (wsk),y
+@dalej: lda cel_kod
+        jsr przesun
+@pchnieta:
+        dzwiek EF_PCHA
+        ldy #TU
+        lda (wsk),y                     ; what lay beneath the crate
+        sta cel_kod
+        lda kier
+        eor #1                          ; back to her own surroundings
+        tax
+        jsr przejdz
+        jmp na_to
+@stoi:  rts
+
+; The swamp: every step into it is one deeper.
+w_bagno:
+        jsr zapadnij
+        lda wynik
+        bne @tonie
+        jmp na_to
+@tonie: rts
+
+; A magic object takes her to its other half: the next one on the board for the first, third..., the one before
+; for the second, fourth... One without a partner does nothing.
+magiczny:
+        lda (wstan),y                   ; odd or even, counted at the start of the stage
+        and #1
+        sta parzysty
+        dzwiek EF_MAGIA
+        jsr na_to
+        lda #1
+        sta po_przeskoku
+        clc
+        lda dorva
+        tay
+        lda dorva+1
+        adc #>plansza
+        sta tu+1
+        lda #0
+        sta tu
+        lda parzysty
+        bne @wstecz
+@dalej: iny                             ; tu and Y: the cell that is looked at
+        bne :+
+        inc tu+1
+        lda tu+1
+        cmp #>(plansza + POLA) + 1
+        bcs @nie_ma
+:       lda (tu),y
+        and #$7F
+        cmp #MAGICZNY
+        bne @dalej
+        jsr przenies
+        bcc @dalej
+        rts
+@wstecz:
+        dey
+        cpy #$FF
+        bne :+
+        dec tu+1
+        lda tu+1
+        cmp #>plansza
+        bcc @nie_ma
+:       lda (tu),y
+        and #$7F
+        cmp #MAGICZNY
+        bne @wstecz
+        jsr przenies
+        bcc @wstecz
+@nie_ma:
+        rts
+
+; Takes her to the cell at tu + Y. C = 0: it is none inside the edge. Keeps Y.
+przenies:
+        sty pozycja
+        lda tu+1
+        sec
+        sbc #>plansza
+        tax
+        cpx #>POLA
+        bcc @na_planszy
+        cpy #<POLA
+        bcs @nie
+@na_planszy:
+        tya
+        jsr wskaz_pole
+        ldy #TU
+        lda (wstan),y
+        and #S_BRZEG
+        bne @nie
+        lda (wsk),y
+        sta (wpod),y
+        jsr zostaw_zapach
+        lda pozycja
+        sta dorva
+        lda tu+1
+        sec
+        sbc #>plansza
+        sta dorva+1
+        jsr policz_wspolrzedne
+        ldy pozycja
+        sec
+        rts
+@nie:   ldy pozycja
+        clc
+        rts
+
+; Creatures that she runs into
+duch:   lda #RANA_DUCH
+        ldx pochodnia
+        beq rani
+        rts
+stwor:  lda #RANA_STWOR
+        bne rani
+straznik:
+        lda #RANA_STRAZNIK
+        bne rani
+tropiciel:
+        lda #RANA_TROPICIEL
+        bne rani
+ognista:
+        lda #RANA_OGIEN
+rani:   jmp zran
+
+; Rays and missiles she can break through.
+promien:
+        lda #RANA_PROMIEN
+        bne przez
+strzalka:
+        lda #RANA_STRZALKA
+        bne przez
+kamyk:  lda #RANA_KAMYK
+przez:  jsr zran
+        ldx kier
+        ldy sasiad,x
+        lda (wpod),y
+        jmp wejdz
