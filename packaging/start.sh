@@ -17,7 +17,7 @@ if ! wzorzec/uloz.sh . wzorzec/planszownik wzorzec/dane; then
 fi
 brak=$(ldd ./planszownik 2>/dev/null | grep 'not found')
 if [ -n "$brak" ]; then
-    pokaz "Brakuje bibliotek Qt 6. W Debianie i Ubuntu: sudo apt install libqt6widgets6 qt6-translations-l10n
+    pokaz "Brakuje bibliotek Qt 6. W Debianie: sudo apt install libqt6widgets6 qt6-translations-l10n
 $brak"
     exit 1
 fi
