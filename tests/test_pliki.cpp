@@ -79,10 +79,56 @@ TEST_F(Pliki, ListingThatBreaksOffGivesNoNames) {
     EXPECT_EQ(listNames(system, root, ".ND").size(), 2U);
 }
 
-TEST_F(Pliki, StartSweepsLeftovers) {
-    writeFile(base / "ETAPY/dorva-999999999.dp-tmp", {1});
+TEST_F(Pliki, InterruptedCallsAreAskedAgain) {
+    static int calls = 0;
+    const auto system = without([](SystemPlikow& s) {
+        s.read = [](int f, void* b, std::size_t n) { return ++calls % 2 ? (errno = EINTR, -1) : ::read(f, b, n); };
+        s.write = [](int f, const void* b, std::size_t n) {
+            return ++calls % 2 ? (errno = EINTR, -1) : ::write(f, b, n);
+        };
+    });
+    fs::current_path(root);
+    ASSERT_TRUE(writeWhole(system, "plik", Bajty{4, 5})) << "a name without a folder";
+    EXPECT_EQ(readFirst(system, root / "plik", 2), (Bajty{4, 5}));
+}
+
+TEST_F(Pliki, WhatCannotBeKeptIsNotReplaced) {
+    writeFile(root / "plik", {1});
+    const auto taken =
+        without([](SystemPlikow& s) { s.link = [](const char*, const char*) { return errno = EEXIST, -1; }; });
+    EXPECT_FALSE(writeKeepingOld(taken, root / "plik", Bajty{2})) << "another program took the copy's name";
+    const auto linkless =
+        without([](SystemPlikow& s) { s.link = [](const char*, const char*) { return errno = EPERM, -1; }; });
+    fs::resize_file(root / "plik", 100U << 20U);
+    EXPECT_FALSE(writeKeepingOld(linkless, root / "plik", Bajty{2})) << "too long to be copied";
+    EXPECT_EQ(fs::file_size(root / "plik"), 100U << 20U);
+    EXPECT_TRUE(writeKeepingOld(linkless, root / "nowy", Bajty{2}));
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 3U);
+}
+
+TEST_F(Pliki, ExistenceAndSameness) {
+    writeFile(root / "plik", {1});
+    writeFile(root / "inny", {1});
+    fs::create_symlink("plik", root / "link");
+    EXPECT_TRUE(fileExists(SYSTEM_PLIKOW, root / "link"));
+    EXPECT_FALSE(fileExists(SYSTEM_PLIKOW, root / "brak"));
+    EXPECT_FALSE(fileExists(SYSTEM_PLIKOW, root / "plik" / "pod plikiem"));
+    EXPECT_TRUE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / "link"));
+    for (const char* name : {"inny", "brak", "plik/pod plikiem", "/dev/null"})
+        EXPECT_FALSE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / name)) << name;
+    fs::create_symlink("petla", root / "petla");
+    EXPECT_TRUE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / "petla")) << "can't be told";
+}
+
+TEST_F(Pliki, StartSweepsLeftoversOfTheDeadAlone) {
+    for (const char* name : {"dorva-999999999.dp-tmp", "dorva-.dp-tmp"})
+        writeFile(base / "ETAPY" / name, {1});
+    writeFile(base / "PLIKI" / ("dorva-" + std::to_string(::getpid()) + ".dp-tmp"), {1});
+    writeFile(base / "ETAPY/dorva-1.dp-tmp", {1}); // process 1 always lives
+    writeFile(base / "ETAPY/moje.dp-tmp", {1});
     start();
-    EXPECT_EQ(namesIn("ETAPY").size(), 32U);
+    EXPECT_EQ(namesIn("ETAPY").size(), 34U);
+    EXPECT_EQ(namesIn("PLIKI"), (std::vector<std::string>{"DP1.DTA", "DP2.DTA"}));
 }
 
 } // namespace

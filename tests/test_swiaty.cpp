@@ -220,7 +220,7 @@ TEST(Kompilator, MistakesAreToldWithTheirLine) {
                                             {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
                                             {kolory + pusty + "1 ZIEMIA\nlustro 1\n", "s:16: a number from 0 to 0"},
                                             {kolory + pusty, "s:14: the file ends"}})
-        EXPECT_EQ(messageOf([&] { parseRysunki({"s", source}); }).substr(0, message.size()), message) << source;
+        EXPECT_EQ(messageOf([&s = source] { parseRysunki({"s", s}); }).substr(0, message.size()), message) << source;
 
     const Legenda legenda = parseLegenda({"l", "kolory standard\n. 0 NIC\n~ 139 WODA ; INV\n"});
     const std::string head = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n";
@@ -235,13 +235,13 @@ TEST(Kompilator, MistakesAreToldWithTheirLine) {
              {head + ".\n", "s:8: a row of the board"},
              {head + std::string(39, '.') + "?\n", "s:8: the legend"},
              {head + row, "s:8: the file ends"}})
-        EXPECT_EQ(messageOf([&] {
-                      parseEtap({"s", source}, legenda, swiaty);
+        EXPECT_EQ(messageOf([&, &s = source] {
+                      parseEtap({"s", s}, legenda, swiaty);
                   }).substr(0, message.size()),
                   message)
             << source;
     for (const char* source : {"ab 0 NIC\n", ". 0 NIC\n. 1 ZIEMIA\n", ". 64 NIC\n", ". 1 NIC\n", ". x NIC\n", ". 0\n"})
-        EXPECT_EQ(messageOf([&] {
+        EXPECT_EQ(messageOf([&, &s = source] {
                       parseLegenda({"l", std::string("kolory tlo 4\n") + source});
                   }).substr(0, 2),
                   "l:")

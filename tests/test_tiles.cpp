@@ -42,6 +42,8 @@ TEST_F(Tiles, EveryCodeShowsItsPartOfTheStrip) {
         }
     EXPECT_EQ(e.zestawy.find({0, znak(64)}), nullptr);
     EXPECT_EQ(e.zestawy.find({0, znak(255)}), nullptr);
+    EXPECT_EQ(e.zestawy.find({ObrazRef::DOMYSLNY, DORVA}), nullptr);
+    EXPECT_EQ(e.zestawy.find({3, DORVA}), nullptr);
 }
 
 TEST_F(Tiles, ChangeOfWorldChangesPicturesOnly) {
@@ -58,6 +60,7 @@ TEST_F(Tiles, ChangeOfWorldChangesPicturesOnly) {
     EXPECT_EQ(e.okno.imgInfo[2], e.okno.imgInfo[3]);
     EXPECT_EQ(e.okno.lblKolor, before.lblKolor);
     EXPECT_FALSE(SelectObiektyNR(e, 3));
+    EXPECT_FALSE(SelectObiektyNR(e, -1) || SetOstatni(e, -1));
     PackEtap(e);
     EXPECT_EQ(e.obrazEtapu[uklad::SWIAT], 2);
 }
@@ -75,6 +78,12 @@ TEST_F(Tiles, StripsOfOtherSizes) {
     EXPECT_EQ(e.zestawy.find({2, DORVA}), nullptr);
     EXPECT_EQ(e.okno.optObiektyNR, 1) << "start-up goes on";
     strips["FNT11.ORN.ND.TILES.BMP"].piksele.pop_back();
+    cmdReload_Click(e);
+    strips["FNT11.ORN.ND.TILES.BMP"] = {-1, 32, {}};
+    cmdReload_Click(e);
+    strips["FNT11.ORN.ND.TILES.BMP"] = {32, -1, {}};
+    cmdReload_Click(e);
+    fs::remove_all(base / "OBIEKTY/ORN_EXPORT");
     cmdReload_Click(e);
     EXPECT_EQ(pixel({1, znak(2)}, 5), 0xFF080002U) << "a picture that is not whole changes nothing";
 }
@@ -144,6 +153,8 @@ TEST_F(Tiles, PaletteDialogWritesTheChosenSlot) {
     EXPECT_EQ(e.WybranySlot, 11);
     Form_Unload(e);
     EXPECT_FALSE(e.okno.lblKolor[11].wybrana || e.okno.dlgPaleta.otwarte);
+    closePaleta(e);
+    EXPECT_FALSE(parsePaleta(Bajty(767, 3)));
     EXPECT_EQ(kolorText(5), "5, $5");
 }
 

@@ -1,4 +1,6 @@
+#include "output/obraz_gry.h"
 #include "pulpit.h"
+#include "stage/archiwum.h"
 
 namespace dorva::test {
 namespace {
@@ -145,6 +147,36 @@ TEST_F(ZbiorEtapow, SaveAsksBeforeItReplaces) {
     cmdSave_Click(e);
     EXPECT_EQ(shown.size(), 2U);
     EXPECT_EQ(e.OstatniaSciezka, *chosen);
+}
+
+TEST_F(ZbiorEtapow, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
+    start();
+    e.okno.txtNazwa.tekst = ascii("ala");
+    e.okno.txtAutorGry[1].tekst = ascii("ola");
+    Form_QueryUnload(e);
+    EXPECT_EQ(readFile(etap(1))[uklad::NAZWA + 15], 33);
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA")[20], 'O');
+
+    chosen = root / "plik";
+    e.okno.txtAutorGry[1].tekst = ascii(std::string(21, 'A'));
+    const Bajty lines = readFile(base / "PLIKI/DP1.DTA");
+    cmdCreate_Click(e);
+    cmdSaveArch_Click(e);
+    e.okno.txtAutorGry[0].tekst = ascii(std::string(21, 'A'));
+    cmdTest_Click(e);
+    e.okno.txtNazwa.tekst = ascii(std::string(33, 'A'));
+    cmdSave_Click(e);
+    SelectEtapNR(e, 1);
+    const std::string wrong = "Coś poszło źle...\n";
+    EXPECT_EQ(shown, (std::vector<std::string>{wrong + "Nie można utworzyć gry.", wrong + "Nie można utworzyć pliku.",
+                                               wrong + "Nie można utworzyć pliku.", "Nie można zapisać etapu."}));
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), lines);
+    EXPECT_EQ(readFile(etap(1)).size(), ETAP_SIZE_BYTES);
+    EXPECT_FALSE(fs::exists(*chosen) || fs::exists(base / "PLIKI/TEST.XEX"));
+    chosen = "";
+    e.okno.txtNazwa.tekst = ascii("");
+    cmdSave_Click(e);
+    EXPECT_EQ(shown.size(), 4U) << "a dialog that names no file is cancelled";
 }
 
 TEST_F(ZbiorEtapow, ClearBuildsTheWalledField) {

@@ -18,7 +18,7 @@ std::string_view takePole(Zrodlo& z, std::string_view name) {
 
 // A text of the game, as window text that is not longer than its box.
 Tekst takeTekst(Zrodlo& z, std::string_view name, std::size_t width) {
-    const Tekst tekst = toTekst(z, takePole(z, name));
+    Tekst tekst = toTekst(z, takePole(z, name));
     if (tekst.size() > width)
         z.fail("at most " + std::to_string(width) + " characters");
     return tekst;
