@@ -1,0 +1,119 @@
+#!/bin/bash
+# pictures.sh: takes docs/obrazy/okno*.png anew from the running program, through a stage painted as the guide's first
+# ten minutes tell. Needs the package (scripts/package.sh), Xvfb, openbox, xdotool and ImageMagick.
+set -eu
+
+cd "$(dirname "$0")/.."
+for tool in Xvfb openbox xdotool import convert; do
+    command -v $tool >/dev/null || { echo "pictures: $tool is missing"; exit 1; }
+done
+pictures=$PWD/docs/obrazy
+archive=$(realpath "$(find build/release -maxdepth 1 -name 'dorva-planszownik-*.tar.gz' | sort | tail -n 1)")
+
+room=$(mktemp -d)
+trap 'kill $editor $manager $server 2>/dev/null || true; rm -rf "$room" "$shop"' EXIT
+editor='' manager='' server=''
+shop=/tmp/Planszownik # the path is in a picture
+mkdir "$shop"
+tar xzf "$archive" -C "$shop"
+
+Xvfb -displayfd 3 -screen 0 1280x720x24 3>"$room/display" >/dev/null 2>&1 &
+server=$!
+until [ -s "$room/display" ]; do sleep 0.2; done
+DISPLAY=:$(cat "$room/display")
+export DISPLAY HOME="$room/dom"
+mkdir "$HOME"
+unset QT_QPA_PLATFORM
+openbox >/dev/null 2>&1 &
+manager=$!
+sleep 1
+sh "$shop/planszownik/start.sh" 2>/dev/null &
+editor=$!
+window=$(timeout 20 xdotool search --sync --onlyvisible --name '^Dorva Planszownik \[' | head -n 1)
+sleep 1
+
+# Places in the window, in pixels: board cells of 16 from 96, 16; picker slots of 32 from 168, 472.
+at() { xdotool mousemove --window "$window" "$1" "$2"; sleep 0.15; }
+click() { at "$1" "$2"; xdotool click "${3-1}"; sleep 0.35; }
+cell() { click $((96 + 16 * $1 + 8)) $((16 + 16 * $2 + 8)); }
+slot() { click $((168 + 32 * $1 + 17)) $((489 + 32 * $2)); }
+drag() {
+    at $((96 + 16 * $1 + 8)) $((16 + 16 * $2 + 8))
+    xdotool mousedown 1
+    at $((96 + 16 * $3 + 8)) $((16 + 16 * $4 + 8))
+    xdotool mouseup 1
+    sleep 0.15
+}
+room_of() { for row in $(seq "$2" "$4"); do drag "$1" "$row" "$3" "$row"; done; }
+shot() { sleep 0.3; import -window "${2-$window}" "$room/$1.png"; }
+
+at 450 350
+shot okno
+click 816 373 # "Czyść etap", Tak
+xdotool key Tab Return
+sleep 0.4
+slot 0 0 # NIC
+room_of 4 4 14 7
+room_of 22 10 34 14
+drag 9 8 9 12
+drag 9 12 22 12
+slot 21 1 && cell 6 6   # DORVA
+slot 9 0 && cell 33 13  # WYJŚCIE
+slot 0 1                # MASKA
+cell 12 5 && cell 24 11 && cell 28 13
+slot 6 0 && drag 24 12 27 12
+slot 8 0 && drag 5 4 7 4
+click 280 376 # the goal
+click 160 425
+xdotool type --delay 60 'mój pierwszy etap'
+xdotool key Tab
+click 37 32
+at 450 350
+shot pierwszy-etap
+click 836 572 # "Test etapu"
+sleep 0.5
+shot pytanie root
+xdotool key Tab Return
+sleep 0.4
+click 852 175 # the swatch of "grunt"
+sleep 0.5
+palette=$(xdotool search --name 'Paleta Atari' | head -n 1)
+xdotool mousemove --window "$palette" 95 215 mousemove_relative 1 0
+sleep 1.2
+shot paleta root
+xdotool mousemove --window "$palette" 100 316 click 1
+sleep 0.3
+slot 10 0 && cell 20 16 # a door without a key, an odd object, no heroine
+slot 18 1 && cell 22 16
+slot 1 0 && cell 6 6
+shot info
+click 836 596 # "Utworzenie gry"
+sleep 0.8
+shot zapis root
+xdotool key Escape
+sleep 0.4
+kill -TERM $editor
+wait $editor
+editor=''
+
+keep() { # keep SHOT NAME COLOURS [CROP]
+    convert "$room/$1.png" ${4:+-crop "$4" +repage} +dither -colors "$3" -strip "PNG8:$pictures/$2.png"
+}
+keep okno okno 96
+keep pierwszy-etap okno-pierwszy-etap 96
+keep paleta okno-paleta 256 440x380+648+58
+keep info okno-info 64 660x40+86+354
+keep pytanie okno-pytanie 64 420x150+430+285
+keep zapis okno-zapis 64 630x442+325+128
+
+# The numbers of the guide's table, each at its place in the window.
+number=0 marks=()
+for place in 82,13 84,302 420,60 874,14 874,94 872,282 872,328 738,358 374,357 866,362 \
+    310,406 881,408 81,470 153,470 520,505 521,567 543,562 663,562 883,562 883,607; do
+    number=$((number + 1)) x=${place%,*} y=${place#*,}
+    marks+=(-fill '#c8102e' -stroke white -strokewidth 1.5 -draw "circle $x,$y $((x + 10)),$y")
+    marks+=(-stroke none -fill white -annotate "+$((x - (number > 9 ? 7 : 3)))+$((y - 8))" "$number")
+done
+convert "$room/okno.png" -font Liberation-Sans-Bold -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/opis.png"
+keep opis okno-opis 96
+ls -l "$pictures"/okno*.png
