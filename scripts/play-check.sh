@@ -247,6 +247,21 @@ check_any_bytes() { # stages of 931 bytes as they come, but for the heroine: the
     done
 }
 
+check_pace() { # boards full of what takes longest: no tick may outlast its frame
+    for full in "36 37 38 39 3 0" "54 14 23 24 17" "18 40 41 42 24 0" "24 25 35 8 1" "43 44 45 46 19 20 21 22 0" "55 0"; do
+        cp "$stages/DETAP.1" "$work/etap"
+        patch "$work/etap" 32 $(echo "$full" |
+            awk '{ for (i = 0; i < 800; ++i) print $(1 + (i * i + i * 7) % 31 % NF) }')
+        patch "$work/etap" 452 63
+        patch "$work/etap" 832 99
+        test_build "$work/etap" "$work/pelna.xex"
+        record "$start" R50 D50 L90 U50 F3 R200 D60 F3 L60 U300 F10 R60 E5 L200 E5 L200 E5 -300 >"$work/input"
+        { until_at ekran_konca && dump spoznione 1 late && echo QUIT; } >"$work/commands"
+        play "$work/pelna.xex" -xe -ntsc
+        expect "full frame rate on a board of tiles $full" "$(came_to) $(bytes "$work/late" 0 1)" "ekran_konca 0"
+    done
+}
+
 check_reset() {
     record "$start" "$(run_of 1)" -600 >"$work/input"
     {
@@ -319,7 +334,8 @@ take_pictures() {
     } >"$work/commands"
     watch "$PWD/$game"
     for stage in 8 14 24; do keep "etap$stage"; done
-    (cd "$work" && montage $(seq -f etap%g.png 32) -sample 50% -tile 4x8 -geometry +2+2 etapy.png)
+    for stage in $(seq 32); do convert "$work/etap$stage.png" -sample 50% "$work/etap$stage.png"; done
+    (cd "$work" && montage $(seq -f etap%g.png 32) -tile 4x8 -geometry +2+2 etapy.png)
     keep etapy
 }
 
@@ -332,6 +348,7 @@ check_test_build
 check_all_stages
 check_empty_board
 check_any_bytes
+check_pace
 check_reset
 check_small_machine
 [ "$pictures" = no ] || take_pictures

@@ -6,12 +6,13 @@
 .include "atari.inc"
 .include "reguly.inc"
 .export zacznij_ekran, pokaz_plansze, pokaz_tekst, czekaj_klatke, czekaj_klatki, czysc_tekst
-.export ekran, logo, linia_info, panel_symboli, panel_cyfr, kolory
+.export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, kolory
 .import plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
 
 .segment "EKRANY"
 logo:   .res LOGO_WIERSZE * 40          ; tiles above the text
 ekran:  .res TEKST_WIERSZE * 40
+stopka: .res 40                         ; tiles below it
 linia_info: .res 40
 panel_symboli: .res 20
 panel_cyfr: .res 20
@@ -51,7 +52,7 @@ lista_planszy:
         .word lista_planszy
 
 lista_tekstu:
-        .byte PUSTE8, PUSTE8, PUSTE8
+        .byte PUSTE8, PUSTE8
         .byte LMS | TRYB4
         .word logo
         .res LOGO_WIERSZE - 2, TRYB4
@@ -60,6 +61,9 @@ lista_tekstu:
         .byte LMS | TRYB2
         .word ekran
         .res TEKST_WIERSZE - 1, TRYB2
+        .byte PUSTE2 | DLI
+        .byte LMS | TRYB4
+        .word stopka
         .byte SKOK
         .word lista_tekstu
         .assert * - lista_planszy < 256, error, "display lists within a page"
@@ -101,7 +105,7 @@ pokaz_plansze:
         ldy #>lista_planszy
         bne pokaz
 
-; Shows a text screen: logo in the stage's colours, text below.
+; Shows a text screen: logo in the stage's colours, text, a row of tiles.
 pokaz_tekst:
         lda #<dli_tekst
         ldx #>dli_tekst
@@ -244,6 +248,22 @@ dli_tekst:
         sta COLPF1
         lda #$00
         sta COLPF2
+        sta COLBK
+        nastepne_dli dli_stopka
+        pla
+        rti
+
+; text -> tiles
+dli_stopka:
+        pha
+        lda #>zestaw
+        sta WSYNC
+        sta CHBASE
+        lda kolory + 5
+        sta COLPF1
+        lda kolory + 6
+        sta COLPF2
+        lda kolory + 8
         sta COLBK
         pla
         rti

@@ -17,11 +17,15 @@ KLAWISZ_OPTION = 4
 
 .segment "ZEROPAGE"
 licznik: .res 1
+klatka:  .res 1         ; the frame that the tick began in
+spoznione: .res 1       ; ticks that took longer than their frame: none, and scripts/play-check.sh looks
 
 .segment "CODE"
 
 ; Plays from stage numer_etapu on, to the end of the game.
-graj:   jsr ucisz_muzyke
+graj:   lda #0
+        sta spoznione
+        jsr ucisz_muzyke
         jsr nowa_gra
 @etap:  ldx #2
 @punkty:
@@ -90,6 +94,8 @@ graj_etap:
         sta licznik
 @klatka:
         jsr czekaj_klatke
+        lda RTCLOK+2
+        sta klatka
         lda CH
         cmp #CH_ESC
         beq @poddaje
@@ -112,7 +118,11 @@ graj_etap:
         lda #4
         sta licznik
         jsr rysuj_panel
-@dalej: lda wynik
+@dalej: lda RTCLOK+2
+        cmp klatka
+        beq :+
+        inc spoznione
+:       lda wynik
         beq @klatka
         jsr rysuj_panel
         lda wynik

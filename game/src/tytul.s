@@ -6,7 +6,7 @@
 .include "reguly.inc"
 .export tytul, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
-.import zacznij_muzyke, tytuly, ekran, logo, punkty, pisz_srodkiem, dwie_cyfry
+.import zacznij_muzyke, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
 .import czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
 .import t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
 .import t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
@@ -97,23 +97,23 @@ tytul:  lda #1
 ; Shows the title for stage numer_etapu: the logo wears its world and colours.
 rysuj_tytul:
         jsr wczytaj_etap
-        jsr czysc_tekst
+        lda #MUR_H
         jsr rysuj_logo
         jsr pisz_linie
-        pisz_w 8, t_nowy
+        pisz_w 7, t_nowy
         lda numer_etapu
         jsr dwie_cyfry
-        stx ekran + 8 * 40 + 21
-        sta ekran + 8 * 40 + 22
-        pisz_w 10, t_grasz
-        pisz_w 12, t_klawisze1
-        pisz_w 13, t_klawisze2
-        pisz_w 14, t_klawisze3
+        stx ekran + 7 * 40 + 21
+        sta ekran + 7 * 40 + 22
+        pisz_w 9, t_grasz
+        pisz_w 11, t_klawisze1
+        pisz_w 12, t_klawisze2
+        pisz_w 13, t_klawisze3
         jmp pokaz_tekst
 
 ; Game over.
 ekran_konca:
-        jsr czysc_tekst
+        lda #WYBUCH
         jsr rysuj_logo
         pisz_w 4, t_koniec
         jsr pisz_wynik
@@ -121,7 +121,7 @@ ekran_konca:
 
 ; The last stage is behind her.
 ekran_wygranej:
-        jsr czysc_tekst
+        lda #MASKA
         jsr rysuj_logo
         pisz_w 3, t_wygrana
         pisz_w 5, t_wygrana2
@@ -129,7 +129,7 @@ ekran_wygranej:
         jmp czekaj_na_gracza
 
 ekran_bez_dorvy:
-        jsr czysc_tekst
+        lda #ZIEMIA
         jsr rysuj_logo
         pisz_w 4, t_brak
         pisz_w 6, t_brak2
@@ -177,11 +177,19 @@ pisz_wynik:
         bne @cyfry
         rts
 
-; The name in the world's own stones.
+; An empty text screen between two rows of tile A, and at its top the name in the world's own stones.
 rysuj_logo:
-        lda #<(logo + 40 + LOGO_TLO)
+        pha
+        jsr czysc_tekst
+        pla
+        ldx #39
+@ramka: sta logo,x
+        sta stopka,x
+        dex
+        bpl @ramka
+        lda #<(logo + 2 * 40 + LOGO_TLO)
         sta wiersz
-        lda #>(logo + 40 + LOGO_TLO)
+        lda #>(logo + 2 * 40 + LOGO_TLO)
         sta wiersz+1
         lda #0
         sta rzad
