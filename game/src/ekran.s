@@ -5,7 +5,7 @@
 ; changes the colours while the beam draws an empty line.
 .include "atari.inc"
 .include "reguly.inc"
-.export zacznij_ekran, pokaz_plansze, pokaz_tekst, czekaj_klatke, czekaj_klatki, czysc_tekst
+.export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, czekaj_klatke, czekaj_klatki, czysc_tekst
 .export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, kolory
 .import plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
 
@@ -125,15 +125,20 @@ pokaz:  stx CHBAS
         sta SDMCTL
         jmp czekaj_klatke
 
+; The interrupts of the next list begin at A (low), X (high).
 ustaw_dli:
         pha
-        lda #0                          ; the picture is off while lists and interrupts change
-        sta SDMCTL
-        jsr czekaj_klatke
+        jsr zgas_ekran
         pla
         sta po_liscie
         stx po_liscie+1
         rts
+
+; Takes the picture off the screen, until the next one is shown. Keeps X.
+zgas_ekran:
+        lda #0
+        sta SDMCTL
+        jmp czekaj_klatke
 
 ; Clears the text screen.
 czysc_tekst:

@@ -3,7 +3,7 @@
 .include "reguly.inc"
 .export wczytaj_etap, ostatni, powitanie
 .exportzp numer_etapu
-.import plansza, cel_masek, kolory, wez_zestaw
+.import plansza, cel_masek, kolory, wez_zestaw, zgas_ekran
 
 ETAPY_W_BANKU = 16
 SWIATY    = 3
@@ -22,6 +22,7 @@ powitanie: .res 32
 
 ; Takes stage numer_etapu: its board, colours, goal, flag, world, greeting. The description stays where it is.
 wczytaj_etap:
+        jsr zgas_ekran                  ; the board on show is the one that changes
         ldx #BANK0
         lda numer_etapu
         sec
