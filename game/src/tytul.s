@@ -49,6 +49,8 @@ rzad:   .res 1
 byl_drazek: .res 1
 droga:  .res 1          ; how far she has come below the logo
 klatki: .res 1          ; frames until her next step
+parzyste: .res 1        ; the two tiles of the frame
+nieparzyste: .res 1
 poczatek: .res 1
 
 .segment "CODE"
@@ -98,6 +100,7 @@ tytul:  lda #1
 rysuj_tytul:
         jsr wczytaj_etap
         lda #MUR_H
+        ldy #MUR_H
         jsr rysuj_logo
         jsr pisz_linie
         pisz_w 7, t_nowy
@@ -114,6 +117,7 @@ rysuj_tytul:
 ; Game over.
 ekran_konca:
         lda #WYBUCH
+        ldy #NIC
         jsr rysuj_logo
         pisz_w 4, t_koniec
         jsr pisz_wynik
@@ -122,6 +126,7 @@ ekran_konca:
 ; The last stage is behind her.
 ekran_wygranej:
         lda #MASKA
+        ldy #NIC
         jsr rysuj_logo
         pisz_w 3, t_wygrana
         pisz_w 5, t_wygrana2
@@ -130,6 +135,7 @@ ekran_wygranej:
 
 ekran_bez_dorvy:
         lda #ZIEMIA
+        ldy #ZIEMIA
         jsr rysuj_logo
         pisz_w 4, t_brak
         pisz_w 6, t_brak2
@@ -177,14 +183,19 @@ pisz_wynik:
         bne @cyfry
         rts
 
-; An empty text screen between two rows of tile A, and at its top the name in the world's own stones.
+; An empty text screen between two rows of tiles, A and Y by turns, and at its top the name in the world's own stones.
 rysuj_logo:
-        pha
+        sta parzyste
+        sty nieparzyste
         jsr czysc_tekst
-        pla
-        ldx #39
-@ramka: sta logo,x
+        ldx #38
+@ramka: lda parzyste
+        sta logo,x
         sta stopka,x
+        lda nieparzyste
+        sta logo + 1,x
+        sta stopka + 1,x
+        dex
         dex
         bpl @ramka
         lda #<(logo + 2 * 40 + LOGO_TLO)
