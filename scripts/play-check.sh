@@ -248,7 +248,7 @@ check_any_bytes() { # stages of 931 bytes as they come, but for the heroine: the
 }
 
 check_pace() { # boards full of what takes longest: no tick may outlast its frame
-    for full in "36 37 38 39 3 0" "54 14 23 24 17" "18 40 41 42 24 0" "24 25 35 8 1" "43 44 45 46 19 20 21 22 0" "55 0"; do
+    for full in "36 37 38 39 3 0" "54 14 23 24 17" "18 40 41 42 24 0" "24 25 35 8 1" "43 44 45 46 19 20 0" "55 0"; do
         cp "$stages/DETAP.1" "$work/etap"
         patch "$work/etap" 32 $(echo "$full" |
             awk '{ for (i = 0; i < 800; ++i) print $(1 + (i * i + i * 7) % 31 % NF) }')
@@ -292,7 +292,8 @@ watch() { # watch FILE: at the pace of the real machine, on a display of its own
 keep() { # keep NAME [OPERATION...]: a picture for the documentation
     name=$1
     shift
-    convert "$work/$name.png" "$@" +dither -colors 64 -define png:compression-level=9 "PNG8:docs/obrazy/gra-$name.png"
+    convert "$work/$name.png" "$@" +dither -colors 64 -strip -define png:exclude-chunks=date,time \
+        "PNG8:docs/obrazy/gra-$name.png"
     echo "picture: docs/obrazy/gra-$name.png"
 }
 
