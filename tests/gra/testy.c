@@ -169,7 +169,7 @@ static void branie(void) {
     CHECK(brak_masek == 0);
     idz("RR");
     CHECK(klucze == 1 && bomby == 1);
-    energia = 80;
+    energia = 75;
     idz("RR");
     CHECK(energia == 99);
     CHECK(wynik == 0);
@@ -240,6 +240,12 @@ static void pchanie(void) {
     uloz1(1, "DSf "); /* a fire is put out */
     idz("RRR");
     CHECK(tu(1, 3) && energia == 99 && pole(1, 4) == 15);
+    uloz1(1, "DS w "); /* all the same in INV forms */
+    plansza[42] = 143;
+    plansza[43] = 128;
+    plansza[44] = 139;
+    idz("RRRR");
+    CHECK(tu(1, 5) && energia == 99);
     uloz1(1, "DS,."); /* what lay beneath comes back */
     idz("RR");
     CHECK(tu(1, 2) && pole(1, 3) == 15);
@@ -406,6 +412,14 @@ static void zywioly(void) {
     uloz1(1, "Dbbbbb");
     idz("RRRR");
     CHECK(wynik == DORVA_GINIE);
+    uloz1(1, "Dw b"); /* the same in INV forms */
+    plansza[42] |= 128;
+    plansza[44] |= 128;
+    idz("R");
+    takty(60);
+    CHECK(energia == 99 - 3 * 4);
+    idz("RR");
+    CHECK((pole(1, 4) & 127) == 52);
     uloz1(1, "Db ");
     idz("R");
     takty(120);
@@ -485,11 +499,49 @@ static void losowe(void) {
     }
 }
 
+/* A board and the same board in INV forms go the same way. */
+static void inv(void) {
+    static byte obraz[POLA], po[POLA];
+    byte n, postac, energia_std = 0, maski_std = 0;
+    unsigned i, ruchy, ziarno_ruchow;
+    for (n = 0; n < 4; ++n) {
+        for (i = 0; i < POLA; ++i)
+            obraz[i] = losowy() & losowy() & 63;
+        obraz[(1 + losowy() % 18) * KOLUMNY + 1 + losowy() % 38] = 63;
+        ziarno_ruchow = losowy();
+        for (postac = 0; postac < 2; ++postac) {
+            for (i = 0; i < POLA; ++i)
+                plansza[i] = postac ? obraz[i] | 128 : obraz[i];
+            cel_masek = 3;
+            drazek = 15;
+            ruchy = ziarno_ruchow;
+            nowa_gra();
+            CHECK(start());
+            for (i = 0; i < 600 && !wynik; ++i) {
+                if (i % 16 == 0)
+                    drazek = (byte)((ruchy = ruchy * 25173u + 13849u) >> 8) & 15;
+                spust = i % 50 != 0;
+                takt();
+            }
+            if (!postac) {
+                memcpy(po, plansza, POLA);
+                energia_std = energia;
+                maski_std = brak_masek;
+            }
+        }
+        CHECK(energia == energia_std && brak_masek == maski_std);
+        for (i = 0; i < POLA && !((plansza[i] ^ po[i]) & 127); ++i) {
+        }
+        CHECK(i == POLA);
+    }
+}
+
 static const struct {
     const char* nazwa;
     void (*test)(void);
-} grupy[] = {{"chodzenie", chodzenie}, {"branie", branie},         {"pchanie", pchanie}, {"bomby", bomby_i_mury},
-             {"wedrowcy", wedrowcy},   {"strzelanie", strzelanie}, {"zywioly", zywioly}, {"losowe", losowe}};
+} grupy[] = {{"chodzenie", chodzenie}, {"branie", branie},     {"pchanie", pchanie},
+             {"bomby", bomby_i_mury},  {"wedrowcy", wedrowcy}, {"strzelanie", strzelanie},
+             {"zywioly", zywioly},     {"losowe", losowe},     {"inv", inv}};
 
 int main(int argc, char* argv[]) {
     byte i;
