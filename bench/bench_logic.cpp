@@ -1,5 +1,5 @@
 // Speed of the logic. Each operation stands beside its baseline: the plain work that it can't do without.
-// The ratio of the two is the figure to look at.
+// BM_X has its baseline in BM_XPlain, and scripts/bench.sh sets the ratio of the two beside its aim.
 #include "board/census.h"
 #include "board/plansza.h"
 #include "output/obraz_gry.h"
@@ -67,20 +67,30 @@ void plainWrite(const fs::path& path, const Bajty& bytes) {
     ::close(folder);
 }
 
-void BM_Count256(benchmark::State& state) {
-    const Praca praca;
+// Counts a board of 800 bytes by code, as plainly as can be.
+void plainCount(const Bajty& board) {
+    std::array<int, 256> bins{};
+    for (Bajt b : board)
+        ++bins[b];
+    benchmark::DoNotOptimize(bins);
+}
+
+Bajty codesOf(const Edytor& e) {
     Bajty board;
-    for (const ZnakPole& cell : praca.e.okno.imgPG)
+    for (const ZnakPole& cell : e.okno.imgPG)
         board.push_back(static_cast<Bajt>(cell.znak));
+    return board;
+}
+
+void BM_RefreshInfoPlain(benchmark::State& state) {
+    const Praca praca;
+    const Bajty board = codesOf(praca.e);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(board.data());
-        std::array<int, 256> bins{};
-        for (Bajt b : board)
-            ++bins[b];
-        benchmark::DoNotOptimize(bins);
+        benchmark::ClobberMemory();
+        plainCount(board);
     }
 }
-BENCHMARK(BM_Count256);
+BENCHMARK(BM_RefreshInfoPlain);
 
 void BM_RefreshInfo(benchmark::State& state) {
     Praca praca;
@@ -89,6 +99,18 @@ void BM_RefreshInfo(benchmark::State& state) {
 }
 BENCHMARK(BM_RefreshInfo);
 
+void BM_StrokePlain(benchmark::State& state) {
+    const Praca praca;
+    Bajty board = codesOf(praca.e);
+    std::size_t cell = 0;
+    for (auto _ : state) {
+        board[cell = (cell + 1) % board.size()] = 1;
+        benchmark::ClobberMemory();
+        plainCount(board);
+    }
+}
+BENCHMARK(BM_StrokePlain);
+
 void BM_Stroke(benchmark::State& state) {
     Praca praca;
     int cell = 0;
@@ -96,6 +118,20 @@ void BM_Stroke(benchmark::State& state) {
         imgPG_MouseDown(praca.e, cell = (cell + 1) % PLANSZA_CELLS, LEWY);
 }
 BENCHMARK(BM_Stroke);
+
+// Two counts of the board (each way ends in one) and the copying of the image.
+void BM_PackUnpackPlain(benchmark::State& state) {
+    const Praca praca;
+    const Bajty board = codesOf(praca.e);
+    for (auto _ : state) {
+        Bajty image = praca.e.obrazEtapu;
+        benchmark::DoNotOptimize(image.data());
+        benchmark::ClobberMemory();
+        plainCount(board);
+        plainCount(board);
+    }
+}
+BENCHMARK(BM_PackUnpackPlain);
 
 void BM_PackUnpack(benchmark::State& state) {
     Praca praca;
@@ -123,53 +159,78 @@ void BM_Switch(benchmark::State& state) {
 }
 BENCHMARK(BM_Switch)->UseRealTime();
 
-void BM_CreatePlain(benchmark::State& state) {
+// The bare system calls of a whole operation: which files it must read and write, in its order.
+struct Wywolania {
     Praca praca;
-    Bajty etap(ETAP_SIZE_BYTES), gra(GRA_SIZE_BYTES);
-    for (auto _ : state) {
-        plainWrite(etapPath(praca.e, 1), etap);
-        plainRead(praca.base / "PLIKI/DP2.DTA", gra);
+    Bajty etap = Bajty(ETAP_SIZE_BYTES), autor = Bajty(AUTOR_GRY_SIZE_BYTES), gra = Bajty(GRA_SIZE_BYTES);
+    Bajty archiwum = Bajty(ARCHIWUM_SIZE_BYTES);
+
+    void writeEtap(int number) { plainWrite(etapPath(praca.e, number), etap); }
+    void writeAutor() { plainWrite(autorGryPath(praca.e), autor); }
+    void writeTest() { plainWrite(testXexPath(praca.e), gra); }
+    void writeChosen(const Bajty& bytes) { plainWrite(praca.base / "wynik", bytes); }
+    void readEtap(int number) { plainRead(etapPath(praca.e, number), etap); }
+    void readTemplate() { plainRead(praca.base / "PLIKI/DP2.DTA", gra); }
+    void everyEtap(void (Wywolania::*step)(int)) {
         for (int number = 1; number <= ETAPY_COUNT; ++number)
-            plainRead(etapPath(praca.e, number), etap);
-        plainWrite(praca.base / "wynik", gra);
-        plainWrite(praca.base / "PLIKI/TEST.XEX", gra);
+            (this->*step)(number);
+    }
+};
+
+void BM_GameBuildPlain(benchmark::State& state) {
+    Wywolania w;
+    for (auto _ : state) {
+        w.writeEtap(1);
+        w.readTemplate();
+        w.everyEtap(&Wywolania::readEtap);
+        w.writeChosen(w.gra);
+        w.writeTest();
     }
 }
-BENCHMARK(BM_CreatePlain)->UseRealTime();
+BENCHMARK(BM_GameBuildPlain)->UseRealTime();
 
-void BM_Create(benchmark::State& state) {
+void BM_TestBuildPlain(benchmark::State& state) {
+    Wywolania w;
+    for (auto _ : state) {
+        w.readTemplate();
+        w.writeTest();
+    }
+}
+BENCHMARK(BM_TestBuildPlain)->UseRealTime();
+
+void BM_ArchiveSavePlain(benchmark::State& state) {
+    Wywolania w;
+    for (auto _ : state) {
+        w.writeEtap(1);
+        w.writeAutor();
+        w.everyEtap(&Wywolania::readEtap);
+        w.writeChosen(w.archiwum);
+    }
+}
+BENCHMARK(BM_ArchiveSavePlain)->UseRealTime();
+
+void BM_ArchiveLoadPlain(benchmark::State& state) {
+    Wywolania w;
+    w.writeChosen(w.archiwum);
+    for (auto _ : state) {
+        plainRead(w.praca.base / "wynik", w.archiwum);
+        w.everyEtap(&Wywolania::writeEtap);
+        w.writeAutor();
+        w.readEtap(1);
+    }
+}
+BENCHMARK(BM_ArchiveLoadPlain)->UseRealTime();
+
+template <void (*Operation)(Edytor&)> void BM_Operation(benchmark::State& state) {
     Praca praca;
+    cmdSaveArch_Click(praca.e);
     for (auto _ : state)
-        cmdCreate_Click(praca.e);
+        Operation(praca.e);
 }
-BENCHMARK(BM_Create)->UseRealTime();
-
-void BM_ArchivePlain(benchmark::State& state) {
-    Praca praca;
-    Bajty etap(ETAP_SIZE_BYTES), autor(AUTOR_GRY_SIZE_BYTES), archiwum(ARCHIWUM_SIZE_BYTES);
-    for (auto _ : state) {
-        plainWrite(etapPath(praca.e, 1), etap);
-        plainWrite(autorGryPath(praca.e), autor);
-        for (int number = 1; number <= ETAPY_COUNT; ++number)
-            plainRead(etapPath(praca.e, number), etap);
-        plainWrite(praca.base / "wynik", archiwum);
-        plainRead(praca.base / "wynik", archiwum);
-        for (int number = 1; number <= ETAPY_COUNT; ++number)
-            plainWrite(etapPath(praca.e, number), etap);
-        plainWrite(autorGryPath(praca.e), autor);
-        plainRead(etapPath(praca.e, 1), etap);
-    }
-}
-BENCHMARK(BM_ArchivePlain)->UseRealTime();
-
-void BM_Archive(benchmark::State& state) {
-    Praca praca;
-    for (auto _ : state) {
-        cmdSaveArch_Click(praca.e);
-        cmdLoadArch_Click(praca.e);
-    }
-}
-BENCHMARK(BM_Archive)->UseRealTime();
+BENCHMARK(BM_Operation<cmdCreate_Click>)->Name("BM_GameBuild")->UseRealTime();
+BENCHMARK(BM_Operation<cmdTest_Click>)->Name("BM_TestBuild")->UseRealTime();
+BENCHMARK(BM_Operation<cmdSaveArch_Click>)->Name("BM_ArchiveSave")->UseRealTime();
+BENCHMARK(BM_Operation<cmdLoadArch_Click>)->Name("BM_ArchiveLoad")->UseRealTime();
 
 } // namespace
 } // namespace dorva
