@@ -210,6 +210,7 @@ constexpr std::array BLEDY{ENOSPC, EIO, EACCES, EROFS};
 TEST_P(Awarie, NothingIsLost) {
     const Scenariusz& s = GetParam();
     const int calls = rehearse(s);
+    RecordProperty("calls", calls);
     fail(s, {1, Awaria::SHORT, true}, calls);
     for (int at = 1; at <= calls && !HasFailure(); ++at)
         for (bool forGood : {false, true})
