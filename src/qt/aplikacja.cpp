@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QLibraryInfo>
+#include <QSettings>
 #include <QTranslator>
 
 namespace dorva {
@@ -11,6 +12,8 @@ namespace dorva {
 void setUpApplication(QApplication& application) {
     QApplication::setStyle("fusion");
     QApplication::setFont(fontOkna());
+    // Qt's own file dialog would remember its columns and folders in a file. Nothing but the work outlives a run.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     auto* polish = new QTranslator(&application);
     if (polish->load("qtbase_pl", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(polish);

@@ -69,15 +69,11 @@ void Ramka::paintEvent(QPaintEvent*) {
 
     const QFontMetrics metrics(captionFont);
     const int top = caption.isEmpty() ? 0 : metrics.height() / 2;
-    QStyleOptionFrame line;
-    line.initFrom(this);
-    line.rect = rect().adjusted(0, top, 0, 0);
-    line.features = QStyleOptionFrame::None;
-    const QColor dark = palette().color(QPalette::Mid), light = palette().color(QPalette::Light);
-    painter.setPen(light);
-    painter.drawRect(line.rect.adjusted(1, 1, -1, -1));
-    painter.setPen(dark);
-    painter.drawRect(line.rect.adjusted(0, 0, -2, -2));
+    const QRect line = rect().adjusted(0, top, 0, 0);
+    painter.setPen(palette().color(QPalette::Light));
+    painter.drawRect(line.adjusted(1, 1, -1, -1));
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(line.adjusted(0, 0, -2, -2));
     if (caption.isEmpty())
         return;
     const QRect box(INDENT, 0, std::min(wanted, space) + 2 * GAP, metrics.height());
@@ -93,6 +89,7 @@ void Przycisk::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (isChecked()) {
         option.palette.setColor(QPalette::Button, WYBRANY_KOLOR);
+        option.palette.setColor(QPalette::ButtonText, Qt::black);
         QFont bold = font();
         bold.setBold(true);
         painter.setFont(bold);
@@ -113,6 +110,13 @@ void Etykieta::mouseReleaseEvent(QMouseEvent* event) {
         onClick();
 }
 
+void Figura::paintEvent(QPaintEvent* event) {
+    Etykieta::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(Qt::black);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
 void ProbkaKoloru::paintEvent(QPaintEvent* event) {
     constexpr QColor OUTLINE(0, 0, 0, 140);
     const QPoint AROUND[]{{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
@@ -121,7 +125,16 @@ void ProbkaKoloru::paintEvent(QPaintEvent* event) {
     for (QPoint offset : AROUND)
         painter.drawText(contentsRect().translated(offset), Qt::AlignCenter, text());
     painter.end();
-    Etykieta::paintEvent(event);
+    Figura::paintEvent(event);
+}
+
+void Pasek::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Left)
+        triggerAction(SliderSingleStepSub);
+    else if (event->key() == Qt::Key_Right)
+        triggerAction(SliderSingleStepAdd);
+    else
+        QScrollBar::keyPressEvent(event);
 }
 
 void PoleEdycji::focusInEvent(QFocusEvent* event) {

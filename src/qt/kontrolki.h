@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <functional>
 
@@ -50,13 +51,31 @@ private:
     bool pressed_ = false;
 };
 
-// A swatch: its figure has a dark outline, so that white is read on light colours too.
-class ProbkaKoloru : public Etykieta {
+// A figure in a thin black border, whatever the colour of its text.
+class Figura : public Etykieta {
 public:
     using Etykieta::Etykieta;
 
 protected:
     void paintEvent(QPaintEvent*) override;
+};
+
+// A swatch: its figure has a dark outline, so that white is read on light colours too.
+class ProbkaKoloru : public Figura {
+public:
+    using Figura::Figura;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
+// A horizontal scroll bar whose Left key goes left: a bar of its own does the opposite.
+class Pasek : public QScrollBar {
+public:
+    explicit Pasek(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {}
+
+protected:
+    void keyPressEvent(QKeyEvent*) override;
 };
 
 // A text box that selects its whole text when it is entered, by key or by mouse, and tells when it is

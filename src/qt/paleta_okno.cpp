@@ -109,8 +109,10 @@ void PaletaOkno::showOkno(const OknoPalety& okno) {
     if (okno.otwarte == isVisible())
         return;
     setVisible(okno.otwarte);
-    if (okno.otwarte)
-        raise();
+    if (!okno.otwarte)
+        return;
+    raise();
+    activateWindow();
 }
 
 } // namespace dorva

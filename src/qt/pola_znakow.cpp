@@ -105,9 +105,10 @@ void PlanszaWidget::showOkno(const Okno& okno, Obrazki& obrazki) {
         compose();
     if (obrys_ == okno.obrys)
         return;
+    // On a fractional scale the line may lie on the neighbours' rims.
     for (int cell : {obrys_, okno.obrys})
         if (cell >= 0)
-            update(cellRect(cell, KRATKA_SIDE));
+            update(cellRect(cell, KRATKA_SIDE).adjusted(-1, -1, 1, 1));
     obrys_ = okno.obrys;
 }
 

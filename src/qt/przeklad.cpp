@@ -34,6 +34,8 @@ Tekst fromQString(const QString& text) {
     for (char32_t c : text.toUcs4()) {
         if (c >= SYMBOLE_STEROWANIA && c < SYMBOLE_STEROWANIA + ' ')
             result.znaki += static_cast<char>(c - SYMBOLE_STEROWANIA);
+        else if (c < ' ' || c == KOD_DEL)
+            result.znaki += ' ';
         else
             result.znaki += static_cast<char>(c == SYMBOL_DEL ? KOD_DEL : fromUnicode(c));
     }

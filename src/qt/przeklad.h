@@ -19,7 +19,7 @@ namespace dorva {
 QString toQString(std::string_view utf8);
 
 // The window's text for bytes of the code page. A control code is shown by its symbol, so that a box
-// always holds as many characters as the text.
+// always holds as many characters as the text. What a user types or pastes has none: they become spaces.
 QString toQString(const Tekst&);
 Tekst fromQString(const QString&);
 

@@ -41,6 +41,8 @@ QString startFolder(const fs::path& start) {
 }
 
 std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, const QString& accept) {
+    constexpr QSize SIZE(760, 460); // of Qt's own dialog: dates are read in full
+    dialog.resize(SIZE);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(nameFilters(question.filter));
     dialog.setDirectory(startFolder(question.start));
@@ -57,7 +59,7 @@ std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, co
 }
 
 bool hasInterpreterLine(const fs::path& program) {
-    const auto start = readFirst(SYSTEM_PLIKOW, program, 2);
+    const auto start = readOptional(SYSTEM_PLIKOW, program, 2);
     return start && (*start)[0] == '#' && (*start)[1] == '!';
 }
 

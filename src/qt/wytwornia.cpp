@@ -6,7 +6,6 @@
 #include "stage/obraz_etapu.h"
 
 #include <QCheckBox>
-#include <QScrollBar>
 
 namespace dorva {
 namespace {
@@ -50,20 +49,18 @@ QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
         return label;
     }
     case Rodzaj::Figura: {
-        auto* label = makeLabel<Etykieta>(k, parent);
-        label->setFrameStyle(QFrame::Box | QFrame::Plain);
+        auto* label = makeLabel<Figura>(k, parent);
         label->setAutoFillBackground(true); // so that nothing below is painted anew with it
         return label;
     }
     case Rodzaj::Probka: {
         auto* label = makeLabel<ProbkaKoloru>(k, parent);
-        label->setFrameStyle(QFrame::Box | QFrame::Plain);
         label->setAutoFillBackground(true);
         label->setFont(fontFigury());
         return label;
     }
     case Rodzaj::Pasek: {
-        auto* pasek = new QScrollBar(Qt::Horizontal, parent);
+        auto* pasek = new Pasek(parent);
         pasek->setRange(CEL_MIN, CEL_MAX);
         pasek->setPageStep(1);
         pasek->setTracking(false);

@@ -108,6 +108,19 @@ TEST_F(Malowanie, OneCellIsRepaintedForOneStroke) {
     EXPECT_EQ(counter.region, QRegion(160, 160, 16, 16));
 }
 
+// Runs once more on a screen of a fractional scale.
+TEST_F(Malowanie, TheOutlineLeavesNoTrail) {
+    moveTo(centreOf(45), Qt::NoButton);
+    QTest::qWait(30);
+    const QImage before = okno->screen()->grabWindow(okno->winId()).toImage();
+    for (int cell : {46, 87, 128, 169, 210, 251, 211, 171, 45}) {
+        moveTo(centreOf(cell), Qt::NoButton);
+        QTest::qWait(10);
+    }
+    EXPECT_FALSE(before.isNull());
+    EXPECT_EQ(okno->screen()->grabWindow(okno->winId()).toImage(), before);
+}
+
 TEST_F(Malowanie, PicturesAreTheStripsPixelsInEveryWorld) {
     for (int swiat : {0, 1, 2}) {
         click(QString("optObiektyNR(%1)").arg(swiat));

@@ -4,6 +4,7 @@
 #include "tiles/kolory.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDialog>
 #include <QLabel>
 #include <QScrollBar>
@@ -84,6 +85,15 @@ TEST_F(OknoTest, TypingInTheMiddleKeepsTheCursor) {
     EXPECT_EQ(autor->cursorPosition(), 4);
 }
 
+TEST_F(OknoTest, PastedControlCharactersBecomeSpaces) {
+    open();
+    QApplication::clipboard()->setText("ab\ncd\te\x01\x7f");
+    click("txtAutorGry(1)");
+    box("txtAutorGry(1)")->paste();
+    click("txtAutorGry(2)");
+    EXPECT_EQ(e.okno.txtAutorGry[1].tekst.znaki, "AB CD E  " + std::string(11, ' '));
+}
+
 TEST_F(OknoTest, TextThatABoxCannotShowSurvives) {
     Bajty title(60, 'A');
     for (std::size_t i = 0; i < 33; ++i)
@@ -119,7 +129,7 @@ TEST_F(OknoTest, FiguresAndBoxesAnswerClicks) {
     const QString masks = find<QLabel>("lblInfo(2)")->text();
     EXPECT_EQ(QString::number(bar->value()), masks);
     EXPECT_NE(colour("lblInfo(3)", QPalette::WindowText), qRgb(255, 0, 0));
-    bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    QTest::keyClick(bar, Qt::Key_Right);
     EXPECT_EQ(find<QLabel>("lblInfo(3)")->text(), QString::number(masks.toInt() + 1));
     EXPECT_EQ(colour("lblInfo(2)", QPalette::WindowText), qRgb(255, 0, 0));
 }

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileDialog>
+#include <QStandardPaths>
 
 namespace dorva::test {
 namespace {
@@ -53,6 +54,8 @@ TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
     whenAskedChoose({});
     click("cmdLoadArch");
     EXPECT_EQ(find<QLabel>("lblInfo(3)")->text(), "9");
+    EXPECT_FALSE(
+        QFile::exists(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/QtProject.conf"));
 }
 
 TEST_F(Rozmowy, AnExistingFileIsReplacedOnlyWhenAsked) {
