@@ -60,8 +60,17 @@ fuzz() {
     awk '/number_of_executed_units/ { sum += $2 } END { print sum " executions" }' $logs/fuzz.log
 }
 
+# The documents' examples against the built files.
+documents() { scripts/docs-check.sh; }
+
+# The package unpacked, used, and unpacked again over itself.
+package() { scripts/package.sh && scripts/package-check.sh; }
+
+# The sample game in the emulator, where there is one.
+play() { scripts/play-check.sh; }
+
 failed=0
-for step in ${@:-format sanitizers failures coverage findings fuzz}; do
+for step in ${@:-format sanitizers failures coverage findings fuzz documents package play}; do
     SECONDS=0
     if $step >$logs/"$step".log 2>&1; then
         printf 'ok      %-11s %4d s  %s\n' "$step" $SECONDS "$(tail -n 1 $logs/"$step".log)"
