@@ -103,7 +103,10 @@ PaletaOkno::PaletaOkno(QWidget* parent)
 
 void PaletaOkno::showOkno(const OknoPalety& okno) {
     for (std::size_t i = 0; i < picPaleta_.size(); ++i)
-        setColour(picPaleta_[i], QPalette::Window, toQColor(okno.picPaleta[i]));
+        if (shown_[i] != okno.picPaleta[i]) {
+            shown_[i] = okno.picPaleta[i];
+            setColour(picPaleta_[i], QPalette::Window, toQColor(okno.picPaleta[i]));
+        }
     setColour(picWybrany_, QPalette::Window, toQColor(okno.picWybrany));
     lblWybrany_->setText(toQString(okno.lblWybrany));
     if (okno.otwarte == isVisible())

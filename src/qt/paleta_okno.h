@@ -7,6 +7,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 class QLabel;
 
@@ -24,6 +25,7 @@ public:
 private:
     class Komorka;
     std::array<Komorka*, 128> picPaleta_{};
+    std::array<std::optional<Rgb>, 128> shown_; // the colours of the cells
     QWidget* picWybrany_;
     QLabel* lblWybrany_;
 };
