@@ -1,5 +1,6 @@
 // Start-up to the first painted frame: the editor with its whole working folder beside a bare window of the
-// same size. Each run is a process of its own; editor and bare window take turns.
+// same size, and beside the same with one line of text, since the first letter brings the whole font system
+// in. Each run is a process of its own; the three take turns.
 //
 //     dorva_bench_start FOLDER        FOLDER is a program folder, for example planszownik/
 #include "shell/start.h"
@@ -7,13 +8,14 @@
 #include "qt/okno_glowne.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPaintEvent>
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
+#include <string_view>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -46,10 +48,12 @@ void runEditor(int argc, char** argv, const std::filesystem::path& folder) {
     QApplication::exec();
 }
 
-void runBare(int argc, char** argv) {
+void runBare(int argc, char** argv, const char* text) {
     QApplication application(argc, argv);
     QWidget window;
     window.setFixedSize(dorva::OKNO_WIDTH, dorva::OKNO_HEIGHT);
+    if (text)
+        new QLabel(text, &window);
     FirstFrame firstFrame;
     window.installEventFilter(&firstFrame);
     window.show();
@@ -92,19 +96,26 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (argc == 3) {
-        const std::filesystem::path folder = std::filesystem::absolute(argv[2]);
-        std::strcmp(argv[1], "editor") == 0 ? runEditor(argc, argv, folder) : runBare(argc, argv);
+        const std::string_view mode = argv[1];
+        if (mode == "editor")
+            runEditor(argc, argv, std::filesystem::absolute(argv[2]));
+        else
+            runBare(argc, argv, mode == "text" ? "Dorva" : nullptr);
         return 1;
     }
     constexpr int RUNS = 21;
-    std::vector<Figures> editor, bare;
+    std::vector<Figures> editor, bare, text;
     for (int run = 0; run < RUNS; ++run) {
         bare.push_back(measure(argv[0], "bare", argv[1]));
+        text.push_back(measure(argv[0], "text", argv[1]));
         editor.push_back(measure(argv[0], "editor", argv[1]));
     }
     const double ms = median(editor, &Figures::milliseconds), bareMs = median(bare, &Figures::milliseconds);
+    const double textMs = median(text, &Figures::milliseconds);
     const double kb = median(editor, &Figures::peakKilobytes), bareKb = median(bare, &Figures::peakKilobytes);
     std::printf("start-up to first frame: %.1f ms, bare window %.1f ms, ratio %.2f\n", ms, bareMs, ms / bareMs);
+    std::printf("a bare window with one word: %.1f ms, ratio %.2f; the editor beside it %.2f\n", textMs,
+                textMs / bareMs, ms / textMs);
     std::printf("peak memory: %.1f MiB, bare window %.1f MiB, %.1f MiB more\n", kb / 1024, bareKb / 1024,
                 (kb - bareKb) / 1024);
     return 0;
