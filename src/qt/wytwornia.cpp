@@ -29,8 +29,11 @@ QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
         setColour(pole, QPalette::Window, QColor::fromRgb(SZARY));
         return pole;
     }
-    case Rodzaj::Przycisk:
-        return new Przycisk(toQString(k.caption), parent);
+    case Rodzaj::Przycisk: {
+        auto* przycisk = new Przycisk(toQString(k.caption), parent);
+        przycisk->setAutoDefault(true); // the Enter key presses it, as it does in a dialog
+        return przycisk;
+    }
     case Rodzaj::Opcja: {
         auto* opcja = new Przycisk(toQString(k.caption), parent);
         opcja->setCheckable(true);

@@ -75,7 +75,7 @@ TEST_F(Rozmowy, ClearingAsksAndStays) {
     click("cmdCzysc");
     EXPECT_EQ(cellOf(45), znak(45));
     whenAskedPress("Tak");
-    click("cmdCzysc");
+    QTest::keyClick(find("cmdCzysc"), Qt::Key_Return);
     EXPECT_EQ(cellOf(45), ZIEMIA);
     EXPECT_EQ(find<QLineEdit>("txtNazwa")->text(), QString(32, ' '));
 }
