@@ -15,6 +15,7 @@ namespace {
 constexpr int FONT_PIXELS = 11;
 constexpr int FONT_STALY_PIXELS = 13, ZNAK_PIXELS = 8;
 constexpr QColor WYBRANY_KOLOR(0x8C, 0xB4, 0xE4); // of a button that is selected
+
 // One family by name: a font with a list of families looks for all its substitutes at once, and that takes
 // longer than all else at the start.
 QString firstInstalled(std::initializer_list<const char*> families) {

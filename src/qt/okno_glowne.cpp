@@ -43,6 +43,7 @@ struct OknoGlowne::OpcjeOkna {
     int Okno::*selected;
 };
 
+// In the order of Pole.
 const OknoGlowne::PoleOkna OknoGlowne::POLA[]{{"txtNazwa", -1, Pole::Nazwa},
                                               {"txtAutor", -1, Pole::Autor},
                                               {"txtAutorGry", 0, Pole::AutorGry0},
@@ -286,10 +287,8 @@ void OknoGlowne::showKolory() {
 
 // A box is written only where it shows another text than the record's, so that typing keeps the cursor.
 void OknoGlowne::showTexts() {
-    if (caption_ != e_.okno.caption) {
-        caption_ = e_.okno.caption;
-        setWindowTitle(toQString(caption_));
-    }
+    if (shown_.caption != e_.okno.caption)
+        setWindowTitle(toQString(e_.okno.caption));
     for (std::size_t i = 0; i < pola_.size(); ++i) {
         const PoleTekstu& pole = poleOf(e_.okno, POLA[i].pole);
         PoleEdycji* box = pola_[i];
@@ -301,7 +300,7 @@ void OknoGlowne::showTexts() {
         if (shownOnce_ && pole.zaznaczenia != poleOf(shown_, POLA[i].pole).zaznaczenia)
             box->selectAll();
     }
-    pola_[1]->setEnabled(e_.okno.txtAutorEnabled);
+    pola_[static_cast<std::size_t>(Pole::Autor)]->setEnabled(e_.okno.txtAutorEnabled);
 }
 
 void OknoGlowne::showPaleta() {

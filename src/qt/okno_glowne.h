@@ -79,8 +79,7 @@ private:
     QScrollBar* hscMonet_;
     PaletaOkno* dlgPaleta_ = nullptr; // made when first opened
 
-    std::string caption_; // of the title bar
-    Okno shown_;          // the record as the labels and boxes show it
+    Okno shown_; // the record as the labels and boxes show it
     bool shownOnce_ = false;
 };
 

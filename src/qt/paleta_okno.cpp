@@ -5,8 +5,6 @@
 #include "qt/przeklad.h"
 #include "tiles/paleta_barw.h"
 
-#include <QMouseEvent>
-#include <QPainter>
 #include <QPushButton>
 
 namespace dorva {
@@ -28,38 +26,15 @@ QLabel* addLabel(QWidget* parent, const QString& name, const QString& text, QRec
 }
 
 // A field of one colour within a thin border.
-class PoleBarwy : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setPen(Qt::black);
-        painter.setBrush(palette().window());
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
-};
+Figura* addPole(QWidget* parent, const QString& name, QRect place) {
+    auto* pole = new Figura(parent);
+    pole->setObjectName(name);
+    pole->setGeometry(place);
+    pole->setAutoFillBackground(true);
+    return pole;
+}
 
 } // namespace
-
-// A cell of the palette: clicked when pressed and released within it.
-class PaletaOkno::Komorka : public PoleBarwy {
-public:
-    using PoleBarwy::PoleBarwy;
-    std::function<void()> onClick;
-
-protected:
-    void mousePressEvent(QMouseEvent* event) override { pressed_ = event->button() == Qt::LeftButton; }
-    void mouseReleaseEvent(QMouseEvent* event) override {
-        if (pressed_ && event->button() == Qt::LeftButton && rect().contains(event->pos()))
-            onClick();
-        pressed_ = false;
-    }
-
-private:
-    bool pressed_ = false;
-};
 
 PaletaOkno::PaletaOkno(QWidget* parent)
     : QDialog(parent, Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
@@ -72,9 +47,8 @@ PaletaOkno::PaletaOkno(QWidget* parent)
     fraPaleta->setGeometry(FRA_PALETA);
     const QCursor hand = kursorPalety();
     for (int i = 0; i < COLUMNS * ROWS; ++i) {
-        auto* cell = new Komorka(fraPaleta);
-        cell->setObjectName(QString("picPaleta(%1)").arg(i));
-        cell->setGeometry(i % COLUMNS * CELL_PITCH, i / COLUMNS * CELL_PITCH, CELL_SIDE, CELL_SIDE);
+        Figura* cell = addPole(fraPaleta, QString("picPaleta(%1)").arg(i),
+                               {i % COLUMNS * CELL_PITCH, i / COLUMNS * CELL_PITCH, CELL_SIDE, CELL_SIDE});
         cell->setToolTip(toQString(kolorText(2 * i)));
         cell->setCursor(hand);
         cell->onClick = [this, i] { onPick(i); };
@@ -88,9 +62,7 @@ PaletaOkno::PaletaOkno(QWidget* parent)
         addLabel(this, QString("lblPaleta(%1)").arg(COLUMNS + r), digit(r),
                  {0, FRA_PALETA.top() + CELL_PITCH * r, CELL_SIDE, CELL_SIDE});
 
-    picWybrany_ = new PoleBarwy(this);
-    picWybrany_->setObjectName("picWybrany");
-    picWybrany_->setGeometry(PIC_WYBRANY);
+    picWybrany_ = addPole(this, "picWybrany", PIC_WYBRANY);
     lblWybrany_ = addLabel(this, "lblWybrany", "0", LBL_WYBRANY);
     lblWybrany_->setFrameStyle(QFrame::Box | QFrame::Plain);
 

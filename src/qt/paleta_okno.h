@@ -13,6 +13,8 @@ class QLabel;
 
 namespace dorva {
 
+class Figura;
+
 class PaletaOkno : public QDialog {
 public:
     explicit PaletaOkno(QWidget* parent);
@@ -23,8 +25,7 @@ public:
     void showOkno(const OknoPalety&);
 
 private:
-    class Komorka;
-    std::array<Komorka*, 128> picPaleta_{};
+    std::array<Figura*, 128> picPaleta_{};
     std::array<std::optional<Rgb>, 128> shown_; // the colours of the cells
     QWidget* picWybrany_;
     QLabel* lblWybrany_;
