@@ -41,12 +41,13 @@ record() {
         } }'
 }
 
-# run_of STAGE: the recorded run. Its first move also ends the greeting, so it takes a frame more than in the rules.
+# run_of STAGE: the recorded run, its steps as taps of two frames in six. Its first move also ends the greeting, so it
+# takes a frame more than in the rules.
 run_of() {
-    awk '{ for (i = 1; i <= NF; ++i) {
-        n = substr($i, 2) + (++count == 1)
-        printf "%s%d ", substr($i, 1, 1), n
-    } }' "$runs/etap$1.txt"
+    awk 'NR > 1 { for (i = 1; i <= NF; ++i)
+        for (n = substr($i, 2); n > 0; --n)
+            printf "%s%d -4 ", substr($i, 1, 1), ++count == 1 ? 3 : 2
+    }' "$runs/etap$1.txt"
 }
 
 # emulate FILE [OPTION...]: runs FILE with the input $work/input and the monitor commands $work/commands.

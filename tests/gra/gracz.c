@@ -1,40 +1,91 @@
-/* A simple-minded player: `gracz STAGE` looks for a way through a stage file and prints it as a recorded run, in the
-   form that odtworz reads. It goes for the nearest thing worth having, keeps away from what moves, and tries again with
-   other chances when it fails. It never pushes, bombs or leaps: a stage that it finishes can surely be finished. Ends
-   with 0 if it has found a way. */
+/* The player of the stages, in the real rules:
+     gracz graj STAGE RUN     plays a recorded run; ends with 0 if she goes through the exit
+     gracz szukaj STAGE RUN   follows the plan of a run with care and prints the run anew
+     gracz smialek STAGE RUN  follows the plan without any fear, three lives long: prints lives lost and "tak" or "nie"
+
+   STAGE is a stage file, RUN a text of two parts. Its first line is the plan, the rest its recording. Both consist of
+   letters with a count: `R12` is twelve steps to the right (L R U D), `F1` the trigger, `-3` waits three steps long. A
+   step is a tap of the stick, six ticks in all. A plan also knows `12,7`, go to column 12 of row 7, and `*`, take all
+   masks, keys and the torch within reach and go through the exit; every plan ends with such a one.
+
+   The careful player tries in the real rules what comes of going on; if that hurts, it tries to wait or to step aside
+   first and takes what hurts least. Nobody tells it where danger is, so a stage that it finishes can be finished. */
 #include "reguly.h"
+#include <ctype.h>
 #include <fcntl.h>
 #include <stdio.h>
 #include <string.h>
 #include <unistd.h>
 
 enum { ETAP_PLANSZA = 32, ETAP_CEL = 832, ETAP_BAJTY = 931 };
-enum { PROBY = 8, KROKOW = 900, KROK = 6, DALEKO = 0xFFFF, NIE = 255 };
+enum { PROBY = 6, KROKOW = 1500, KROK = 6, DOTKNIECIE = 2, DALEKO = 0xFFFF, NIE = 255 };
+enum { RUCHOME = 61 };                            /* creatures and smoke: in the way now, gone tomorrow */
+enum { CZEKA = 4, SPUST = 5, WSZYSTKO = 0xFFFE }; /* CZEKA and SPUST follow the four directions */
+enum { POMYSLY = 40, RUCHY = 3, SMIERC = 1000 };
 
 /* What a cell costs to enter, by tile; NIE: not at all. Doors and the exit depend on more. */
-static const byte ceny[64] = {4,   4,   120, 4,   4,   NIE, NIE, NIE, 12,  NIE, NIE, 24,  4,   4,   4,   NIE,
-                              4,   NIE, NIE, 80,  80,  80,  80,  NIE, NIE, NIE, NIE, NIE, NIE, NIE, NIE, NIE,
-                              NIE, NIE, 4,   100, NIE, NIE, NIE, NIE, NIE, NIE, NIE, 80,  80,  80,  80,  80,
-                              80,  160, NIE, NIE, NIE, NIE, NIE, NIE, NIE, 4,   NIE, NIE, NIE, NIE, NIE, NIE};
-static const byte strach[4] = {200, 200, 90, 30}; /* by the distance to a creature */
+static const byte ceny[64] = {4,  4,   120, 4,   4,   NIE, NIE, NIE, 12,  NIE, NIE, 24,  4,   4,   4,   NIE,
+                              4,  NIE, NIE, 40,  40,  40,  40,  NIE, 61,  61,  61,  61,  61,  61,  61,  61,
+                              61, 61,  4,   100, 61,  61,  61,  61,  NIE, NIE, NIE, 40,  40,  40,  40,  40,
+                              40, 160, NIE, NIE, NIE, NIE, NIE, NIE, NIE, 4,   NIE, NIE, NIE, NIE, NIE, NIE};
+static const byte strach[4] = {60, 60, 30, 10}; /* by the distance to a creature */
 
 static const int obok[4] = {-1, 1, -KOLUMNY, KOLUMNY};
-static const char litera[4] = {'L', 'R', 'U', 'D'};
+static const char litery[] = "LRUD-F";
 static const byte stan_drazka[4] = {15 - LEWO, 15 - PRAWO, 15 - GORA, 15 - DOL};
 
 static byte rekord[ETAP_BAJTY];
+static char tekst[8192];          /* the run as read; its plan */
+static char* plan;                /* what is still to be done of it */
+static char przebieg[KROKOW + 8]; /* a letter a step */
+static unsigned dlugosc;
+static byte smialek;
+static unsigned los_stan;
+
 static byte cena[POLA];
 static unsigned odleglosc[POLA];
 static byte skad[POLA];
 static byte w_kolejce[POLA];
 static unsigned kolejka[1024];
-static char przebieg[KROKOW + 8]; /* a letter a step */
-static unsigned dlugosc;
-static unsigned los_stan;
+static byte droga[POLA]; /* the way to the goal, its last step first */
+static unsigned kroki_drogi;
+
+/* The rules as they were at a moment. */
+static struct {
+    byte plansza[POLA], pod[POLA], stan[POLA], zapach[POLA], zp[256], bss[256];
+    unsigned dlugosc;
+} chwila;
+
+/* What to do before going on: up to three moves of a kind, each a number of steps long. */
+static byte ruch[POMYSLY][RUCHY], ile[POMYSLY][RUCHY];
+
+static void zapisz(void) {
+    memcpy(chwila.plansza, plansza, POLA);
+    memcpy(chwila.pod, pod, POLA);
+    memcpy(chwila.stan, stan, POLA);
+    memcpy(chwila.zapach, zapach, POLA);
+    memcpy(chwila.zp, zp_poczatek, zp_koniec - zp_poczatek);
+    memcpy(chwila.bss, bss_poczatek, bss_koniec - bss_poczatek);
+    chwila.dlugosc = dlugosc;
+}
+
+static void przywroc(void) {
+    memcpy(plansza, chwila.plansza, POLA);
+    memcpy(pod, chwila.pod, POLA);
+    memcpy(stan, chwila.stan, POLA);
+    memcpy(zapach, chwila.zapach, POLA);
+    memcpy(zp_poczatek, chwila.zp, zp_koniec - zp_poczatek);
+    memcpy(bss_poczatek, chwila.bss, bss_koniec - bss_poczatek);
+    dlugosc = chwila.dlugosc;
+}
 
 static byte los(void) {
     los_stan = los_stan * 25173u + 13849u;
     return (byte)(los_stan >> 8);
+}
+
+static unsigned tu(void) {
+    return dorva_y * KOLUMNY + dorva_x;
 }
 
 static byte znak(unsigned i) {
@@ -45,13 +96,29 @@ static byte jest_stworem(byte z) {
     return (z >= 24 && z <= 29) || (z >= 36 && z <= 39);
 }
 
-static void podroz(unsigned i, byte o) {
-    if (cena[i] != NIE)
+/* One step of time: the stick is tapped, or the trigger, or nothing. */
+static void krok(byte co) {
+    byte i;
+    if (dlugosc < KROKOW)
+        przebieg[dlugosc++] = litery[co];
+    drazek = co < CZEKA ? stan_drazka[co] : 15;
+    spust = co != SPUST;
+    for (i = 0; i < KROK && !wynik; ++i) {
+        if (i == DOTKNIECIE) {
+            drazek = 15;
+            spust = 1;
+        }
+        takt();
+    }
+}
+
+static void zdrozej(unsigned i, byte o) {
+    if (i < POLA && cena[i] != NIE)
         cena[i] = cena[i] > 250 - o ? 250 : cena[i] + o;
 }
 
 /* Prices of all cells: tiles, then what creatures and shooters make of their surroundings. */
-static void wycen(void) {
+static void wycen(unsigned cel) {
     unsigned i, j;
     byte z, k;
     signed char dx, dy;
@@ -62,27 +129,28 @@ static void wycen(void) {
             if ((z == 9 && otwarte) || (z == 10 && klucze))
                 cena[i] = 8;
             else if (ceny[z] != NIE)
-                cena[i] = ceny[z] + (los() & 1);
+                cena[i] = smialek && ceny[z] == RUCHOME ? NIE : ceny[z] + (los() & 1);
         }
-    for (i = 0; i < POLA; ++i) {
+    if (cel < POLA && znak(cel) == 55)
+        cena[cel] = 4;
+    for (i = 0; i < POLA && !smialek; ++i) {
         z = znak(i);
         if (jest_stworem(z))
             for (dy = -3; dy <= 3; ++dy)
                 for (dx = -3; dx <= 3; ++dx) {
                     k = (dx < 0 ? -dx : dx) + (dy < 0 ? -dy : dy);
-                    j = i + dy * KOLUMNY + dx;
-                    if (k <= 3 && j < POLA)
-                        podroz(j, strach[k]);
+                    if (k <= 3)
+                        zdrozej(i + dy * KOLUMNY + dx, strach[k]);
                 }
         if (z == 18 || (z >= 40 && z <= 42))
             for (k = 0; k < 4; ++k)
-                for (j = i + obok[k]; j < POLA && (cena[j] != NIE); j += obok[k])
-                    podroz(j, 24);
+                for (j = i + obok[k]; j < POLA && cena[j] != NIE; j += obok[k])
+                    zdrozej(j, 12);
     }
 }
 
 /* What a cell is worth: the smaller, the better; DALEKO: nothing. */
-static unsigned cel(unsigned i) {
+static unsigned wartosc(unsigned i) {
     switch (znak(i)) {
     case 9:
         return otwarte ? 0 : DALEKO;
@@ -92,21 +160,20 @@ static unsigned cel(unsigned i) {
     case 57:
         return 800;
     case 16:
-        return energia < 60 ? 680 : DALEKO;
+        return energia < 60 && !smialek ? 680 : DALEKO;
     default:
         return DALEKO;
     }
 }
 
 /* Distances from the heroine to all cells, by price. */
-static void zmierz(unsigned start_tu) {
+static void zmierz(void) {
     unsigned glowa = 0, ogon = 0, i, j, d;
     byte k;
-    for (i = 0; i < POLA; ++i)
-        odleglosc[i] = DALEKO;
+    memset(odleglosc, 0xFF, sizeof(odleglosc));
     memset(w_kolejce, 0, POLA);
-    odleglosc[start_tu] = 0;
-    kolejka[ogon++] = start_tu;
+    odleglosc[tu()] = 0;
+    kolejka[ogon++] = tu();
     while (glowa != ogon) {
         i = kolejka[glowa];
         glowa = (glowa + 1) & 1023;
@@ -129,88 +196,276 @@ static void zmierz(unsigned start_tu) {
     }
 }
 
-static void krok(byte kierunek) {
-    byte i;
-    drazek = kierunek < 4 ? stan_drazka[kierunek] : 15;
-    przebieg[dlugosc++] = kierunek < 4 ? litera[kierunek] : '-';
-    for (i = 0; i < KROK && !wynik; ++i)
-        takt();
+/* Looks for the way to a cell, or to the best of WSZYSTKO. 1: there is one. */
+static byte znajdz_droge(unsigned cel) {
+    unsigned i, d, najlepszy = DALEKO;
+    kroki_drogi = 0;
+    wycen(cel);
+    zmierz();
+    if (cel == WSZYSTKO)
+        for (i = 0; i < POLA; ++i) {
+            d = wartosc(i);
+            if (d != DALEKO && odleglosc[i] != DALEKO && d + odleglosc[i] < najlepszy) {
+                najlepszy = d + odleglosc[i];
+                cel = i;
+            }
+        }
+    if (cel == WSZYSTKO || odleglosc[cel] == DALEKO)
+        return 0;
+    for (i = cel; i != tu(); i -= obok[skad[i]])
+        droga[kroki_drogi++] = skad[i];
+    return 1;
 }
 
-/* Does anything move near her? */
-static byte cos_sie_rusza(void) {
-    const byte gora = dorva_y > 6 ? dorva_y - 6 : 0, dol = dorva_y < 13 ? dorva_y + 6 : 19;
-    const byte lewo = dorva_x > 7 ? dorva_x - 7 : 0, prawo = dorva_x < 32 ? dorva_x + 7 : 39;
-    byte w, k, z;
-    for (w = gora; w <= dol; ++w)
-        for (k = lewo; k <= prawo; ++k) {
-            z = znak(w * KOLUMNY + k);
-            if (jest_stworem(z) || (z >= 19 && z <= 22) || (z >= 43 && z <= 48))
-                return 1;
+/* Goes a number of steps of the way, through thickets as well. A leap ends it. */
+static void idz(byte kroki) {
+    unsigned skok;
+    byte t;
+    for (; kroki && kroki_drogi && !wynik; --kroki) {
+        skok = tu() + obok[droga[--kroki_drogi]];
+        for (t = znak(skok) == 8 && !pochodnia ? 3 : 1; t && !wynik; --t)
+            krok(droga[kroki_drogi]);
+        if (tu() != skok && tu() != skok - obok[droga[kroki_drogi]])
+            kroki_drogi = 0;
+    }
+}
+
+/* The first ideas are to wait, the next to go straight off, the others to wander. */
+static void wymysl(void) {
+    byte i, k;
+    memset(ile, 0, sizeof(ile));
+    for (i = 1; i < POMYSLY; ++i) {
+        if (i < 6) {
+            ruch[i][0] = CZEKA;
+            ile[i][0] = i < 4 ? i : i * 2;
+            continue;
         }
+        for (k = 0; k < RUCHY; ++k) {
+            ruch[i][k] = los() & 3;
+            ile[i][k] = (los() & 7) + 1;
+        }
+        ruch[i][2] = CZEKA;
+        if (i < 18)
+            ile[i][1] = 0;
+    }
+}
+
+static void zacznij(byte pomysl) {
+    byte k, n;
+    for (k = 0; k < RUCHY; ++k)
+        for (n = ile[pomysl][k]; n && !wynik; --n)
+            krok(ruch[pomysl][k]);
+}
+
+/* What an idea costs: energy within the next steps, or her life. */
+static unsigned sprawdz(byte pomysl, unsigned cel, const char* ciag, byte daleko) {
+    const byte bylo = energia;
+    byte n;
+    zacznij(pomysl);
+    if (ciag)
+        for (n = 0; n < daleko && ciag[n] && !wynik; ++n)
+            krok(strchr(litery, ciag[n]) - litery);
+    else if (!wynik && !znajdz_droge(cel))
+        return energia < bylo ? 5 + bylo - energia : 5;
+    else
+        idz(daleko);
+    if (wynik == DORVA_GINIE)
+        return SMIERC;
+    return energia < bylo ? bylo - energia : 0;
+}
+
+/* The idea that hurts least. Steps of a sequence may be put off, but she doesn't leave their place. */
+static byte wybierz(unsigned cel, const char* ciag, byte daleko) {
+    const byte pomysly = ciag ? 6 : POMYSLY;
+    byte i, najlepszy = 0;
+    unsigned strata, najmniej = DALEKO;
+    wymysl();
+    zapisz();
+    for (i = 0; i < pomysly && najmniej; ++i) {
+        strata = sprawdz(i, cel, ciag, daleko);
+        if (strata < najmniej) {
+            najmniej = strata;
+            najlepszy = i;
+        }
+        przywroc();
+    }
+    return najlepszy;
+}
+
+static byte cos_sie_rusza(void) {
+    unsigned i;
+    byte z;
+    for (i = 0; i < POLA; ++i) {
+        z = znak(i);
+        if (z >= 18 && z <= 48 && z != 34 && z != 35)
+            return 1;
+    }
     return 0;
 }
 
-/* One try. 1: she is through the exit. */
-static byte sprobuj(unsigned proba) {
-    static byte droga[POLA];
-    unsigned tu, i, najblizej, najlepszy, d;
-    unsigned n;
-    byte kroki, t;
-    memcpy(plansza, rekord + ETAP_PLANSZA, POLA);
-    cel_masek = rekord[ETAP_CEL];
-    nowa_gra();
-    spust = 1;
-    dlugosc = 0;
-    los_stan = 1 + proba * 7919u;
-    if (!start())
-        return 0;
-    while (!wynik && dlugosc < KROKOW - 16) {
-        tu = dorva_y * KOLUMNY + dorva_x;
-        wycen();
-        zmierz(tu);
-        najlepszy = DALEKO;
-        najblizej = tu;
-        for (i = 0; i < POLA; ++i) {
-            d = cel(i);
-            if (d != DALEKO && odleglosc[i] != DALEKO && d + odleglosc[i] < najlepszy) {
-                najlepszy = d + odleglosc[i];
-                najblizej = i;
-            }
-        }
-        kroki = cos_sie_rusza() ? 2 : 16;
-        if (najblizej == tu || (kroki == 2 && los() < 8)) {
-            krok(4); /* nothing to go for, or a moment's patience */
+/* Goes to a cell or takes what it can get. */
+static void dojdz(unsigned cel, byte daleko) {
+    unsigned skad_idzie;
+    while (!wynik && dlugosc < KROKOW) {
+        if (tu() == cel)
+            return;
+        if (!smialek && cos_sie_rusza())
+            zacznij(wybierz(cel, 0, daleko));
+        if (wynik)
+            return;
+        if (!znajdz_droge(cel)) {
+            if (cel == WSZYSTKO && (*plan || !cos_sie_rusza()))
+                return;
+            krok(CZEKA);
             continue;
         }
-        for (n = 0, i = najblizej; i != tu; i -= obok[skad[i]])
-            droga[n++] = skad[i];
-        for (i = tu; n && kroki && !wynik; --kroki) {
-            i += obok[droga[--n]];
-            for (t = znak(i) == 8 && !pochodnia ? 3 : 1; t; --t)
-                krok(droga[n]);
+        skad_idzie = tu();
+        idz(smialek ? 1 : 2);
+        if (cel != WSZYSTKO && !kroki_drogi && tu() != skad_idzie) /* there, or leapt from there */
+            return;
+    }
+}
+
+static void wykonaj(const char* ciag, byte daleko) {
+    for (; *ciag && !wynik && dlugosc < KROKOW; ++ciag) {
+        if (!smialek && cos_sie_rusza())
+            zacznij(wybierz(0, ciag, daleko));
+        krok(strchr(litery, *ciag) - litery);
+    }
+}
+
+static unsigned liczba(void) {
+    unsigned n = 0;
+    for (; isdigit(*plan); ++plan)
+        n = n * 10 + (*plan - '0');
+    return n;
+}
+
+/* Follows the plan from its start. 1: she is through the exit. */
+static byte sprobuj(byte proba) {
+    static char ciag[100];
+    const byte daleko = 8 + proba * 3;
+    unsigned n;
+    char litera;
+    byte k;
+    memcpy(plansza, rekord + ETAP_PLANSZA, POLA);
+    cel_masek = rekord[ETAP_CEL];
+    dlugosc = 0;
+    los_stan = 1 + proba * 7919u;
+    spust = 1;
+    if (!start())
+        return 0;
+    for (n = 0; n < proba * 5; ++n)
+        krok(CZEKA);
+    plan = tekst;
+    while (!wynik && dlugosc < KROKOW) {
+        for (k = 0;;) { /* steps in a row belong together */
+            while (*plan == ' ')
+                ++plan;
+            litera = *plan;
+            if (!litera || !strchr(litery, litera))
+                break;
+            ++plan;
+            for (n = liczba(); n && k < 99; --n)
+                ciag[k++] = litera;
         }
+        ciag[k] = 0;
+        wykonaj(ciag, daleko);
+        if (isdigit(litera)) {
+            n = liczba();
+            ++plan;
+            dojdz(n + liczba() * KOLUMNY, daleko);
+        } else if (litera == '*') {
+            ++plan;
+            dojdz(WSZYSTKO, daleko);
+        } else
+            break;
     }
     return wynik == ETAP_PRZESZLA;
 }
 
-int main(int argc, char* argv[]) {
-    const int plik = argc == 2 ? open(argv[1], O_RDONLY) : -1;
+static void wypisz(void) {
     unsigned i, j;
     byte kolumna = 0;
-    if (plik < 0 || read(plik, rekord, ETAP_BAJTY) != ETAP_BAJTY) {
-        printf("usage: gracz STAGE\n");
-        return 2;
-    }
-    for (i = 0; i < PROBY && !sprobuj(i); ++i)
-        printf("; try %u: result %u after %u steps, masks %u, energy %u\n", i, wynik, dlugosc, brak_masek, energia);
-    if (i == PROBY)
-        return 1;
+    printf("%s\n", tekst);
     for (i = 0; i < dlugosc; i = j) {
         for (j = i; j < dlugosc && przebieg[j] == przebieg[i]; ++j) {
         }
-        printf("%c%u%c", przebieg[i], (j - i) * KROK, ++kolumna % 16 ? ' ' : '\n');
+        printf("%c%u%c", przebieg[i], j - i, ++kolumna % 24 && j < dlugosc ? ' ' : '\n');
     }
-    printf("\n");
+}
+
+static byte szukaj(void) {
+    byte i;
+    for (i = 0; i < PROBY; ++i) {
+        nowa_gra();
+        if (sprobuj(i)) {
+            wypisz();
+            return 0;
+        }
+        printf("; try %u: result %u after %u steps at %u,%u, masks %u, energy %u, plan %s\n", i, wynik, dlugosc,
+               dorva_x, dorva_y, brak_masek, energia, plan);
+    }
+    return 1;
+}
+
+static byte badz_smialy(void) {
+    byte stracone;
+    smialek = 1;
+    nowa_gra();
+    for (stracone = 0; stracone < 3; ++stracone)
+        if (sprobuj(stracone))
+            break;
+    printf("%u %s\n", stracone, stracone < 3 ? "tak" : "nie");
     return 0;
+}
+
+static byte graj(const char* p) {
+    unsigned n;
+    nowa_gra();
+    memcpy(plansza, rekord + ETAP_PLANSZA, POLA);
+    cel_masek = rekord[ETAP_CEL];
+    spust = 1;
+    start();
+    while (*p && !wynik) {
+        const char* litera = strchr(litery, *p++);
+        if (!litera || !litera[0])
+            continue;
+        for (n = 0; isdigit(*p); ++p)
+            n = n * 10 + (*p - '0');
+        for (; n && !wynik; --n)
+            krok(litera - litery);
+    }
+    printf("result %u energy %u masks %u at %u,%u\n", wynik, energia, brak_masek, dorva_x, dorva_y);
+    return wynik != ETAP_PRZESZLA;
+}
+
+static int wczytaj(const char* nazwa, void* dokad, unsigned ile_bajtow) {
+    const int plik = open(nazwa, O_RDONLY);
+    const int bajty = plik < 0 ? -1 : read(plik, dokad, ile_bajtow);
+    if (plik >= 0)
+        close(plik);
+    return bajty;
+}
+
+int main(int argc, char* argv[]) {
+    char* nagranie;
+    if (argc != 4 || wczytaj(argv[2], rekord, ETAP_BAJTY) != ETAP_BAJTY ||
+        wczytaj(argv[3], tekst, sizeof(tekst) - 1) <= 0) {
+        printf("usage: gracz graj|szukaj|smialek STAGE RUN\n");
+        return 2;
+    }
+    nagranie = strchr(tekst, '\n');
+    if (nagranie)
+        *nagranie++ = 0;
+    else
+        nagranie = tekst + strlen(tekst);
+    switch (argv[1][1]) {
+    case 'r':
+        return graj(nagranie);
+    case 'z':
+        return szukaj();
+    default:
+        return badz_smialy();
+    }
 }

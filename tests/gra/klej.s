@@ -45,3 +45,13 @@ _start: jsr reguly_start
         lda #1
 :       ldx #0
         rts
+
+; Linked in front of the rules: here begin their variables.
+.export _zp_poczatek, _bss_poczatek
+.segment "ZEROPAGE"
+zp:
+.segment "BSS"
+bss:
+.segment "RODATA"
+_zp_poczatek:  .addr zp
+_bss_poczatek: .addr bss

@@ -30,6 +30,12 @@ extern byte maszyna_stoi, pochodnia, otwarte, dorva_x, dorva_y;
 #pragma zpsym("dorva_x")
 #pragma zpsym("dorva_y")
 
+/* Where the variables of the rules begin and end, in page zero and behind the program. */
+extern byte* const zp_poczatek;
+extern byte* const zp_koniec;
+extern byte* const bss_poczatek;
+extern byte* const bss_koniec;
+
 void nowa_gra(void);
 byte start(void); /* 1: there is a heroine */
 void takt(void);

@@ -1,0 +1,28 @@
+#!/bin/sh
+# runs.sh [--record] [BUILD]: the recorded runs through the sample stages, played in the real rules, and what becomes of
+# a player without fear who follows the same plans: a table. --record looks for a new run where the old one fails.
+set -eu
+
+cd "$(dirname "$0")/.."
+record=no
+[ "${1-}" != --record ] || { record=yes && shift; }
+build=${1-build/release}
+player=$build/tests/gra/gracz
+[ -f "$player" ] || { echo "runs: no $player; build it first" >&2; exit 1; }
+
+failed=0 lost=0
+printf '%5s  %-28s  %s  %s\n' stage "recorded run" "lives lost without fear" finished
+for stage in $(seq 32); do
+    run=tests/gra/przejscia/etap$stage.txt file=$build/data/ETAPY/DETAP.$stage
+    if ! result=$(sim65 "$player" graj "$file" "$run") && [ "$record" = yes ]; then
+        if sim65 "$player" szukaj "$file" "$run" >"$run.new"; then mv "$run.new" "$run"; else cat "$run.new" >&2; fi
+        rm -f "$run.new"
+        result=$(sim65 "$player" graj "$file" "$run") || true
+    fi
+    case $result in "result 1 "*) ;; *) failed=$((failed + 1)) ;; esac
+    fearless=$(sim65 "$player" smialek "$file" "$run")
+    lost=$((lost + ${fearless% *}))
+    printf '%5s  %-28s  %23s  %s\n' "$stage" "${result#result }" "${fearless% *}" "${fearless#* }"
+done
+echo "runs: $failed failed, $lost lives lost without fear"
+[ "$failed" = 0 ]
