@@ -142,7 +142,7 @@ check_title() {
 }
 
 check_runs() { # check_runs OPTION: PAL or NTSC
-    record "$start" "$(run_of 1)" -100 "$(run_of 2)" -100 "$(run_of 3)" -300 >"$work/input"
+    record "$start" "$(run_of 1)" -100 "$(run_of 2)" -100 "$(run_of 3)" -150 R7 -100 >"$work/input"
     {
         for stage in 1 2 3; do
             until_at graj_etap && until_at otworz && dump brak_masek 1 "masks$stage"
@@ -180,11 +180,11 @@ check_dying() { # she steps into a fire and stays there, three times
 check_keys() { # a pause of half a minute, the stage anew, the end of the game
     record "$start" R7 O5 -1500 O5 R60 S5 -120 R7 -30 E5 -200 >"$work/input"
     {
-        until_at graj_etap && until_at puszczone && until_at takt
+        until_at graj_etap && until_at takt && until_at info_powitanie && until_at takt
         until_at graj_etap && dump zycia 1 lives && until_at ekran_konca && echo QUIT
     } >"$work/commands"
     play "$PWD/$game" -xe
-    expect "pause, SELECT and ESC" "$(came_to)" "graj_etap puszczone takt graj_etap ekran_konca"
+    expect "pause, SELECT and ESC" "$(came_to)" "graj_etap takt info_powitanie takt graj_etap ekran_konca"
     expect "SELECT costs a life" "$(bytes "$work/lives" 0 1)" 2
 }
 

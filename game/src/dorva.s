@@ -5,22 +5,24 @@
 .export na_pole, na_to, wejdz, zapadnij, zostaw_zapach
 .exportzp dorva, dorva_x, dorva_y, zegar, kier, cel_kod, opor, naczynia, krzyk, ochrona
 .importzp drazek, spust, wsk, wpod, wstan, wzap, kolej, wynik, komunikat, energia, bomby
-.import plansza, sasiad, delta_lo, delta_hi, wskaz_pole, wejscia_lo, wejscia_hi
-.import zran_zywiolem, zglos_efekt
+.import plansza, zapach, sasiad, delta_lo, delta_hi, wskaz_pole, wejscia_lo, wejscia_hi
+.import zran, zabierz, zglos_efekt
 
 KIERUNKI_DRAZKA = 4
+PIERWSZY_KROK = 10                      ; ticks from the step of a press to the first one of holding on
 GLEBOKO   = 4                           ; so deep in the swamp she drowns
 
 .segment "ZEROPAGE"
 dorva:   .res 2         ; her cell, 0..799
 dorva_x: .res 1         ; its column and row
 dorva_y: .res 1
-zegar:   .res 1         ; number of her latest step, 1..255
+zegar:   .res 1         ; number of her latest step, 1..TROP and then 1 again
 kier:    .res 1         ; where she looks
 cel_kod: .res 1         ; the code of the tile that she steps at
 cel:     .res 2         ; what it does
 kod:     .res 1         ; a code on its way to the board
-odstep:  .res 1         ; ticks until the next step
+odstep:  .res 1         ; ticks until she can make another step
+powtorka: .res 1        ; ticks until a direction that is held makes another step
 bezruch: .res 1         ; ticks without a step
 krzyk:   .res 1         ; ticks that she still screams
 ochrona: .res 1         ; ticks that nothing wounds her
@@ -32,13 +34,15 @@ chce:    .res 1         ; the direction that she is to go
 glebokosc: .res 1       ; 0 on firm ground, 1 knees, 2 armpits, 3 eyes
 tonie:   .res 1         ; ticks since she sank deeper
 po_bagnie: .res 1       ; she has just come out of the swamp
-zywiol:  .res 1         ; ticks that she has stood in water or fire
+brodzi:  .res 1         ; ticks that she has stood in this water
 opor:    .res 1         ; tugs at a thicket
 naczynia: .res 1        ; jars broken so far
 tu:      .res 2
 
 .segment "BSS"
 dorva_inv: .res 1       ; bit 7 of the tile that she started as
+gdzie_lo: .res TROP     ; the cells of her last steps, by the number of the step
+gdzie_hi: .res TROP
 
 .segment "RODATA"
 bity_drazka: .byte %0100, %1000, %0001, %0010           ; left, right, up, down
@@ -47,20 +51,26 @@ obraz:       .byte IDZIE_LEWO, IDZIE_PRAWO, IDZIE_GORA, IDZIE_DOL
 
 ; Sets her at the start of a stage; dorva, dorva_x, dorva_y and dorva_inv are set already.
 podstaw_dorve:
+        ldx #TROP
         lda #0
+:       sta gdzie_lo - 1,x
+        sta gdzie_hi - 1,x
+        dex
+        bne :-
         sta odstep
+        sta powtorka
         sta krzyk
         sta ochrona
         sta glebokosc
         sta po_bagnie
-        sta zywiol
+        sta brodzi
         sta opor
         sta naczynia
-        sta byl_spust
         sta byl_drazek
         sta wybrany
         sta nowy
         lda #1
+        sta byl_spust                   ; a trigger that is held already means nothing
         sta zegar
         lda #DOL
         sta kier
@@ -79,14 +89,25 @@ dorva_takt:
 :       lda odstep
         beq :+
         dec odstep
+:       lda powtorka
+        beq :+
+        dec powtorka
 :       lda dorva
         ldx dorva+1
         jsr wskaz_pole
         jsr otoczenie
         jsr sprawdz_spust
         jsr sprawdz_drazek
-        ldy odstep
+        lda odstep
         bne @rysuj
+        ldy #PIERWSZY_KROK
+        lda nowy
+        bne @chce                       ; each press is a step
+        lda powtorka
+        bne @stoi
+        ldy #KROK
+        lda wybrany
+@chce:  sta chce
         ldx #KIERUNKI_DRAZKA - 1
 @kierunek:
         lda chce
@@ -94,12 +115,13 @@ dorva_takt:
         bne @krok
         dex
         bpl @kierunek
-        lda bezruch
+@stoi:  lda bezruch
         cmp #BEZRUCH
         bcs @rysuj
         inc bezruch
         bne @rysuj
-@krok:  lda #0
+@krok:  sty powtorka
+        lda #0
         sta nowy
         jsr zrob_krok
 @rysuj:
@@ -141,33 +163,33 @@ rysuj_dorve:
         sta (tu),y
         rts
 
-; What she stands in works on her: the swamp draws her down, water and fire take energy.
+; What she stands in works on her: the swamp draws her down, fire wounds her, water takes some energy now and then.
 otoczenie:
         lda glebokosc
-        beq @zywiol
+        beq @grunt
         inc tonie
         lda tonie
         cmp #TAKTY_BAGNA
         bcc @nic
         jmp zapadnij
-@zywiol:
-        ldy #TU
+@grunt: ldy #TU
         lda (wpod),y
         and #$7F
-        ldx #RANA_WODA
-        cmp #WODA
-        beq @w_nim
-        ldx #RANA_OGIEN
         cmp #OGIEN
-        bne @suchy
-@w_nim: inc zywiol
-        lda zywiol
-        cmp #TAKTY_ZYWIOLU
+        beq @pali
+        cmp #WODA
+        bne @nic
+        inc brodzi
+        lda brodzi
+        cmp #TAKTY_WODY
         bcc @nic
-        txa
-        jsr zran_zywiolem
-@suchy: lda #0
-        sta zywiol
+        lda #0
+        sta brodzi
+        dzwiek EF_BAGNO
+        lda #RANA_WODA
+        jmp zabierz
+@pali:  lda #RANA_OGIEN
+        jmp zran
 @nic:   rts
 
 ; She sinks a step deeper into the swamp; too deep, and she drowns.
@@ -187,8 +209,8 @@ zapadnij:
         sta wynik
         rts
 
-; chce := the direction that she is to go. The newest one wins while several are pressed; one that was only tapped
-; between two steps is not forgotten.
+; wybrany := the direction that is held; the newest one wins while several are. nowy := one that has been pressed since
+; the last step, so a tap between two steps is not forgotten.
 sprawdz_drazek:
         lda drazek
         and #15
@@ -206,10 +228,6 @@ sprawdz_drazek:
         lda byl_drazek                  ; the newest has been let go
 @trzyma:
         sta wybrany
-        ldx nowy
-        beq @bez
-        txa
-@bez:   sta chce
         rts
 
 ; Fire, once a press: she lays a bomb where she stands. Its fuse starts when she goes.
@@ -301,6 +319,7 @@ wejdz:  sta kod
         jsr zostaw_zapach
         lda #0
         sta po_bagnie
+        sta brodzi
         lda kod
         and #$7F
         cmp #BAGNO
@@ -316,13 +335,37 @@ krok_x: .byte <-1, 1, 0, 0
 krok_y: .byte 0, 0, <-1, 1
 .segment "CODE"
 
-; The cell at distance Y smells of her newest step.
+; Her cell smells of this step. The number of a step comes again after TROP more; whatever cell still has it loses its
+; scent then, so no scent outlives its trail.
 zostaw_zapach:
-        inc zegar
+        ldx zegar
+        inx
+        cpx #TROP + 1
+        bcc :+
+        ldx #1
+:       stx zegar
+        lda gdzie_lo - 1,x
+        sta tu
+        lda gdzie_hi - 1,x
+        jsr @w_zapachu
+        cmp (tu),y
         bne :+
-        inc zegar
-:       lda zegar
-        sta (wzap),y
+        tya
+        sta (tu),y
+:       lda dorva
+        sta gdzie_lo - 1,x
+        sta tu
+        lda dorva+1
+        sta gdzie_hi - 1,x
+        jsr @w_zapachu
+        sta (tu),y
+        rts
+@w_zapachu:
+        clc
+        adc #>zapach
+        sta tu+1
+        ldy #0
+        txa
         rts
 
 ; dorva_x, dorva_y := column and row of the cell dorva.

@@ -5,7 +5,7 @@
 ; changes the colours while the beam draws an empty line.
 .include "atari.inc"
 .include "reguly.inc"
-.export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, czekaj_klatke, czekaj_klatki, czysc_tekst
+.export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, blysnij, czekaj_klatke, czekaj_klatki, czysc_tekst
 .export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, kolory
 .import plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
 
@@ -139,6 +139,18 @@ zgas_ekran:
         lda #0
         sta SDMCTL
         jmp czekaj_klatke
+
+; A flash on the board, fading within a few frames.
+blysnij:
+        ldx #$0F
+@slabiej:
+        stx COLOR0+4
+        jsr czekaj_klatke
+        dex
+        bpl @slabiej
+        lda kolory + 8
+        sta COLOR0+4
+        rts
 
 ; Clears the text screen.
 czysc_tekst:

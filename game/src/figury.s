@@ -1,8 +1,9 @@
 ; The figures of play: energy, points, what she carries, and the tick's sound.
 .include "reguly.inc"
-.export zran, zran_zywiolem, zabierz, dodaj_energie, dodaj_bombe, dodaj_klucz, dodaj_monete, dodaj_punkty, otworz
+.export zran, zabierz, dodaj_energie, dodaj_bombe, dodaj_klucz, dodaj_monete, dodaj_punkty, otworz
 .export zglos_efekt, punkty
-.importzp krzyk, ochrona, energia, zycia, klucze, bomby, monety, otwarte, wynik, efekt, komunikat
+.importzp krzyk, ochrona, energia, zycia, klucze, bomby, otwarte, wynik, efekt, komunikat
+.import monety, zycia_za_monety, zycia_w_probie
 
 MONETY_NA_ZYCIE = 20
 BOMBY_MAX = 99
@@ -20,8 +21,6 @@ zran:   ldx ochrona
         bne bez_rany
         ldx #TAKTY_OCHRONY
         stx ochrona
-; Water and fire wound without giving a rest.
-zran_zywiolem:
         ldx #TAKTY_KRZYKU
         stx krzyk
         pha
@@ -91,7 +90,7 @@ dodaj_klucz:
 :       dzwiek EF_BIERZE
         rts
 
-; A coin: points, and a life for every so many.
+; A coin: points, and a life for every so many. A life that an earlier try on this stage has brought does not come again.
 dodaj_monete:
         lda #$20
         ldx #$00
@@ -103,10 +102,15 @@ dodaj_monete:
         bcc @dosc
         lda #0
         sta monety
+        inc zycia_w_probie
+        lda zycia_za_monety
+        cmp zycia_w_probie
+        bcs @dosc
         lda zycia
         cmp #ZYCIA_MAX
         bcs @dosc
         inc zycia
+        inc zycia_za_monety
         dzwiek EF_ZYCIE
         powiedz KOM_ZYCIE
 @dosc:  rts

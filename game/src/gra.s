@@ -1,38 +1,43 @@
 ; The game: a stage after the other, tries, lives, the end.
 .include "atari.inc"
 .include "reguly.inc"
-.export graj
-.importzp numer_etapu, drazek, spust, wynik, efekt, energia, zycia, komunikat
-.import wczytaj_etap, ostatni, punkty, punkty_na_starcie, nowa_gra, reguly_start, takt, rysuj_dorve
-.import pokaz_plansze, czekaj_klatke, czekaj_klatki, zacznij_panel, rysuj_panel, info_powitanie, info_takt
+.export graj, pierwszy_etap
+.importzp numer_etapu, drazek, spust, wynik, efekt, zycia, komunikat
+.import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, reguly_start, takt, rysuj_dorve
+.import pokaz_plansze, blysnij, czekaj_klatke, czekaj_klatki, zacznij_panel, rysuj_panel, info_powitanie, info_takt
 .import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, ucisz_muzyke, dodaj_punkty
 
-CZAS_POWITANIA = 120                    ; frames that a stage waits before it begins by itself
-CZAS_SMIERCI = 80
+CZAS_SMIERCI = 50
 ETAPY     = 32
 CH_ESC    = 28
 CH_BRAK   = $FF
-KLAWISZ_SELECT = 2
-KLAWISZ_OPTION = 4
+KLAWISZE  = %111                        ; START, SELECT, OPTION
+
+; what wynik says beside the rules' own results, once graj_etap has returned
+PODDANA   = 0
+NOWA_GRA  = 3
 
 .segment "ZEROPAGE"
-licznik: .res 1
 klatka:  .res 1         ; the frame that the tick began in
 spoznione: .res 1       ; ticks that took longer than their frame: none, and scripts/play-check.sh looks
+
+.segment "BSS"
+pierwszy_etap: .res 1   ; the stage that the game began with
+do_panelu: .res 1       ; frames until the panel is written again
+powitanie_trwa: .res 1
+pauza:   .res 1
+byly_klawisze: .res 1   ; console keys that were down in the frame before
 
 .segment "CODE"
 
 ; Plays from stage numer_etapu on, to the end of the game.
-graj:   lda #0
+graj:   lda numer_etapu
+        sta pierwszy_etap
+        lda #0
         sta spoznione
         jsr ucisz_muzyke
         jsr nowa_gra
-@etap:  ldx #2
-@punkty:
-        lda punkty,x
-        sta punkty_na_starcie,x
-        dex
-        bpl @punkty
+@etap:  jsr nowy_etap
 @proba: jsr wczytaj_etap
         jsr reguly_start
         bcc @jest
@@ -41,20 +46,23 @@ graj:   lda #0
         jsr rysuj_panel
         jsr info_powitanie
         jsr pokaz_plansze
-        jsr powitaj
         jsr graj_etap
         lda wynik
         cmp #ETAP_PRZESZLA
+        bcc @koniec
         beq @przeszla
-        bcc @koniec                     ; given up
+        cmp #NOWA_GRA
+        beq @od_nowa
+        jsr pokaz_strate
         dec zycia
         beq @koniec
-        ldx #2                          ; the try is forgotten
-@wroc:  lda punkty_na_starcie,x
-        sta punkty,x
-        dex
-        bpl @wroc
-        bmi @proba
+        jsr cofnij_probe
+        jmp @proba
+@od_nowa:
+        jsr cisza
+        lda pierwszy_etap
+        sta numer_etapu
+        jmp graj
 @przeszla:
         jsr policz_energie
         lda ostatni
@@ -70,42 +78,35 @@ graj:   lda #0
         jsr cisza
         jmp ekran_konca
 
-; The board stands still until fire or a move, or for a while.
-powitaj:
-        ldx #CZAS_POWITANIA
-@czekaj:
-        jsr czekaj_klatke
-        lda STICK0
-        and #15
-        eor #15
-        bne @koniec
-        lda STRIG0
-        beq @koniec
-        dex
-        bne @czekaj
-@koniec:
-        rts
-
-; Plays the stage on the board. wynik tells how it ends; 0: the player has given up.
+; Plays the stage on the board, which stands still until her first move and in a pause. wynik tells how it ends.
 graj_etap:
         lda #CH_BRAK
         sta CH
+        lda #KLAWISZE
+        sta byly_klawisze               ; what is held already is no press
         lda #1
-        sta licznik
+        sta do_panelu
+        sta powitanie_trwa
+        lda #0
+        sta pauza
 @klatka:
         jsr czekaj_klatke
         lda RTCLOK+2
         sta klatka
-        lda CH
-        cmp #CH_ESC
-        beq @poddaje
-        lda CONSOL
-        and #KLAWISZ_SELECT
-        beq @od_nowa
-        lda CONSOL
-        and #KLAWISZ_OPTION
-        beq @pauza
+        jsr sprawdz_klawisze
+        bcs @koniec
+        lda pauza
+        bne @klatka
+        lda powitanie_trwa
+        beq @gra
         lda STICK0
+        and #15
+        eor #15
+        beq @klatka
+        lda #0
+        sta powitanie_trwa
+        beq @klatka
+@gra:   lda STICK0
         sta drazek
         lda STRIG0
         sta spust
@@ -113,75 +114,98 @@ graj_etap:
         lda efekt
         jsr zagraj
         jsr info_takt
-        dec licznik                     ; the panel needs no more than every fourth frame
-        bne @dalej
+        dec do_panelu                   ; the panel needs no more than every fourth frame
+        bne :+
         lda #4
-        sta licznik
+        sta do_panelu
         jsr rysuj_panel
-@dalej: lda RTCLOK+2
+:       lda RTCLOK+2
         cmp klatka
         beq :+
         inc spoznione
 :       lda wynik
         beq @klatka
-        jsr rysuj_panel
-        lda wynik
-        cmp #DORVA_GINIE
-        bne @gotowe
-        jsr rysuj_dorve                 ; her last cry
-@ginie: lda #EF_WYBUCH
-        jsr zagraj
-        ldx #CZAS_SMIERCI
-        jmp czekaj_klatki
-@od_nowa:
-        jsr puszczone
-        lda #DORVA_GINIE
-        sta wynik
-        bne @ginie
-@poddaje:
-        lda #CH_BRAK
-        sta CH
-        lda #0
-        sta wynik
-@gotowe:
+@koniec:
+        jmp rysuj_panel
+
+; The keys mean the same in the greeting, in play and in a pause. C: one of them has ended the try, wynik tells how.
+sprawdz_klawisze:
+        lda CH
+        ldx #CH_BRAK
+        stx CH
+        cmp #CH_ESC
+        beq @poddana
+        lda CONSOL
+        eor #$FF
+        and #KLAWISZE
+        tax
+        eor byly_klawisze               ; down now and not before
+        stx byly_klawisze
+        and byly_klawisze
+        lsr
+        bcs @nowa_gra
+        lsr
+        bcs @od_nowa
+        lsr
+        bcc @nic
+        lda pauza
+        eor #1
+        sta pauza
+        beq @gramy
+        jsr cisza
+        lda #KOM_PAUZA
+        sta komunikat
+        jsr info_takt
+        clc
         rts
-@pauza: lda #KOM_PAUZA
+@gramy: jsr info_powitanie
+        clc
+@nic:   rts
+@poddana:
+        lda #PODDANA
+        beq @koniec
+@nowa_gra:
+        lda #NOWA_GRA
+        bne @koniec
+@od_nowa:
+        lda #DORVA_GINIE
+@koniec:
+        sta wynik
+        sec
+        rts
+
+; A life is lost: a flash, her last cry, a word.
+pokaz_strate:
+        jsr rysuj_dorve
+        lda #KOM_STRACILA
         sta komunikat
         jsr info_takt
         jsr cisza
-        jsr puszczone
-@stoi:  jsr czekaj_klatke
-        lda CONSOL
-        and #KLAWISZ_OPTION
-        bne @stoi
-        jsr puszczone
-        jmp @klatka
+        lda #EF_WYBUCH
+        jsr zagraj
+        jsr blysnij
+        ldx #CZAS_SMIERCI
+        jmp czekaj_klatki
 
-; Waits until all console keys are up.
-puszczone:
-        jsr czekaj_klatke
-        lda CONSOL
-        and #7
-        cmp #7
-        bne puszczone
-        rts
-
-; What is left of her energy turns into points, ten for each.
+; What is left of the bonus for time turns into points, ten for each.
 policz_energie:
-        lda energia
+        lda #KOM_PREMIA
+        sta komunikat
+        jsr info_takt
+@licz:  lda premia
         beq @koniec
-        dec energia
+        dec premia
         lda #$10
         ldx #$00
         jsr dodaj_punkty
-        lda energia
+        lda premia
         and #3
-        bne policz_energie
+        bne @licz
         lda #EF_MONETA
         jsr zagraj
         jsr rysuj_panel
         jsr czekaj_klatke
-        jmp policz_energie
+        jmp @licz
 @koniec:
         jsr rysuj_panel
         ldx #40

@@ -48,7 +48,7 @@ bas:    .byte A0, E0, A0, E0
         .byte A0, E0, A0, TRWA
         .assert (* - bas) * 2 = OSEMEK, error, "bass and melody of one length"
 
-.segment "ZEROPAGE"
+.segment "BSS"
 gra:    .res 1
 osemka: .res 1          ; the eighth that sounds
 klatki: .res 1          ; frames until the next one

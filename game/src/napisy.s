@@ -44,8 +44,12 @@ k_rusza:     tekst "MASZYNA RUSZYlA"
 k_ogien:     tekst "MASZ POCHODNIe!"
 k_zycie:     tekst "DODATKOWE zYCIE!"
 k_pauza:     tekst "PAUZA - OPTION: GRAMY DALEJ"
+k_stracila:  tekst "STRACIlA zYCIE"
+k_premia:    tekst "PREMIA ZA CZAS"
 
-.define KOMUNIKATY k_klucz, k_klucz, k_maski, k_otwarte, k_bomba, k_stoi, k_rusza, k_ogien, k_zycie, k_pauza
+.linecont +
+.define KOMUNIKATY k_klucz, k_klucz, k_maski, k_otwarte, k_bomba, k_stoi, k_rusza, k_ogien, k_zycie, k_pauza, \
+        k_stracila, k_premia
 komunikaty_lo: .lobytes KOMUNIKATY
 komunikaty_hi: .hibytes KOMUNIKATY
 

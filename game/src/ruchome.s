@@ -6,15 +6,15 @@
 .export ruszaj, nowa_kolej, zwroc_pole, zapal
 .exportzp kod, kolumna, wiersz
 .importzp wsk, wpod, wstan, wzap, kolej, dorva_x, dorva_y, zegar, pochodnia, otwarte
-.import plansza, cechy, sasiad, wskaz_pole, zbadaj, przesun, licznik, ustaw_licznik, los, wstaw
+.import plansza, cechy, sasiad, wskaz_pole, przejdz, zbadaj, przesun, licznik, ustaw_licznik, los, wstaw
 .import zran, promiennik, promien, miotnik, miotacz, plujka, strzalka, kamyk
 .import odpalona, epicentrum, wybuch
 
 WIERSZE_NA_TAKT = 2
 BUDZET    = 16
 ZASIEG_STWORKA = 10                     ; how far a little creature sees
-WIEK_TROPU = 128                        ; an older scent is none
-PALI_SIE  = 12                          ; turns that a thicket burns
+TURY_BIEGU = 3                          ; every so many turns a tracker takes a second step on the scent
+PALI_SIE  = 5                           ; turns that a thicket burns: enough to look to all four sides
 
 .segment "ZEROPAGE"
 skan:    .res 2         ; the row that is being looked at, in plansza
@@ -25,9 +25,11 @@ budzet:  .res 1
 rzedy:   .res 1
 cel:     .res 2
 kier:    .res 1
-obiecujacy: .res 1
-wiek:    .res 1
-najmlodszy: .res 1
+rana:    .res 1         ; what a patrol's touch takes
+strona:  .res 1
+kroki:   .res 1         ; steps that a tracker has left in this turn
+wiek:    .res 1         ; of a scent, in steps
+najmlodszy: .res 1      ; the freshest so far
 
 .segment "RODATA"
 ; what each tile does in its turn
@@ -150,13 +152,13 @@ wyjscie:
 
 ; Creatures go left and right, guards down and up; both turn where they can't go on.
 stwor:  lda #RANA_STWOR
-        sta wiek
+        sta rana
         lda kod
         and #1
         bpl patrol
 straznik:
         lda #RANA_STRAZNIK
-        sta wiek
+        sta rana
         lda kod
         and #1
         eor #DOL
@@ -173,7 +175,7 @@ patrol: tax
         eor #1
         sta (wsk),y
         rts
-@atak:  lda wiek
+@atak:  lda rana
         jmp zran
 
 ; A little creature sleeps until the heroine comes near in its own row; then it grows and runs at her.
@@ -223,26 +225,85 @@ duch:   jsr los
         and #3
         jmp ustaw_licznik
 
-; A tracker goes where the heroine's scent is fresher than where it stands. Without a scent it goes
-; straight on, and some other way where it can't.
+; A tracker goes where the heroine's scent is fresher than where it stands, and there it is nearly as fast as she is: every
+; third turn it takes two steps. Without a scent it goes straight on, and some other way where it can't.
 tropiciel:
-        lda #WIEK_TROPU
+        jsr wywesz
+        bcc @bladzi
+        ldx #1
+        jsr licznik
+        clc
+        adc #1
+        cmp #TURY_BIEGU
+        bcc :+
+        inx
+        lda #0
+:       stx kroki
+        jsr ustaw_licznik
+@tropem:
+        jsr zrob_krok
+        bcc @koniec
+        dec kroki
+        beq @koniec
+        ldx kier
+        jsr przejdz
+        jsr wywesz
+        bcs @tropem
+@koniec:
+        rts
+@bladzi:
+        lda kod
+        and #3
+        sta kier
+; A tracker's step in direction kier. C: it has gone there; else it has wounded the heroine, or turned away at random.
+zrob_krok:
+        ldx kier
+        ldy sasiad,x
+        jsr zbadaj
+        bmi @atak
+        and #C_PUSTE
+        beq @zwrot
+        jsr @postac
+        jsr przesun
+        sec
+        rts
+@zwrot: jsr los
+        and #3
+        ora #TROPICIEL
+        jsr zmien
+        clc
+        rts
+@atak:  jsr @postac
+        ldy #TU
+        sta (wsk),y
+        lda #RANA_TROPICIEL
+        jsr zran
+        clc
+        rts
+@postac:
+        lda kod
+        and #INV
+        ora #TROPICIEL
+        ora kier
+        rts
+
+; C: the scent leads on from this cell, and kier tells where to.
+wywesz: lda #TROP
         sta najmlodszy
         ldy #TU
         lda (wzap),y
-        beq @bez
-        jsr @ile
-        cmp najmlodszy
-        bcs @bez
+        beq :+
+        jsr @wiek
         sta najmlodszy
-@bez:   lda #$FF
-        sta obiecujacy
+:       lda #$FF
+        sta kier
         ldx #DOL
-@weszy: stx kier
+@strona:
+        stx strona
         ldy sasiad,x
         lda (wzap),y
         beq @nie
-        jsr @ile
+        jsr @wiek
         cmp najmlodszy
         bcs @nie
         sta wiek
@@ -252,47 +313,28 @@ tropiciel:
         beq @nie
 @tak:   lda wiek
         sta najmlodszy
-        lda kier
-        sta obiecujacy
-@nie:   ldx kier
-        dex
-        bpl @weszy
-        lda obiecujacy
-        bpl @idzie
-        lda kod                         ; no scent
-        and #3
-@idzie: tax
+        lda strona
         sta kier
-        ldy sasiad,x
-        jsr zbadaj
-        bmi @atak
-        and #C_PUSTE
-        bne @krok
-        jsr los
-        and #3
-        ora #TROPICIEL
-        jmp zmien
-@krok:  jsr @postac
-        jmp przesun
-@atak:  jsr @postac
-        ldy #TU
-        sta (wsk),y
-        lda #RANA_TROPICIEL
-        jmp zran
-@postac:
-        lda kod
-        and #INV
-        ora #TROPICIEL
-        ora kier
+@nie:   ldx strona
+        dex
+        bpl @strona
+        lda kier
+        eor #$80
+        asl                             ; C: a direction has been found
         rts
-@ile:   eor #$FF                        ; A := steps that she has made since the scent A
+@wiek:  eor #$FF                        ; A := steps that she has made since the scent A
         sec
         adc zegar
-        rts
+        bcs :+
+        adc #TROP                       ; the numbers have begun anew since
+:       rts
 
-; Fire catches thickets next to it. What it lives on burns down; a painted fire burns for ever.
-ogien:  jsr los
-        and #3
+; Fire catches thickets next to it: a burning thicket all of them, one side a turn, until it has burnt down; a painted
+; fire, which burns for ever, now the one and now the other.
+ogien:  jsr licznik
+        bne :+
+        jsr los
+:       and #3
         tax
         ldy sasiad,x
         lda (wstan),y

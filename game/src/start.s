@@ -1,7 +1,7 @@
 ; The entry: takes the machine over, then title and game by turns.
 .include "atari.inc"
 .export start
-.import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj
+.import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj, pierwszy_etap
 
 .segment "CODE"
 start:  ldx #$FF
@@ -17,10 +17,11 @@ start:  ldx #$FF
         sta DOSINI
         lda #>nic
         sta DOSINI+1
-        lda #1
-        sta BOOTQ
         lda #0
         sta COLDST
+        lda #1
+        sta BOOTQ
+        sta pierwszy_etap
         jsr cisza
         jsr ucisz_muzyke
         jsr zrob_czcionki

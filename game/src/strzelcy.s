@@ -1,7 +1,7 @@
 ; Emitters and their rays, those who throw and spit, and what they throw.
 .include "reguly.inc"
 .export promiennik, promien, miotnik, miotacz, plujka, strzalka, kamyk
-.importzp kod, kolumna, wiersz, dorva_x, dorva_y, maszyna_stoi
+.importzp wsk, kod, kolumna, wiersz, dorva_x, dorva_y, maszyna_stoi
 .import sasiad, przejdz, zbadaj, przesun, wstaw, licznik, ustaw_licznik, zran, zwroc_pole, zglos_efekt
 
 TURY_PROMIENNIKA = 14                   ; turns from one flash to the next
@@ -9,6 +9,9 @@ TURY_PROMIENIA = 5                      ; turns that a ray shines, and so its le
 TURY_MIOTACZA = 12
 TURY_MIOTNIKA = 9
 TURY_PLUJKI = 7
+TURY_MRUGANIA = 4                       ; turns that an emitter or a launcher blinks first: even, so it ends as it was
+TURY_CELU = 3                           ; turns from the aim to the shot
+CELUJE    = 32                          ; a counter above it counts them
 ZASIEG    = 14                          ; how far a shooter sees
 
 .segment "ZEROPAGE"
@@ -16,18 +19,16 @@ kier:   .res 1
 rana:   .res 1
 pocisk: .res 1
 kroki:  .res 1
+okres:  .res 1         ; turns from one shot to the next
+widzi:  .res 1
 
 .segment "CODE"
 
 ; An emitter flashes on all four sides at once, as long as the machine runs.
 promiennik:
-        lda maszyna_stoi
-        bne @nie
-        jsr licznik
-        clc
-        adc #1
-        cmp #TURY_PROMIENNIKA
-        bcc @czeka
+        lda #TURY_PROMIENNIKA
+        jsr odlicz
+        bcc @nie
         ldx #DOL
 @strona:
         stx kier
@@ -39,9 +40,38 @@ promiennik:
         ldx kier
         dex
         bpl @strona
-        lda #0
-@czeka: jmp ustaw_licznik
 @nie:   rts
+
+; Counts one of A turns for an emitter or a launcher, as long as the machine runs; in the last ones it blinks. C: now.
+odlicz: sta okres
+        lda maszyna_stoi
+        bne @nie
+        jsr licznik
+        clc
+        adc #1
+        cmp okres
+        bcs @juz
+        tax
+        adc #TURY_MRUGANIA
+        cmp okres
+        bcc :+
+        jsr mrugnij
+:       txa
+        jsr ustaw_licznik
+@nie:   clc
+        rts
+@juz:   lda #0
+        jsr ustaw_licznik
+        sec
+        rts
+
+; The tile takes its other form. Keeps X.
+mrugnij:
+        ldy #TU
+        lda kod
+        eor #INV
+        sta (wsk),y
+        rts
 
 ; Puts the missile A into the next cell in direction kier, or wounds the heroine there by X.
 wystrzel:
@@ -85,13 +115,9 @@ promien:
 
 ; A launcher shoots darts left and right at its own pace, as long as the machine runs.
 miotacz:
-        lda maszyna_stoi
-        bne nie_strzela
-        jsr licznik
-        clc
-        adc #1
-        cmp #TURY_MIOTACZA
-        bcc @czeka
+        lda #TURY_MIOTACZA
+        jsr odlicz
+        bcc nie_strzela
         ldx #PRAWO
 @strona:
         stx kier
@@ -103,19 +129,16 @@ miotacz:
         ldx kier
         dex
         bpl @strona
-        lda #0
-@czeka: jmp ustaw_licznik
+        rts
 
 ; A thrower throws stones at a heroine in its row or column.
 miotnik:
-        jsr gotow
-        bne nie_strzela
         jsr w_wierszu
-        bcs @rzut
+        bcs :+
         jsr w_kolumnie
+:       lda #TURY_MIOTNIKA
+        jsr celuj
         bcc nie_strzela
-@rzut:  lda #TURY_MIOTNIKA
-        jsr ustaw_licznik
         lda kier
         clc
         adc #KAMYK
@@ -123,12 +146,10 @@ miotnik:
         jmp wystrzel
 
 ; A spitter spits darts at a heroine in its row.
-plujka: jsr gotow
-        bne nie_strzela
-        jsr w_wierszu
-        bcc nie_strzela
+plujka: jsr w_wierszu
         lda #TURY_PLUJKI
-        jsr ustaw_licznik
+        jsr celuj
+        bcc nie_strzela
         lda kier
         clc
         adc #STRZALKA
@@ -137,14 +158,36 @@ plujka: jsr gotow
 nie_strzela:
         rts
 
-; Counts one turn of the pause down. Z: ready.
-gotow:  jsr licznik
-        beq @tak
+; One turn of a shooter; C in: it sees her. As soon as it does it takes aim, which its other form tells, and shoots a few
+; turns later if it sees her still. Then it rests for A turns. C out: it shoots now.
+celuj:  sta okres
+        lda #0
+        rol
+        sta widzi
+        jsr licznik
+        beq @patrzy
         sec
         sbc #1
+        cmp #CELUJE
+        beq @strzal
+@czeka: jsr ustaw_licznik
+@nie:   clc
+        rts
+@patrzy:
+        lda widzi
+        beq @nie
+        jsr mrugnij
+        lda #CELUJE + TURY_CELU
+        bne @czeka
+@strzal:
+        jsr mrugnij
+        lda #0
+        ldx widzi
+        beq @czeka
+        lda okres
         jsr ustaw_licznik
-        lda #1
-@tak:   rts
+        sec
+        rts
 
 ; C: the heroine is near in this row; kier then tells the side.
 w_wierszu:

@@ -3,8 +3,9 @@
 ; In: plansza and cel_masek before reguly_start; drazek (as STICK0: 0 bits are pressed) and spust (as STRIG0:
 ; 0 is pressed) before takt. Out: wynik, efekt, komunikat and the figures of the panel.
 .include "reguly.inc"
-.export reguly_start, takt, nowa_gra, punkty_na_starcie, cel_masek
-.exportzp drazek, spust, wynik, efekt, komunikat, energia, zycia, klucze, bomby, monety, brak_masek
+.export reguly_start, takt, nowa_gra, nowy_etap, cofnij_probe
+.export cel_masek, monety, zycia_za_monety, zycia_w_probie, premia
+.exportzp drazek, spust, wynik, efekt, komunikat, energia, zycia, klucze, bomby, brak_masek
 .exportzp maszyna_stoi, pochodnia, otwarte, po_przeskoku
 .importzp kolej, dorva, ziarno
 .import plansza, pod, stan, zapach, dorva_inv, punkty
@@ -22,7 +23,6 @@ energia: .res 1
 zycia:  .res 1
 klucze: .res 1
 bomby:  .res 1
-monety: .res 1          ; coins since the last extra life
 brak_masek: .res 1      ; masks still to be taken
 maszyna_stoi: .res 1
 pochodnia: .res 1
@@ -34,8 +34,13 @@ adres:  .res 2
 w_stanie: .res 2
 
 .segment "BSS"
-punkty_na_starcie: .res 3
+na_starcie: .res 4      ; points and coins at the start of the stage
 cel_masek: .res 1
+monety: .res 1          ; coins since the last extra life
+zycia_za_monety: .res 1 ; lives that coins have brought on this stage, in all tries,
+zycia_w_probie: .res 1  ; and how many the coins of this try are worth
+premia: .res 1          ; the bonus for time, and the ticks until it loses one
+do_premii: .res 1
 
 .segment "CODE"
 
@@ -50,7 +55,31 @@ nowa_gra:
         sta punkty+2
         rts
 
-; Sets the rules up on the board. C: there is no heroine on it.
+; Begins a stage, before its first try.
+nowy_etap:
+        ldx #2
+:       lda punkty,x
+        sta na_starcie,x
+        dex
+        bpl :-
+        lda monety
+        sta na_starcie + 3
+        lda #0
+        sta zycia_za_monety
+        rts
+
+; A lost try is forgotten, with its points and coins.
+cofnij_probe:
+        ldx #2
+:       lda na_starcie,x
+        sta punkty,x
+        dex
+        bpl :-
+        lda na_starcie + 3
+        sta monety
+        rts
+
+; Sets the rules up on the board for a try. C: there is no heroine on it.
 reguly_start:
         ldx #0
         txa
@@ -71,11 +100,16 @@ reguly_start:
         sta pochodnia
         sta otwarte
         sta po_przeskoku
+        sta zycia_w_probie
         sta kolej
         sta dorva
         sta dorva+1
         lda #ENERGIA_PELNA
         sta energia
+        lda #PREMIA_PELNA
+        sta premia
+        lda #TAKTY_PREMII
+        sta do_premii
         lda #$5A                        ; the same chances in every try
         sta ziarno
         sta ziarno+1
@@ -193,5 +227,12 @@ takt:   lda #EF_BRAK
         jsr ruszaj
 @po:    lda #0
         sta po_przeskoku
+        dec do_premii
+        bne @koniec
+        lda #TAKTY_PREMII
+        sta do_premii
+        lda premia
+        beq @koniec
+        dec premia
 @koniec:
         rts

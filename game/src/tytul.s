@@ -6,7 +6,7 @@
 .include "reguly.inc"
 .export tytul, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
-.import zacznij_muzyke, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
+.import pierwszy_etap, zacznij_muzyke, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
 .import czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
 .import t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
 .import t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
@@ -43,6 +43,8 @@ litery: .byte %11110, %10001, %10001, %10001, %11110
 .segment "ZEROPAGE"
 wsk:    .res 2
 wiersz: .res 2
+
+.segment "BSS"
 bity:   .res 1
 litera: .res 1
 rzad:   .res 1
@@ -56,8 +58,9 @@ poczatek: .res 1
 .segment "CODE"
 
 ; The title screen. Returns when the player starts; numer_etapu is the stage that the player has chosen.
-tytul:  lda #1
+tytul:  lda pierwszy_etap
         sta numer_etapu
+        lda #1
         sta klatki
         lda #0
         sta droga

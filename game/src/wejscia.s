@@ -105,15 +105,22 @@ drzwi:  lda klucze
 @nie:   powiedz KOM_KLUCZ
         rts
 
+; Water costs strength; it wounds nobody, so a fresh wound is no shelter.
 w_wode: lda #RANA_WODA
         jsr zabierz
         dzwiek EF_BAGNO
         jmp na_to
 
+; A burning thicket lets nobody in before it has burnt down; a fire that burns for ever does, and wounds.
 w_ogien:
+        lda (wstan),y
+        and #S_LICZNIK
+        bne pali_sie
         lda #RANA_OGIEN
         jsr zran
         jmp na_to
+pali_sie:
+        rts
 
 maska:  lda #$00                        ; 100
         ldx #$01
@@ -286,13 +293,13 @@ przenies:
         bne @nie
         lda (wsk),y
         sta (wpod),y
-        jsr zostaw_zapach
         lda pozycja
         sta dorva
         lda tu+1
         sec
         sbc #>plansza
         sta dorva+1
+        jsr zostaw_zapach
         jsr policz_wspolrzedne
         ldy pozycja
         sec

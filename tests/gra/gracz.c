@@ -52,7 +52,7 @@ static unsigned kroki_drogi;
 
 /* The rules as they were at a moment. */
 static struct {
-    byte plansza[POLA], pod[POLA], stan[POLA], zapach[POLA], zp[256], bss[256];
+    byte plansza[POLA], pod[POLA], stan[POLA], zapach[POLA], zp[256], bss[512];
     unsigned dlugosc;
 } chwila;
 

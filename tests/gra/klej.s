@@ -13,8 +13,12 @@
         daj zapach
         daj punkty
         daj cel_masek
+        daj monety
+        daj premia
         daj reguly_start
         daj nowa_gra
+        daj nowy_etap
+        daj cofnij_probe
         daj_zp drazek
         daj_zp spust
         daj_zp wynik

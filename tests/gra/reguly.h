@@ -11,7 +11,7 @@ enum { ETAP_PRZESZLA = 1, DORVA_GINIE = 2 };
 extern byte plansza[POLA];
 extern byte pod[1024], stan[1024], zapach[1024];
 extern byte punkty[3];
-extern byte cel_masek;
+extern byte cel_masek, monety, premia;
 extern byte drazek, spust, wynik, efekt, komunikat, energia, zycia, klucze, bomby, brak_masek;
 extern byte maszyna_stoi, pochodnia, otwarte, dorva_x, dorva_y;
 #pragma zpsym("drazek")
@@ -37,6 +37,8 @@ extern byte* const bss_poczatek;
 extern byte* const bss_koniec;
 
 void nowa_gra(void);
+void nowy_etap(void);
+void cofnij_probe(void);
 byte start(void); /* 1: there is a heroine */
 void takt(void);
 

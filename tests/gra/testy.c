@@ -30,6 +30,7 @@ static byte uloz(const char* const* wiersze, byte ile, byte cel) {
     drazek = 15;
     spust = 1;
     nowa_gra();
+    nowy_etap();
     return start();
 }
 static const char* w1[3];
@@ -56,7 +57,7 @@ static void takty(unsigned n) {
         takt();
 }
 
-/* L R U D: one step; B: lays a bomb; -: one step's time without a move. */
+/* L R U D: a tap, so one step; B: lays a bomb; -: one step's time without a move. */
 static void idz(const char* ruchy) {
     for (; *ruchy; ++ruchy) {
         drazek = 15;
@@ -78,6 +79,7 @@ static void idz(const char* ruchy) {
             break;
         }
         takt();
+        drazek = 15;
         spust = 1;
         takty(5);
     }
@@ -105,14 +107,19 @@ static void chodzenie(void) {
     CHECK(tu(1, 3));
     CHECK(pole(1, 1) == 0 && pole(1, 2) == 3 && pole(1, 4) == 3);
 
-    uloz1(1, "D "); /* one step a press of six ticks, no faster */
+    uloz1(1, "D        "); /* a press is a step; held, it makes the next one after ten ticks and then one every six */
     drazek = 15 - PRAWO;
-    takty(6);
+    takty(10);
     CHECK(tu(1, 2));
-    uloz1(1, "D     ");
+    takty(1);
+    CHECK(tu(1, 3));
+    takty(12);
+    CHECK(tu(1, 5));
+    drazek = 15;
+    takty(2);
     drazek = 15 - PRAWO;
-    takty(13);
-    CHECK(tu(1, 4));
+    takty(10); /* a second press waits for no more than the pace of steps */
+    CHECK(tu(1, 6));
 
     uloz3(1, "D    ", "     ", "     "); /* the newest direction wins, and a tap between two steps counts */
     drazek = 15 - PRAWO;
@@ -121,12 +128,12 @@ static void chodzenie(void) {
     takty(6);
     CHECK(tu(2, 2));
     drazek = 15 - PRAWO;
-    takty(2);
+    takty(6);
     drazek = 15 - PRAWO - DOL;
     takty(2);
     drazek = 15 - PRAWO;
-    takty(9);
-    CHECK(tu(3, 4));
+    takty(12);
+    CHECK(tu(3, 3));
 
     uloz1(1, "D."); /* INV partners and codes that are no tiles */
     plansza[43] = 129;
@@ -159,6 +166,7 @@ static void chodzenie(void) {
 }
 
 static void branie(void) {
+    byte i;
     uloz1(2, "DMMMKB$eE");
     CHECK(brak_masek == 2);
     idz("R");
@@ -202,17 +210,33 @@ static void branie(void) {
     CHECK(zycia == 3);
     idz("R");
     CHECK(zycia == 4 && punktow() == 4);
+    cofnij_probe(); /* a lost try takes its points and coins along; the life comes once a stage, not once a try */
+    CHECK(punktow() == 0 && monety == 0);
+    w1[0] = "D$$$$$$$$$$$$$$$$$$$$";
+    for (i = 0; w1[0][i]; ++i)
+        plansza[KOLUMNY + 1 + i] = i ? 34 : 63;
+    start();
+    idz("RRRRRRRRRRRRRRRRRRRR");
+    CHECK(zycia == 4 && punktow() == 4);
+    uloz1(1, "D$ ");
+    monety = 19;
+    nowy_etap();
+    idz("R");
+    CHECK(zycia == 4);
+    cofnij_probe();
+    CHECK(monety == 19);
 
     uloz1(1, "Dz  "); /* a thicket holds back for a while; not with a torch */
     idz("RR");
     CHECK(tu(1, 1));
     idz("R");
     CHECK(tu(1, 2) && pole(1, 1) == 0);
-    uloz1(1, "Dizzz ");
-    idz("RR");
+    uloz1(1, "Dizzz "); /* it burns before she may enter, and so do those beside it */
+    drazek = 15 - PRAWO;
+    takty(11 + 12);
     CHECK(pole(1, 3) == 35 && tu(1, 2));
-    takty(2000);
-    CHECK(pole(1, 3) == 0 && pole(1, 4) != 35 && pole(1, 5) != 35);
+    takty(9 * 20);
+    CHECK(tu(1, 6) && energia == 99);
     uloz3(1, "Dwfzwz", "", ""); /* a painted fire burns for ever and takes the thicket beside it */
     takty(4000);
     CHECK(pole(1, 3) == 35 && pole(1, 4) == 0 && pole(1, 6) == 8);
@@ -348,16 +372,24 @@ static void wedrowcy(void) {
     idz("RRRDDRRR");
     takty(9 * 16);
     CHECK(energia < 99);
+
+    uloz3(1, "D        |    ", "|||||||||||||", ""); /* a trail is 128 steps long, however old the one before is */
+    for (i = 0; i < 8; ++i)
+        idz("R");
+    for (i = 0; i < 127 / 2; ++i)
+        idz("LR");
+    CHECK(zapach[44] == 0 && zapach[48] != 0);
 }
 
 static void strzelanie(void) {
-    byte i, byl = 0;
+    byte i, byl = 0, mrugal = 0;
     uloz3(1, " ,     ", " *  D  ", "       ");
     for (i = 0; i < 40; ++i) {
         takty(9);
+        mrugal |= pole(2, 2) == 128 + 18 && byl == 0;
         byl |= (pole(2, 3) == 20) + 2 * (pole(1, 2) == 21) + 4 * (pole(2, 1) == 19) + 8 * (pole(3, 2) == 22);
     }
-    CHECK(byl == 15 && energia < 99);
+    CHECK(byl == 15 && energia < 99 && mrugal);
     maszyna_stoi = 1;
     takty(90);
     CHECK(pole(1, 2) == 3 && pole(2, 3) == 0);
@@ -373,11 +405,18 @@ static void strzelanie(void) {
     CHECK(maszyna_stoi == 0);
 
     uloz3(1, "m     D", "|||||||", "|||||||"); /* throwers see rows and columns, through nothing in between */
+    takty(9);
+    CHECK(pole(1, 1) == 128 + 40 && pole(1, 2) == 0); /* it takes aim first */
     takty(9 * 6);
     CHECK(energia == 99 - 12);
     uloz3(1, "m|", " |", "D|");
-    takty(9 * 4);
-    CHECK(energia == 99 - 12);
+    takty(9 * 5);
+    CHECK(energia == 99 - 12 && pole(1, 1) == 40);
+    uloz3(1, "mD ", "|  ", "|  "); /* she can step aside */
+    takty(9);
+    idz("DR");
+    takty(60);
+    CHECK(energia == 99 && pole(1, 1) == 40);
     uloz3(1, "m     |", "||||||D", "|||||||");
     takty(300);
     CHECK(energia == 99 && pole(1, 2) == 0);
@@ -393,14 +432,24 @@ static void zywioly(void) {
     uloz1(1, "D^  ");
     idz("RR");
     CHECK(energia == 79 && pole(1, 2) == 0);
-    uloz1(1, "Dww ");
+    uloz1(1, "Dwwwwwwwwwwwwwwwwwwwwwwwwww"); /* 4 a cell, so it carries 24 of them; and 4 for half a second in one */
     idz("RR");
     CHECK(energia == 91 && pole(1, 2) == 11);
-    takty(60);
-    CHECK(energia < 91);
-    uloz1(1, "Df ");
+    idz("RRRRRRRRRRRRRRRRRRRRRR");
+    CHECK(energia == 3 && tu(1, 25));
+    idz("R");
+    CHECK(wynik == DORVA_GINIE);
+    uloz1(1, "Dw ");
+    idz("R");
+    takty(25);
+    CHECK(energia == 91);
+    uloz1(1, "Dff "); /* fire wounds, and no wound comes while she flickers from the last one */
     idz("RR");
-    CHECK(energia == 84 && pole(1, 2) == 35);
+    CHECK(energia == 79 && pole(1, 2) == 35);
+    takty(38);
+    CHECK(energia == 79);
+    takty(2);
+    CHECK(energia == 59);
 
     uloz1(1, "Dbbb ");
     idz("R");
@@ -416,7 +465,7 @@ static void zywioly(void) {
     plansza[42] |= 128;
     plansza[44] |= 128;
     idz("R");
-    takty(60);
+    takty(55);
     CHECK(energia == 99 - 3 * 4);
     idz("RR");
     CHECK((pole(1, 4) & 127) == 52);
