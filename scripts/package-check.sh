@@ -10,11 +10,11 @@ archive=${1-$(find build/release -maxdepth 1 -name 'dorva-planszownik-*.tar.gz' 
 archive=$(realpath "$archive")
 
 room=$(mktemp -d)
-server='' manager='' editor=''
+. scripts/display.sh
+editor=''
 finish() {
-    for process in $editor $manager $server; do
-        kill "$process" 2>/dev/null || true
-    done
+    [ -z "$editor" ] || kill "$editor" 2>/dev/null || true
+    close_display
     rm -rf "$room"
 }
 trap finish EXIT
@@ -35,17 +35,10 @@ unpack() { tar xzf "$archive" -C "$folder_above"; }
 
 have() { command -v "$1" >/dev/null 2>&1; }
 if have Xvfb && have xdotool; then
-    Xvfb -displayfd 3 -screen 0 1280x720x24 3>"$room/display" >/dev/null 2>&1 &
-    server=$!
-    for _ in 1 2 3 4 5 6 7 8 9 10; do
-        [ -s "$room/display" ] && break
-        sleep 0.3
-    done
-    DISPLAY=:$(cat "$room/display")
-    export DISPLAY QT_QPA_PLATFORM=xcb
+    open_display "$room" 1280 720
+    export QT_QPA_PLATFORM=xcb
     if have openbox; then
-        openbox >/dev/null 2>&1 &
-        manager=$!
+        open_manager
     else
         echo "skipped: closing by the window manager (no openbox); the program is closed by SIGTERM"
     fi
@@ -57,21 +50,17 @@ fi
 start() { # starts the program as a user does; editor is its process, window its window
     sh "$folder/start.sh" &
     editor=$!
-    window=''
-    if [ "$QT_QPA_PLATFORM" = xcb ]; then
-        window=$(timeout 20 xdotool search --sync --onlyvisible --name '^Dorva Planszownik \[' | head -n 1)
-        [ -n "$window" ] || fail "a window opens"
-    fi
+    [ "$QT_QPA_PLATFORM" != xcb ] || find_window || fail "a window opens"
     sleep 1
 }
 
-paint() { # a trap into a field of earth, row 9, column 20; the board's corner is at 96, 16
-    xdotool mousemove --window "$window" 250 495 click 1 mousemove --window "$window" $((96 + 20 * 16 + 8)) $((16 + 9 * 16 + 8)) click 1
-    sleep 0.5
+paint() { # a trap into a field of earth
+    slot 2 0
+    cell 20 9
 }
 
 close() {
-    if [ -n "$manager" ]; then
+    if [ -n "$display_manager" ]; then
         { xdotool windowactivate "$window" && sleep 0.5 && xdotool key alt+F4; } || fail "the window answers"
     else
         kill -TERM "$editor"

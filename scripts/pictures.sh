@@ -10,44 +10,40 @@ done
 pictures=$PWD/docs/obrazy
 archive=$(realpath "$(find build/release -maxdepth 1 -name 'dorva-planszownik-*.tar.gz' | sort | tail -n 1)")
 
-room=$(mktemp -d)
-trap 'kill $editor $manager $server 2>/dev/null || true; rm -rf "$room" "$shop"' EXIT
-editor='' manager='' server=''
+. scripts/display.sh
+editor='' room=''
 shop=/tmp/Planszownik # the path is in a picture
-mkdir "$shop"
+mkdir "$shop"         # one that is there already is somebody else's
+finish() {
+    [ -z "$editor" ] || kill "$editor" 2>/dev/null || true
+    close_display
+    rm -rf "$room" "$shop"
+}
+trap finish EXIT
+room=$(mktemp -d)
 tar xzf "$archive" -C "$shop"
 
-Xvfb -displayfd 3 -screen 0 1280x720x24 3>"$room/display" >/dev/null 2>&1 &
-server=$!
-until [ -s "$room/display" ]; do sleep 0.2; done
-DISPLAY=:$(cat "$room/display")
-export DISPLAY HOME="$room/dom"
+open_display "$room" 1280 720
+export HOME="$room/dom"
 mkdir "$HOME"
 unset QT_QPA_PLATFORM
-openbox >/dev/null 2>&1 &
-manager=$!
-sleep 1
+open_manager
 sh "$shop/planszownik/start.sh" 2>/dev/null &
 editor=$!
-window=$(timeout 20 xdotool search --sync --onlyvisible --name '^Dorva Planszownik \[' | head -n 1)
+find_window
 sleep 1
 
-# Places in the window, in pixels: board cells of 16 from 96, 16; picker slots of 32 from 168, 472.
-at() { xdotool mousemove --window "$window" "$1" "$2"; sleep 0.15; }
-click() { at "$1" "$2"; xdotool click "${3-1}"; sleep 0.35; }
-cell() { click $((96 + 16 * $1 + 8)) $((16 + 16 * $2 + 8)); }
-slot() { click $((168 + 32 * $1 + 17)) $((489 + 32 * $2)); }
-drag() {
-    at $((96 + 16 * $1 + 8)) $((16 + 16 * $2 + 8))
+drag() { # from COLUMN ROW to COLUMN ROW
+    point_cell "$1" "$2"
     xdotool mousedown 1
-    at $((96 + 16 * $3 + 8)) $((16 + 16 * $4 + 8))
+    point_cell "$3" "$4"
     xdotool mouseup 1
     sleep 0.15
 }
 room_of() { for row in $(seq "$2" "$4"); do drag "$1" "$row" "$3" "$row"; done; }
 shot() { sleep 0.3; import -window "${2-$window}" "$room/$1.png"; }
 
-at 450 350
+point 450 350
 shot okno
 click 816 373 # "Czyść etap", Tak
 xdotool key Tab Return
@@ -68,7 +64,7 @@ click 160 425
 xdotool type --delay 60 'mój pierwszy etap'
 xdotool key Tab
 click 37 32
-at 450 350
+point 450 350
 shot pierwszy-etap
 click 836 572 # "Test etapu"
 sleep 0.5

@@ -12,12 +12,19 @@ build=${1-build/release}
 game=$build/data/PLIKI/DP2.DTA labels=$build/game/src/szablon.lbl
 stages=$build/data/ETAPY tiles=$build/data/OBIEKTY/ORN_EXPORT
 runs=tests/gra/przejscia
+zloz_gre=$PWD/$build/game/tools/zloz_gre
 
 command -v atari800 >/dev/null || { echo "play-check: skipped, the emulator atari800 is not installed"; exit 0; }
-[ -f "$game" ] && [ -f "$labels" ] || { echo "play-check: no game in $build; build it first" >&2; exit 1; }
+for file in "$game" "$labels" "$zloz_gre"; do
+    [ -f "$file" ] || { echo "play-check: no $file; build it first" >&2; exit 1; }
+done
+. scripts/display.sh
 work=$(mktemp -d)
-xvfb=
-trap 'rm -rf "$work"; [ -z "$xvfb" ] || kill "$xvfb"' EXIT
+trap 'close_display; rm -rf "$work"' EXIT
+
+# ETAP_...: where the fields of a stage record stand.
+eval "$(sed -n 's/^\(ETAP_[A-Z]*\) *= *\([0-9]*\).*/\1=\2/p' game/src/rekord.inc)"
+board=800
 
 at() { # at LABEL: its address in hexadecimal
     awk -v name=".$1" '$3 == name { sub(/^0+/, "", $2); print $2; exit }' "$labels"
@@ -74,20 +81,16 @@ dump() { # dump LABEL BYTES NAME: a piece of memory into a file
     echo "WRITE $from $(plus "$from" $(($2 - 1))) $3"
 }
 
-# a copy of the game with bytes replaced: patch FILE OFFSET BYTE...
-patch() {
+patch() { # patch FILE OFFSET BYTE...: replaces bytes
     file=$1 offset=$2
     shift 2
+    # shellcheck disable=SC2059
     for byte; do printf "\\$(printf %03o "$byte")"; done | dd of="$file" bs=1 seek="$offset" conv=notrunc status=none
 }
 
 # test_build STAGE_FILE FILE: a game as a test build makes it: the stage in the place of stage 1, marked as the last.
 test_build() {
-    cp "$game" "$2"
-    dd if="$1" of="$2" bs=1 seek=29724 conv=notrunc status=none
-    patch "$2" $((29724 + 833)) 1
-    patch "$2" 116202 12 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155 155
-    patch "$2" 116224 7 52 37 51 52 0 37 52 33 48 53 155 155 155 155 155 155 155 155 155 155 155
+    "$zloz_gre" "$game" "$2" 'Żółty Atarowiec' '' 'TEST ETAPU' "$1"
 }
 
 bytes() { # bytes FILE OFFSET COUNT: in decimal, on one line
@@ -120,12 +123,10 @@ came_to() { # the labels at which the program stopped, in order
 }
 
 title_lines() { # the bytes that the three title lines of FILE put on the text screen, from column 8 on
-    for line in 0 1 2; do
-        bytes "$1" $((116180 + 22 * line)) 22 | awk '{
-            for (i = 0; i < 24; ++i) row[i] = 0
-            for (i = 2; i <= NF && $i != 155; ++i) row[$1 + i - 2] = $i
-            for (i = 0; i < 24; ++i) printf "%d ", row[i] }'
-    done
+    "$zloz_gre" --tytul "$1" | awk '{
+        for (i = 0; i < 24; ++i) row[i] = 0
+        for (i = 2; i <= NF && $i != 155; ++i) row[$1 + i - 2] = $i
+        for (i = 0; i < 24; ++i) printf "%d ", row[i] }'
 }
 
 shown_lines() { # the same from the dumped text screen
@@ -163,7 +164,7 @@ check_runs() { # check_runs OPTION: PAL or NTSC
 
 check_dying() { # she steps into a fire and stays there, three times
     cp "$stages/DETAP.1" "$work/etap"
-    dorva=$(od -An -v -tu1 -w1 "$work/etap" | awk 'NR > 32 && $1 == 63 { print NR - 1; exit }')
+    dorva=$(od -An -v -tu1 -w1 "$work/etap" | awk -v board="$ETAP_PLANSZA" 'NR > board && $1 == 63 { print NR - 1; exit }')
     patch "$work/etap" $((dorva - 1)) 35 63 35
     test_build "$work/etap" "$work/ogien.xex"
     record "$start" R7 -300 R7 -300 R7 -400 >"$work/input"
@@ -204,7 +205,7 @@ check_all_stages() {
         echo "BPC $(at graj_etap)"
         for stage in $(seq 32); do
             printf 'C %s %X\nCONT %s\n' "$(at numer_etapu)" "$stage" "$(at graj)"
-            dump plansza 800 "plansza$stage" && dump zestaw 512 "zestaw$stage" && dump kolory 12 "kolory$stage"
+            dump plansza $board "plansza$stage" && dump zestaw 512 "zestaw$stage" && dump kolory 12 "kolory$stage"
             dump linia_info 40 "linia$stage"
         done
         echo QUIT
@@ -212,11 +213,11 @@ check_all_stages() {
     play "$PWD/$game" -xe
     for stage in $(seq 32); do
         file=$stages/DETAP.$stage
-        world=$(bytes "$file" 834 1)
+        world=$(bytes "$file" "$ETAP_SWIAT" 1)
         same=
-        [ "$(bytes "$work/plansza$stage" 0 800)" = "$(bytes "$file" 32 800)" ] || same="$same board"
-        [ "$(bytes "$work/kolory$stage" 0 12)" = "$(bytes "$file" 16 12)" ] || same="$same colours"
-        [ "$(bytes "$work/linia$stage" 8 32)" = "$(bytes "$file" 835 32)" ] || same="$same greeting"
+        [ "$(bytes "$work/plansza$stage" 0 $board)" = "$(bytes "$file" "$ETAP_PLANSZA" $board)" ] || same="$same board"
+        [ "$(bytes "$work/kolory$stage" 0 12)" = "$(bytes "$file" "$ETAP_KOLORY" 12)" ] || same="$same colours"
+        [ "$(bytes "$work/linia$stage" 8 32)" = "$(bytes "$file" "$ETAP_NAZWA" 32)" ] || same="$same greeting"
         [ "$(bytes "$work/zestaw$stage" 0 512)" = "$(bytes "$tiles/FNT${world}1.ORN.ND" 0 512)" ] ||
             same="$same tiles"
         [ -z "$same" ] || expect "stage $stage as it was painted" "other:$same" "the same"
@@ -226,7 +227,8 @@ check_all_stages() {
 
 check_empty_board() {
     cp "$stages/DETAP.1" "$work/etap"
-    patch "$work/etap" 32 $(bytes "$stages/DETAP.1" 32 800 | sed 's/\b63\b/0/g')
+    # shellcheck disable=SC2046
+    patch "$work/etap" "$ETAP_PLANSZA" $(bytes "$stages/DETAP.1" "$ETAP_PLANSZA" $board | sed 's/\b63\b/0/g')
     test_build "$work/etap" "$work/pusta.xex"
     record "$start" -100 F10 -100 >"$work/input"
     { until_at ekran_bez_dorvy && until_at rysuj_tytul && echo QUIT; } >"$work/commands"
@@ -237,9 +239,10 @@ check_empty_board() {
 check_any_bytes() { # stages of 931 bytes as they come, but for the heroine: the game lives and still takes ESC
     for seed in 1 2 3; do
         cp "$stages/DETAP.1" "$work/etap"
-        patch "$work/etap" 0 $(awk -v x="$seed" 'BEGIN {
-            for (i = 0; i < 931; ++i) { x = (x * 16807) % 2147483647; print int(x / 128) % 256 } }')
-        patch "$work/etap" 452 63
+        # shellcheck disable=SC2046
+        patch "$work/etap" 0 $(awk -v x="$seed" -v size="$ETAP_BAJTY" 'BEGIN {
+            for (i = 0; i < size; ++i) { x = (x * 16807) % 2147483647; print int(x / 128) % 256 } }')
+        patch "$work/etap" $((ETAP_PLANSZA + 420)) 63
         test_build "$work/etap" "$work/byle.xex"
         record "$start" R50 D50 L90 U50 F3 R200 D60 F3 L60 U300 F10 R60 E5 -300 >"$work/input"
         { until_at ekran_konca && until_at wcisniete && echo QUIT; } >"$work/commands"
@@ -251,10 +254,11 @@ check_any_bytes() { # stages of 931 bytes as they come, but for the heroine: the
 check_pace() { # boards full of what takes longest: no tick may outlast its frame
     for full in "36 37 38 39 3 0" "54 14 23 24 17" "18 40 41 42 24 0" "24 25 35 8 1" "43 44 45 46 19 20 0" "55 0"; do
         cp "$stages/DETAP.1" "$work/etap"
-        patch "$work/etap" 32 $(echo "$full" |
-            awk '{ for (i = 0; i < 800; ++i) print $(1 + (i * i + i * 7) % 31 % NF) }')
-        patch "$work/etap" 452 63
-        patch "$work/etap" 832 99
+        # shellcheck disable=SC2046
+        patch "$work/etap" "$ETAP_PLANSZA" $(echo "$full" |
+            awk -v board=$board '{ for (i = 0; i < board; ++i) print $(1 + (i * i + i * 7) % 31 % NF) }')
+        patch "$work/etap" $((ETAP_PLANSZA + 420)) 63
+        patch "$work/etap" "$ETAP_CEL" 99
         test_build "$work/etap" "$work/pelna.xex"
         record "$start" R50 D50 L90 U50 F3 R200 D60 F3 L60 U300 F10 R60 E5 L200 E5 L200 E5 -300 >"$work/input"
         { until_at ekran_konca && dump spoznione 1 late && echo QUIT; } >"$work/commands"
@@ -303,11 +307,7 @@ take_pictures() {
         echo "pictures: skipped, no Xvfb or ImageMagick"
         return
     fi
-    Xvfb -displayfd 3 -noreset -screen 0 1024x768x24 3>"$work/display" 2>/dev/null &
-    xvfb=$!
-    while [ ! -s "$work/display" ]; do sleep 0.1; done
-    DISPLAY=:$(cat "$work/display")
-    export DISPLAY
+    open_display "$work" 1024 768
     mkdir -p docs/obrazy
 
     record "$start" "$(run_of 1)" -100 "$(run_of 2)" -400 >"$work/input"

@@ -1,5 +1,6 @@
 ; The stage set-up: takes a stage record out of its bank.
 .include "atari.inc"
+.include "rekord.inc"
 .include "reguly.inc"
 .export wczytaj_etap, ostatni, powitanie
 .exportzp numer_etapu

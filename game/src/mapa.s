@@ -3,6 +3,7 @@
 ; A loader copies each segment through the processor's own memory map, so a segment of one byte
 ; at PORTB switches the bank for all that follow. The order here is the order in szablon.cfg.
 .include "atari.inc"
+.include "rekord.inc"
 .import sprawdz_pamiec, start
 
 .macro naglowek adres, bajty

@@ -3,6 +3,7 @@
 ; The three lines of the builder stand in a field of 24 columns in the middle of the 40-column screen: a line's
 ; start column 2..12 counts from the left edge of that field.
 .include "atari.inc"
+.include "rekord.inc"
 .include "reguly.inc"
 .export tytul, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis

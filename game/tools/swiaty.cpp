@@ -6,10 +6,9 @@
 //   swiaty plansza SWIAT.txt ETAP WYNIK.BMP picture of a stage file's board
 #include "etapy.h"
 
-#include <fstream>
+#include <algorithm>
 #include <functional>
 #include <iostream>
-#include <iterator>
 #include <map>
 
 using namespace dorva;
@@ -54,8 +53,7 @@ void makePaleta(const Argumenty& a) {
 }
 
 void makePlansza(const Argumenty& a) {
-    std::ifstream file(a[1], std::ios::binary);
-    const Bajty etap{std::istreambuf_iterator<char>(file), {}};
+    const Bajty etap = readPlik(a[1]);
     if (etap.size() != ETAP_SIZE_BYTES)
         throw BladZrodla(a[1].string() + ": no stage file");
     writePlik(a[2], BuildBmp(BuildPlansza(parseRysunki(Zrodlo::fromFile(a[0])), etap)));

@@ -26,10 +26,7 @@ Zrodlo::Zrodlo(std::string nazwa, std::string_view tekst) : nazwaPliku(std::move
 }
 
 Zrodlo Zrodlo::fromFile(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        throw BladZrodla(path.string() + ": cannot be read");
-    return {path.string(), std::string(std::istreambuf_iterator<char>(file), {})};
+    return {path.string(), Tekst::fromBytes(readPlik(path)).znaki};
 }
 
 std::string_view Zrodlo::take() {
@@ -71,6 +68,13 @@ Tekst toTekst(const Zrodlo& z, std::string_view utf8) {
         tekst.znaki.push_back(static_cast<char>(fromUnicode(character)));
     }
     return tekst;
+}
+
+Bajty readPlik(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        throw BladZrodla(path.string() + ": cannot be read");
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void writePlik(const std::filesystem::path& path, const Bajty& bytes) {

@@ -52,6 +52,9 @@ int parseLiczba(const Zrodlo&, std::string_view text, int min, int max);
 // UTF-8 as window text.
 Tekst toTekst(const Zrodlo&, std::string_view utf8);
 
+// A whole file; fails where it can't be read.
+Bajty readPlik(const std::filesystem::path& path);
+
 // Writes a file, making its folder where it is missing.
 void writePlik(const std::filesystem::path& path, const Bajty& bytes);
 

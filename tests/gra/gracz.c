@@ -17,8 +17,7 @@
 #include <string.h>
 #include <unistd.h>
 
-enum { ETAP_PLANSZA = 32, ETAP_CEL = 832, ETAP_BAJTY = 931 };
-enum { PROBY = 6, KROKOW = 1500, KROK = 6, DOTKNIECIE = 2, DALEKO = 0xFFFF, NIE = 255 };
+enum { PROBY = 6, KROKOW = 1500, DOTKNIECIE = 2, DALEKO = 0xFFFF, NIE = 255 };
 enum { RUCHOME = 61 };                            /* creatures and smoke: in the way now, gone tomorrow */
 enum { CZEKA = 4, SPUST = 5, WSZYSTKO = 0xFFFE }; /* CZEKA and SPUST follow the four directions */
 enum { POMYSLY = 40, RUCHY = 3, SMIERC = 1000 };
@@ -32,7 +31,7 @@ static const byte strach[4] = {60, 60, 30, 10}; /* by the distance to a creature
 
 static const int obok[4] = {-1, 1, -KOLUMNY, KOLUMNY};
 static const char litery[] = "LRUD-F";
-static const byte stan_drazka[4] = {15 - LEWO, 15 - PRAWO, 15 - GORA, 15 - DOL};
+static const byte stan_drazka[4] = {15 - KIJ_LEWO, 15 - KIJ_PRAWO, 15 - KIJ_GORA, 15 - KIJ_DOL};
 
 static byte rekord[ETAP_BAJTY];
 static char tekst[8192];          /* the run as read; its plan */
@@ -89,11 +88,11 @@ static unsigned tu(void) {
 }
 
 static byte znak(unsigned i) {
-    return plansza[i] & 64 ? 5 : plansza[i] & 63;
+    return plansza[i] & 64 ? MUR_V : plansza[i] & 63;
 }
 
 static byte jest_stworem(byte z) {
-    return (z >= 24 && z <= 29) || (z >= 36 && z <= 39);
+    return (z >= DUCH && z < WYBUCH) || (z >= TROPICIEL && z < MIOTNIK);
 }
 
 /* One step of time: the stick is tapped, or the trigger, or nothing. */
@@ -126,12 +125,12 @@ static void wycen(unsigned cel) {
     for (i = KOLUMNY + 1; i < POLA - KOLUMNY; i += 2)
         for (k = 0; k < KOLUMNY - 2; ++k, ++i) { /* the edge is for nobody */
             z = znak(i);
-            if ((z == 9 && otwarte) || (z == 10 && klucze))
+            if ((z == WYJSCIE && otwarte) || (z == DRZWI && klucze))
                 cena[i] = 8;
             else if (ceny[z] != NIE)
                 cena[i] = smialek && ceny[z] == RUCHOME ? NIE : ceny[z] + (los() & 1);
         }
-    if (cel < POLA && znak(cel) == 55)
+    if (cel < POLA && znak(cel) == MAGICZNY)
         cena[cel] = 4;
     for (i = 0; i < POLA && !smialek; ++i) {
         z = znak(i);
@@ -142,7 +141,7 @@ static void wycen(unsigned cel) {
                     if (k <= 3)
                         zdrozej(i + dy * KOLUMNY + dx, strach[k]);
                 }
-        if (z == 18 || (z >= 40 && z <= 42))
+        if (z == PROMIENNIK || (z >= MIOTNIK && z <= PLUJKA))
             for (k = 0; k < 4; ++k)
                 for (j = i + obok[k]; j < POLA && cena[j] != NIE; j += obok[k])
                     zdrozej(j, 12);
@@ -152,14 +151,14 @@ static void wycen(unsigned cel) {
 /* What a cell is worth: the smaller, the better; DALEKO: nothing. */
 static unsigned wartosc(unsigned i) {
     switch (znak(i)) {
-    case 9:
+    case WYJSCIE:
         return otwarte ? 0 : DALEKO;
-    case 12:
+    case MASKA:
         return brak_masek ? 800 : DALEKO;
-    case 13:
-    case 57:
+    case KLUCZ:
+    case POCHODNIA:
         return 800;
-    case 16:
+    case ELIKSIR:
         return energia < 60 && !smialek ? 680 : DALEKO;
     default:
         return DALEKO;
@@ -223,7 +222,7 @@ static void idz(byte kroki) {
     byte t;
     for (; kroki && kroki_drogi && !wynik; --kroki) {
         skok = tu() + obok[droga[--kroki_drogi]];
-        for (t = znak(skok) == 8 && !pochodnia ? 3 : 1; t && !wynik; --t)
+        for (t = znak(skok) == ZAROSLA && !pochodnia ? 3 : 1; t && !wynik; --t)
             krok(droga[kroki_drogi]);
         if (tu() != skok && tu() != skok - obok[droga[kroki_drogi]])
             kroki_drogi = 0;
@@ -297,7 +296,7 @@ static byte cos_sie_rusza(void) {
     byte z;
     for (i = 0; i < POLA; ++i) {
         z = znak(i);
-        if (z >= 18 && z <= 48 && z != 34 && z != 35)
+        if (z >= PROMIENNIK && z < BAGNO && z != MONETA && z != OGIEN)
             return 1;
     }
     return 0;

@@ -2,11 +2,11 @@
 #ifndef REGULY_H
 #define REGULY_H
 
+#include "stale.h" /* made of game/src/reguly.inc and rekord.inc */
+
 typedef unsigned char byte;
 
-enum { KOLUMNY = 40, WIERSZE = 20, POLA = 800 };
-enum { LEWO = 4, PRAWO = 8, GORA = 1, DOL = 2 };
-enum { ETAP_PRZESZLA = 1, DORVA_GINIE = 2 };
+enum { KIJ_GORA = 1, KIJ_DOL = 2, KIJ_LEWO = 4, KIJ_PRAWO = 8 }; /* bits of drazek, 0 where it is pushed */
 
 extern byte plansza[POLA];
 extern byte pod[1024], stan[1024], zapach[1024];

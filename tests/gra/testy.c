@@ -16,13 +16,17 @@ static unsigned bledy;
 
 /* Letters of the small boards and their tiles. */
 static const char litery[] = " .^,n|=%zE+wMKBSeO*Q!gLRdu$fTtmpPb o@iDs";
-static const byte kody[] = {0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15, 16, 17, 18, 23,
-                            24, 25, 26, 27, 28, 29, 34, 35, 36, 38, 40, 41, 42, 49, 0,  55, 56, 57, 63, 51};
+static const byte kody[] = {NIC,       ZIEMIA,           PULAPKA,       SLAD,     NACZYNIE,     MUR_V,    MUR_H,
+                            KRUCHY,    ZAROSLA,          WYJSCIE,       DRZWI,    WODA,         MASKA,    KLUCZ,
+                            BOMBA,     SKRZYNIA,         ELIKSIR,       BLOK,     PROMIENNIK,   ODPALONA, DUCH,
+                            STWOREK,   STWOR + LEWO,     STWOR + PRAWO, STRAZNIK, STRAZNIK + 1, MONETA,   OGIEN,
+                            TROPICIEL, TROPICIEL + GORA, MIOTNIK,       MIOTACZ,  PLUJKA,       BAGNO,    NIC,
+                            MAGICZNY,  MASZYNA,          POCHODNIA,     DORVA,    PO_OCZY + 1};
 
 /* Lays rows of letters into a board of walls, from cell (1, 1) on, and starts the stage. */
 static byte uloz(const char* const* wiersze, byte ile, byte cel) {
     byte w, k;
-    memset(plansza, 5, POLA);
+    memset(plansza, MUR_V, POLA);
     for (w = 0; w < ile; ++w)
         for (k = 0; wiersze[w][k]; ++k)
             plansza[(w + 1) * KOLUMNY + k + 1] = kody[strchr(litery, wiersze[w][k]) - litery];
@@ -63,16 +67,16 @@ static void idz(const char* ruchy) {
         drazek = 15;
         switch (*ruchy) {
         case 'L':
-            drazek = 15 - LEWO;
+            drazek = 15 - KIJ_LEWO;
             break;
         case 'R':
-            drazek = 15 - PRAWO;
+            drazek = 15 - KIJ_PRAWO;
             break;
         case 'U':
-            drazek = 15 - GORA;
+            drazek = 15 - KIJ_GORA;
             break;
         case 'D':
-            drazek = 15 - DOL;
+            drazek = 15 - KIJ_DOL;
             break;
         case 'B':
             spust = 0;
@@ -94,21 +98,21 @@ static void chodzenie(void) {
     uloz1(1, "D   ");
     idz("RRRR");
     CHECK(tu(1, 4));
-    CHECK(pole(1, 1) == 0 && pole(1, 2) == 0);
-    CHECK((pole(1, 4) & 127) == 60);
+    CHECK(pole(1, 1) == NIC && pole(1, 2) == NIC);
+    CHECK((pole(1, 4) & ~INV) == IDZIE_PRAWO);
     idz("---");
-    CHECK((pole(1, 4) & 127) == 63);
+    CHECK((pole(1, 4) & ~INV) == DORVA);
     idz("LU");
     CHECK(tu(1, 3));
-    CHECK((pole(1, 3) & 127) == 62);
+    CHECK((pole(1, 3) & ~INV) == IDZIE_GORA);
 
     uloz1(1, "D..,"); /* digging */
     idz("RRRL");
     CHECK(tu(1, 3));
-    CHECK(pole(1, 1) == 0 && pole(1, 2) == 3 && pole(1, 4) == 3);
+    CHECK(pole(1, 1) == NIC && pole(1, 2) == SLAD && pole(1, 4) == SLAD);
 
     uloz1(1, "D        "); /* a press is a step; held, it makes the next one after ten ticks and then one every six */
-    drazek = 15 - PRAWO;
+    drazek = 15 - KIJ_PRAWO;
     takty(10);
     CHECK(tu(1, 2));
     takty(1);
@@ -117,33 +121,33 @@ static void chodzenie(void) {
     CHECK(tu(1, 5));
     drazek = 15;
     takty(2);
-    drazek = 15 - PRAWO;
+    drazek = 15 - KIJ_PRAWO;
     takty(10); /* a second press waits for no more than the pace of steps */
     CHECK(tu(1, 6));
 
     uloz3(1, "D    ", "     ", "     "); /* the newest direction wins, and a tap between two steps counts */
-    drazek = 15 - PRAWO;
+    drazek = 15 - KIJ_PRAWO;
     takty(6);
-    drazek = 15 - PRAWO - DOL;
+    drazek = 15 - KIJ_PRAWO - KIJ_DOL;
     takty(6);
     CHECK(tu(2, 2));
-    drazek = 15 - PRAWO;
+    drazek = 15 - KIJ_PRAWO;
     takty(6);
-    drazek = 15 - PRAWO - DOL;
+    drazek = 15 - KIJ_PRAWO - KIJ_DOL;
     takty(2);
-    drazek = 15 - PRAWO;
+    drazek = 15 - KIJ_PRAWO;
     takty(12);
     CHECK(tu(3, 3));
 
     uloz1(1, "D."); /* INV partners and codes that are no tiles */
-    plansza[43] = 129;
+    plansza[43] = ZIEMIA + INV;
     plansza[44] = 70;
-    plansza[45] = 0;
+    plansza[45] = NIC;
     idz("RRRR");
     CHECK(tu(1, 3));
     CHECK(pole(1, 4) == 70);
     idz("L");
-    CHECK(pole(1, 3) == 131);
+    CHECK(pole(1, 3) == SLAD + INV);
 
     CHECK(uloz1(1, "  ") == 0); /* nobody there */
     CHECK(uloz1(1, " DD ") == 1);
@@ -154,10 +158,10 @@ static void chodzenie(void) {
     idz("R");
     CHECK(tu(1, 1));
 
-    memset(plansza, 5, POLA); /* the edge: nobody enters, and a heroine on it counts for nothing */
-    plansza[1] = 0;
-    plansza[2] = 63;
-    plansza[41] = 191;
+    memset(plansza, MUR_V, POLA); /* the edge: nobody enters, and a heroine on it counts for nothing */
+    plansza[1] = NIC;
+    plansza[2] = DORVA;
+    plansza[41] = DORVA + INV;
     cel_masek = 1;
     CHECK(start() == 1);
     CHECK(tu(1, 1));
@@ -196,7 +200,7 @@ static void branie(void) {
     CHECK(tu(1, 1));
     uloz1(1, "DK++ ");
     idz("RRRR");
-    CHECK(tu(1, 3) && klucze == 0 && pole(1, 3) != 10);
+    CHECK(tu(1, 3) && klucze == 0 && pole(1, 3) != DRZWI);
 
     uloz1(1, "Dnnnn "); /* jars: coins, strength, coins, a bomb */
     energia = 50;
@@ -230,28 +234,28 @@ static void branie(void) {
     idz("RR");
     CHECK(tu(1, 1));
     idz("R");
-    CHECK(tu(1, 2) && pole(1, 1) == 0);
+    CHECK(tu(1, 2) && pole(1, 1) == NIC);
     uloz1(1, "Dizzz "); /* it burns before she may enter, and so do those beside it */
-    drazek = 15 - PRAWO;
+    drazek = 15 - KIJ_PRAWO;
     takty(11 + 12);
-    CHECK(pole(1, 3) == 35 && tu(1, 2));
+    CHECK(pole(1, 3) == OGIEN && tu(1, 2));
     takty(9 * 20);
     CHECK(tu(1, 6) && energia == 99);
     uloz3(1, "Dwfzwz", "", ""); /* a painted fire burns for ever and takes the thicket beside it */
     takty(4000);
-    CHECK(pole(1, 3) == 35 && pole(1, 4) == 0 && pole(1, 6) == 8);
+    CHECK(pole(1, 3) == OGIEN && pole(1, 4) == NIC && pole(1, 6) == ZAROSLA);
 }
 
 static void pchanie(void) {
     uloz1(1, "DS ");
     idz("RR");
-    CHECK(tu(1, 2) && pole(1, 3) == 15);
+    CHECK(tu(1, 2) && pole(1, 3) == SKRZYNIA);
     uloz1(1, "DSS ");
     idz("R");
     CHECK(tu(1, 1));
     uloz1(1, "DS,S");
     idz("RL");
-    CHECK(pole(1, 3) == 15);
+    CHECK(pole(1, 3) == SKRZYNIA);
     uloz3(1, "D", "S", "w"); /* water takes the crate and turns to ground */
     idz("DDD");
     CHECK(tu(3, 1) && energia == 99);
@@ -260,25 +264,25 @@ static void pchanie(void) {
     CHECK(tu(1, 1) && energia == 99);
     uloz1(1, "DS^ "); /* a trap is shut by it */
     idz("RRR");
-    CHECK(tu(1, 3) && energia == 99 && pole(1, 4) == 15);
+    CHECK(tu(1, 3) && energia == 99 && pole(1, 4) == SKRZYNIA);
     uloz1(1, "DSf "); /* a fire is put out */
     idz("RRR");
-    CHECK(tu(1, 3) && energia == 99 && pole(1, 4) == 15);
+    CHECK(tu(1, 3) && energia == 99 && pole(1, 4) == SKRZYNIA);
     uloz1(1, "DS w "); /* all the same in INV forms */
-    plansza[42] = 143;
-    plansza[43] = 128;
-    plansza[44] = 139;
+    plansza[42] = SKRZYNIA + INV;
+    plansza[43] = NIC + INV;
+    plansza[44] = WODA + INV;
     idz("RRRR");
     CHECK(tu(1, 5) && energia == 99);
     uloz1(1, "DS,."); /* what lay beneath comes back */
     idz("RR");
-    CHECK(tu(1, 2) && pole(1, 3) == 15);
-    memset(plansza, 0, POLA); /* not over the edge of the board */
-    plansza[42] = 63;
-    plansza[41] = 15;
+    CHECK(tu(1, 2) && pole(1, 3) == SKRZYNIA);
+    memset(plansza, NIC, POLA); /* not over the edge of the board */
+    plansza[42] = DORVA;
+    plansza[41] = SKRZYNIA;
     start();
     idz("LL");
-    CHECK(tu(1, 2) && pole(1, 0) == 0);
+    CHECK(tu(1, 2) && pole(1, 0) == NIC);
 }
 
 static void bomby_i_mury(void) {
@@ -288,11 +292,11 @@ static void bomby_i_mury(void) {
     idz("BB");
     CHECK(bomby == 0);
     takty(200);
-    CHECK(pole(1, 6) == 7 && energia == 99); /* it waits while she stands on it */
+    CHECK(pole(1, 6) == KRUCHY && energia == 99); /* it waits while she stands on it */
     idz("LLLL");
-    CHECK((pole(1, 5) & 127) == 23);
+    CHECK((pole(1, 5) & ~INV) == ODPALONA);
     takty(130);
-    CHECK(pole(1, 5) == 0 && pole(1, 6) == 0 && pole(1, 9) == 5 && energia == 99);
+    CHECK(pole(1, 5) == NIC && pole(1, 6) == NIC && pole(1, 9) == MUR_V && energia == 99);
 
     uloz1(1, "DB  "); /* too near */
     idz("RBR");
@@ -301,13 +305,13 @@ static void bomby_i_mury(void) {
 
     uloz3(1, "E.M", "+QK", "oeD"); /* nothing that a stage needs is lost */
     takty(200);
-    CHECK((pole(1, 1) & 127) == 9 && pole(1, 2) == 0 && pole(1, 3) == 12 && pole(2, 1) == 10 && pole(2, 3) == 13 &&
-          pole(3, 1) == 55 && pole(3, 2) == 16);
+    CHECK((pole(1, 1) & ~INV) == WYJSCIE && pole(1, 2) == NIC && pole(1, 3) == MASKA && pole(2, 1) == DRZWI &&
+          pole(2, 3) == KLUCZ && pole(3, 1) == MAGICZNY && pole(3, 2) == ELIKSIR);
 
     uloz3(1, " QB$", "O|*L", "D   "); /* a chain; blocks crack; coins and walls stay; creatures score */
     takty(260);
-    CHECK(pole(1, 2) == 0 && pole(1, 3) == 0 && pole(1, 4) == 34);
-    CHECK(pole(2, 1) == 7 && pole(2, 2) == 5 && pole(2, 3) == 0 && pole(0, 2) == 5);
+    CHECK(pole(1, 2) == NIC && pole(1, 3) == NIC && pole(1, 4) == MONETA);
+    CHECK(pole(2, 1) == KRUCHY && pole(2, 2) == MUR_V && pole(2, 3) == NIC && pole(0, 2) == MUR_V);
     CHECK(punktow() >= 1);
 }
 
@@ -316,20 +320,20 @@ static void wedrowcy(void) {
     uloz3(1, "L      ", "|||||||", "D");
     for (i = 0; i < 200; ++i) {
         takty(9);
-        if (pole(1, 1) == 26)
+        if (pole(1, 1) == STWOR + LEWO)
             lewy = 1;
-        if (pole(1, 7) == 27)
+        if (pole(1, 7) == STWOR + PRAWO)
             prawy = 1;
     }
     CHECK(lewy && prawy);
 
     uloz3(1, "d|D", ",", " "); /* a guard goes down and up, and what it treads on stays */
     takty(9);
-    CHECK(pole(2, 1) == 28 && pole(1, 1) == 0);
+    CHECK(pole(2, 1) == STRAZNIK && pole(1, 1) == NIC);
     takty(9);
-    CHECK(pole(3, 1) == 28 && pole(2, 1) == 3);
+    CHECK(pole(3, 1) == STRAZNIK && pole(2, 1) == SLAD);
     takty(18);
-    CHECK(pole(2, 1) == 29);
+    CHECK(pole(2, 1) == STRAZNIK + 1);
 
     uloz1(1, "R    D"); /* contact wounds, once a second at most */
     takty(9 * 5);
@@ -346,20 +350,20 @@ static void wedrowcy(void) {
 
     uloz1(1, "g..D"); /* it wakes in her row only */
     takty(9);
-    CHECK(pole(1, 1) == 27);
+    CHECK(pole(1, 1) == STWOR + PRAWO);
     uloz3(1, "g   ", "    ", "   D");
     takty(90);
-    CHECK(pole(1, 1) == 25);
+    CHECK(pole(1, 1) == STWOREK);
 
     uloz3(1, "!...", "....", "D|||"); /* a ghost passes earth and leaves it whole */
     for (prawy = 0, i = 0; i < 100; ++i) {
         takty(9);
-        prawy |= pole(1, 3) == 24 || pole(2, 2) == 24;
+        prawy |= pole(1, 3) == DUCH || pole(2, 2) == DUCH;
     }
     CHECK(prawy);
     for (lewy = 0, i = 0; i < 4; ++i)
-        lewy += (pole(1, 1 + i) == 1) + (pole(2, 1 + i) == 1);
-    CHECK(lewy == 7 - (pole(1, 1) != 24));
+        lewy += (pole(1, 1 + i) == ZIEMIA) + (pole(2, 1 + i) == ZIEMIA);
+    CHECK(lewy == 7 - (pole(1, 1) != DUCH));
 
     uloz1(1, "Di!|");
     idz("RRRR");
@@ -386,13 +390,14 @@ static void strzelanie(void) {
     uloz3(1, " ,     ", " *  D  ", "       ");
     for (i = 0; i < 40; ++i) {
         takty(9);
-        mrugal |= pole(2, 2) == 128 + 18 && byl == 0;
-        byl |= (pole(2, 3) == 20) + 2 * (pole(1, 2) == 21) + 4 * (pole(2, 1) == 19) + 8 * (pole(3, 2) == 22);
+        mrugal |= pole(2, 2) == PROMIENNIK + INV && byl == 0;
+        byl |= (pole(2, 3) == PROMIEN + PRAWO) + 2 * (pole(1, 2) == PROMIEN + GORA) +
+               4 * (pole(2, 1) == PROMIEN + LEWO) + 8 * (pole(3, 2) == PROMIEN + DOL);
     }
     CHECK(byl == 15 && energia < 99 && mrugal);
     maszyna_stoi = 1;
     takty(90);
-    CHECK(pole(1, 2) == 3 && pole(2, 3) == 0);
+    CHECK(pole(1, 2) == SLAD && pole(2, 3) == NIC);
 
     uloz3(1, "       ", " *  D  ", "@      "); /* the machine stops emitters */
     maszyna_stoi = 1;
@@ -406,35 +411,35 @@ static void strzelanie(void) {
 
     uloz3(1, "m     D", "|||||||", "|||||||"); /* throwers see rows and columns, through nothing in between */
     takty(9);
-    CHECK(pole(1, 1) == 128 + 40 && pole(1, 2) == 0); /* it takes aim first */
+    CHECK(pole(1, 1) == MIOTNIK + INV && pole(1, 2) == NIC); /* it takes aim first */
     takty(9 * 6);
     CHECK(energia == 99 - 12);
     uloz3(1, "m|", " |", "D|");
     takty(9 * 5);
-    CHECK(energia == 99 - 12 && pole(1, 1) == 40);
+    CHECK(energia == 99 - 12 && pole(1, 1) == MIOTNIK);
     uloz3(1, "mD ", "|  ", "|  "); /* she can step aside */
     takty(9);
     idz("DR");
     takty(60);
-    CHECK(energia == 99 && pole(1, 1) == 40);
+    CHECK(energia == 99 && pole(1, 1) == MIOTNIK);
     uloz3(1, "m     |", "||||||D", "|||||||");
     takty(300);
-    CHECK(energia == 99 && pole(1, 2) == 0);
+    CHECK(energia == 99 && pole(1, 2) == NIC);
     uloz1(1, "P  S D");
     takty(400);
-    CHECK(energia == 99 && pole(1, 4) == 15);
+    CHECK(energia == 99 && pole(1, 4) == SKRZYNIA);
     uloz1(1, "D   p   ");
     takty(9 * 20);
-    CHECK(energia < 99 && pole(1, 8) == 0);
+    CHECK(energia < 99 && pole(1, 8) == NIC);
 }
 
 static void zywioly(void) {
     uloz1(1, "D^  ");
     idz("RR");
-    CHECK(energia == 79 && pole(1, 2) == 0);
+    CHECK(energia == 79 && pole(1, 2) == NIC);
     uloz1(1, "Dwwwwwwwwwwwwwwwwwwwwwwwwww"); /* 4 a cell, so it carries 24 of them; and 4 for half a second in one */
     idz("RR");
-    CHECK(energia == 91 && pole(1, 2) == 11);
+    CHECK(energia == 91 && pole(1, 2) == WODA);
     idz("RRRRRRRRRRRRRRRRRRRRRR");
     CHECK(energia == 3 && tu(1, 25));
     idz("R");
@@ -445,7 +450,7 @@ static void zywioly(void) {
     CHECK(energia == 91);
     uloz1(1, "Dff "); /* fire wounds, and no wound comes while she flickers from the last one */
     idz("RR");
-    CHECK(energia == 79 && pole(1, 2) == 35);
+    CHECK(energia == 79 && pole(1, 2) == OGIEN);
     takty(38);
     CHECK(energia == 79);
     takty(2);
@@ -453,42 +458,42 @@ static void zywioly(void) {
 
     uloz1(1, "Dbbb ");
     idz("R");
-    CHECK((pole(1, 2) & 127) == 52);
+    CHECK((pole(1, 2) & ~INV) == PO_OCZY + 2);
     idz("R");
-    CHECK((pole(1, 3) & 127) == 51);
+    CHECK((pole(1, 3) & ~INV) == PO_OCZY + 1);
     idz("RR");
-    CHECK(tu(1, 5) && (pole(1, 5) & 127) == 53 && energia == 99 && pole(1, 4) == 49);
+    CHECK(tu(1, 5) && (pole(1, 5) & ~INV) == PO_BAGNIE && energia == 99 && pole(1, 4) == BAGNO);
     uloz1(1, "Dbbbbb");
     idz("RRRR");
     CHECK(wynik == DORVA_GINIE);
     uloz1(1, "Dw b"); /* the same in INV forms */
-    plansza[42] |= 128;
-    plansza[44] |= 128;
+    plansza[42] |= INV;
+    plansza[44] |= INV;
     idz("R");
     takty(55);
     CHECK(energia == 99 - 3 * 4);
     idz("RR");
-    CHECK((pole(1, 4) & 127) == 52);
+    CHECK((pole(1, 4) & ~INV) == PO_OCZY + 2);
     uloz1(1, "Db ");
     idz("R");
     takty(120);
-    CHECK((pole(1, 2) & 127) == 50 && wynik == 0);
+    CHECK((pole(1, 2) & ~INV) == PO_OCZY && wynik == 0);
     takty(60);
     CHECK(wynik == DORVA_GINIE);
 
     uloz3(1, "Do ||||||", "||||||o|o", "o  |   ||"); /* pairs in the order of the board; the way back */
     idz("R");
-    CHECK(tu(2, 7) && pole(1, 2) == 55);
+    CHECK(tu(2, 7) && pole(1, 2) == MAGICZNY);
     uloz3(1, " oD|||o  ", "|||||||||", "o| o     ");
     idz("L");
     CHECK(tu(1, 7));
     idz("RL");
     CHECK(tu(1, 2));
     idz("L");
-    CHECK(tu(1, 1) && pole(1, 2) == 55);
+    CHECK(tu(1, 1) && pole(1, 2) == MAGICZNY);
     uloz1(1, "Do "); /* one alone is just passed */
     idz("RR");
-    CHECK(tu(1, 3) && pole(1, 2) == 55);
+    CHECK(tu(1, 3) && pole(1, 2) == MAGICZNY);
 }
 
 static unsigned long ziarno_testu = 1;
@@ -513,7 +518,7 @@ static void losowe(void) {
             if (n & 2)
                 plansza[i] &= losowy(); /* more room */
         }
-        plansza[(1 + losowy() % 18) * KOLUMNY + 1 + losowy() % 38] = 63;
+        plansza[(1 + losowy() % 18) * KOLUMNY + 1 + losowy() % 38] = DORVA;
         memcpy(brzeg, plansza, POLA);
         memset(przed, 0xC3, 256);
         memset(za, 0xC3, 224);
@@ -556,11 +561,11 @@ static void inv(void) {
     for (n = 0; n < 4; ++n) {
         for (i = 0; i < POLA; ++i)
             obraz[i] = losowy() & losowy() & 63;
-        obraz[(1 + losowy() % 18) * KOLUMNY + 1 + losowy() % 38] = 63;
+        obraz[(1 + losowy() % 18) * KOLUMNY + 1 + losowy() % 38] = DORVA;
         ziarno_ruchow = losowy();
         for (postac = 0; postac < 2; ++postac) {
             for (i = 0; i < POLA; ++i)
-                plansza[i] = postac ? obraz[i] | 128 : obraz[i];
+                plansza[i] = postac ? obraz[i] | INV : obraz[i];
             cel_masek = 3;
             drazek = 15;
             ruchy = ziarno_ruchow;
@@ -579,7 +584,7 @@ static void inv(void) {
             }
         }
         CHECK(energia == energia_std && brak_masek == maski_std);
-        for (i = 0; i < POLA && !((plansza[i] ^ po[i]) & 127); ++i) {
+        for (i = 0; i < POLA && !((plansza[i] ^ po[i]) & ~INV); ++i) {
         }
         CHECK(i == POLA);
     }

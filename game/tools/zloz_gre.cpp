@@ -1,0 +1,61 @@
+// Game files to try the game with, made by the builder's own functions:
+//   zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP...   title lines and, from the first place on, stage files, the last
+//                                                      of which is marked as the last one of the game
+//   zloz_gre --tytul GRA                               the bytes of a game's title lines, a line each
+#include "output/szablon.h"
+#include "stage/obraz_etapu.h"
+#include "zrodlo.h"
+
+#include <iostream>
+
+using namespace dorva;
+
+namespace {
+
+using Argumenty = std::vector<std::string>;
+
+constexpr std::size_t FIRST_LINIA = 2, FIRST_ETAP = 5; // arguments
+
+Tekst linia(const Argumenty& a, std::size_t index) {
+    return toTekst(Zrodlo("title line", ""), a[FIRST_LINIA + index]);
+}
+
+void makeGra(const Argumenty& a) {
+    Bajty gra = readPlik(a[0]);
+    if (gra.size() != GRA_SIZE_BYTES || a.size() - FIRST_ETAP > ETAPY_COUNT)
+        throw BladZrodla(a[0] + ": no game template, or too many stages for it");
+    for (std::size_t i = FIRST_ETAP; i < a.size(); ++i) {
+        Bajty etap = readPlik(a[i]);
+        if (etap.size() != ETAP_SIZE_BYTES)
+            throw BladZrodla(a[i] + ": no stage file");
+        if (i + 1 == a.size())
+            etap[uklad::OSTATNI] = 1;
+        splice(gra, rekordOffset(i - FIRST_ETAP), ETAP_SIZE_BYTES, etap);
+    }
+    spliceTytul(gra, {linia(a, 0), linia(a, 1), linia(a, 2)});
+    writePlik(a[1], gra);
+}
+
+void printTytul(const std::string& name) {
+    const Bajty gra = readPlik(name);
+    for (std::size_t i = 0; i < 3 * LINIA_TYTULU_SIZE_BYTES; ++i)
+        std::cout << int{gra.at(LINIE_TYTULU_OFFSET + i)} << ((i + 1) % LINIA_TYTULU_SIZE_BYTES ? ' ' : '\n');
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const Argumenty arguments(argv + 1, argv + argc);
+    try {
+        if (arguments.size() == 2 && arguments[0] == "--tytul")
+            printTytul(arguments[1]);
+        else if (arguments.size() > FIRST_ETAP)
+            makeGra(arguments);
+        else
+            throw BladZrodla("usage: zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP..., or zloz_gre --tytul GRA");
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}
