@@ -3,7 +3,10 @@
 # Benchmarks X and XPlain take turns; the medians of their repetitions are compared. Times in microseconds.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-scripts/run.sh --no-start >/dev/null
+scripts/setup.sh --tests
+cmake --preset release >/dev/null
+cmake --build --preset release >/dev/null
+scripts/lay.sh build/release
 export QT_LOGGING_RULES='*=false' TMPDIR=${TMPDIR:-/var/tmp} # a disk, where flushing counts
 bench=build/release/bench
 

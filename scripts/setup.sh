@@ -1,11 +1,12 @@
 #!/bin/sh
-# Installs what building needs and this machine lacks (Debian packages). Elsewhere, or where nothing can
-# be installed, names what is missing; the caller goes on with what can be built without it.
-# --checks: also what the slower checks need.
+# Installs what building the program needs and this machine lacks (Debian packages). Elsewhere, or where nothing can be
+# installed, names what is missing; the caller goes on with what can be built without it.
+# --tests: also what tests and benchmarks need. --checks: all that, and what the slower checks need.
 set -u
 
-packages="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n libgtest-dev libbenchmark-dev cc65 fonts-liberation fonts-dejavu-core"
-[ "${1-}" = --checks ] && packages="$packages clang libclang-rt-14-dev llvm clang-tidy clang-format"
+packages="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n cc65 fonts-liberation fonts-dejavu-core"
+case ${1-} in --tests | --checks) packages="$packages libgtest-dev libbenchmark-dev" ;; esac
+[ "${1-}" != --checks ] || packages="$packages clang libclang-rt-14-dev llvm clang-tidy clang-format"
 
 if ! command -v dpkg-query >/dev/null 2>&1; then
     for tool in cmake ninja c++ ca65; do

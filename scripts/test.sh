@@ -1,7 +1,10 @@
 #!/bin/sh
-# Installs what is missing, builds, lays the program folder and runs the whole test suite. Needs no display.
+# Installs what is missing, builds everything, lays the program folder and runs the whole test suite. Needs no display.
 set -eu
 
 cd "$(dirname "$0")/.."
-scripts/run.sh --no-start
+scripts/setup.sh --tests
+cmake --preset release >/dev/null
+cmake --build --preset release
+scripts/lay.sh build/release
 exec ctest --preset release

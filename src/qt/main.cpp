@@ -7,7 +7,24 @@
 #include <QIcon>
 #include <QScreen>
 
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
 namespace {
+
+// Where Qt can open no window it writes several lines that help no user, and aborts. One sentence is enough.
+void sayWhyThereIsNoWindow(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg)
+        return;
+    std::fputs("Planszownik nie może otworzyć okna: nie ma dostępu do ekranu (DISPLAY, WAYLAND_DISPLAY).\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
+// Qt as it is where its platform was chosen by hand.
+QtMessageHandler installStartHandler() {
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? nullptr : qInstallMessageHandler(sayWhyThereIsNoWindow);
+}
 
 // The folder of the executable, symbolic links resolved.
 std::filesystem::path ownFolder() {
@@ -32,7 +49,9 @@ void centre(QWidget& window) {
 } // namespace
 
 int main(int argc, char** argv) {
+    const QtMessageHandler usual = installStartHandler();
     QApplication application(argc, argv);
+    qInstallMessageHandler(usual);
     dorva::setUpApplication(application);
     QApplication::setWindowIcon(ownIcon());
 
