@@ -4,6 +4,7 @@
 #include "board/plansza.h"
 #include "output/obraz_gry.h"
 #include "output/szablon.h"
+#include "sciezki.h"
 #include "shell/start.h"
 #include "stage/archiwum.h"
 #include "stage/etap.h"
@@ -32,7 +33,7 @@ struct Praca {
         e.KatalogBazowy = base;
         PackEtap(e);
         for (int number = 1; number <= ETAPY_COUNT; ++number)
-            put(etapPath(e, number), e.obrazEtapu);
+            put(sciezki::etap(base, number), e.image);
         e.haki.messageBox = [](const Komunikat& k) { return k.przyciski == Przyciski::OkCancel; };
         e.haki.openDialog = e.haki.saveDialog = [this](const DialogPliku&) { return std::optional(base / "wynik"); };
         e.haki.startProgram = [](const fs::path&, OknoProgramu) {};
@@ -77,7 +78,7 @@ void plainCount(const Bajty& board) {
 
 Bajty codesOf(const Edytor& e) {
     Bajty board;
-    for (const ZnakPole& cell : e.okno.imgPG)
+    for (const PokazanyZnak& cell : e.okno.imgPG)
         board.push_back(static_cast<Bajt>(cell.znak));
     return board;
 }
@@ -124,7 +125,7 @@ void BM_PackUnpackPlain(benchmark::State& state) {
     const Praca praca;
     const Bajty board = codesOf(praca.e);
     for (auto _ : state) {
-        Bajty image = praca.e.obrazEtapu;
+        Bajty image = praca.e.image;
         benchmark::DoNotOptimize(image.data());
         benchmark::ClobberMemory();
         plainCount(board);
@@ -146,8 +147,8 @@ void BM_SwitchPlain(benchmark::State& state) {
     Praca praca;
     Bajty bytes(ETAP_SIZE_BYTES);
     for (auto _ : state) {
-        plainWrite(etapPath(praca.e, 1), bytes);
-        plainRead(etapPath(praca.e, 2), bytes);
+        plainWrite(sciezki::etap(praca.base, 1), bytes);
+        plainRead(sciezki::etap(praca.base, 2), bytes);
     }
 }
 BENCHMARK(BM_SwitchPlain)->UseRealTime();
@@ -165,12 +166,12 @@ struct Wywolania {
     Bajty etap = Bajty(ETAP_SIZE_BYTES), autor = Bajty(AUTOR_GRY_SIZE_BYTES), gra = Bajty(GRA_SIZE_BYTES);
     Bajty archiwum = Bajty(ARCHIWUM_SIZE_BYTES);
 
-    void writeEtap(int number) { plainWrite(etapPath(praca.e, number), etap); }
-    void writeAutor() { plainWrite(autorGryPath(praca.e), autor); }
-    void writeTest() { plainWrite(testXexPath(praca.e), gra); }
+    void writeEtap(int number) { plainWrite(sciezki::etap(praca.base, number), etap); }
+    void writeAutor() { plainWrite(praca.base / sciezki::AUTOR_GRY, autor); }
+    void writeTest() { plainWrite(praca.base / sciezki::TEST_XEX, gra); }
     void writeChosen(const Bajty& bytes) { plainWrite(praca.base / "wynik", bytes); }
-    void readEtap(int number) { plainRead(etapPath(praca.e, number), etap); }
-    void readTemplate() { plainRead(praca.base / "PLIKI/DP2.DTA", gra); }
+    void readEtap(int number) { plainRead(sciezki::etap(praca.base, number), etap); }
+    void readTemplate() { plainRead(praca.base / sciezki::SZABLON_GRY, gra); }
     void everyEtap(void (Wywolania::*step)(int)) {
         for (int number = 1; number <= ETAPY_COUNT; ++number)
             (this->*step)(number);

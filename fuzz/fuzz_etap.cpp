@@ -9,8 +9,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const int options = input.byte();
     e.okno.chkZachowajKolory = (options & 1) != 0;
     e.okno.optNN = options >> 1 & 1;
-    e.obrazEtapu = input.filled(ETAP_SIZE_BYTES);
-    const Bajty image = e.obrazEtapu;
+    e.image = input.filled(ETAP_SIZE_BYTES);
+    const Bajty image = e.image;
 
     const bool valid = image[832] >= 1 && image[832] <= 99 && image[833] <= 2 && image[834] <= 2;
     SPRAWDZ(UnpackEtap(e) == valid);
@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         fuzz::checkCensus(e.okno);
 
     fuzz::checkPack(e);
-    const Bajty packed = e.obrazEtapu;
+    const Bajty packed = e.image;
     for (std::size_t i = 0; i < SLOTY_COUNT && !e.okno.chkZachowajKolory; ++i)
         SPRAWDZ(packed[16 + i] == image[16 + i]);
     for (std::size_t i = 0; i < PLANSZA_CELLS; ++i)
@@ -29,6 +29,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         SPRAWDZ(std::equal(image.begin() + 832, image.begin() + 835, packed.begin() + 832));
     SPRAWDZ(UnpackEtap(e));
     fuzz::checkPack(e);
-    SPRAWDZ(e.obrazEtapu == packed);
+    SPRAWDZ(e.image == packed);
     return 0;
 }

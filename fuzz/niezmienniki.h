@@ -12,7 +12,7 @@ namespace dorva::fuzz {
 using Liczby = std::array<int, 128>;
 inline Liczby naiveCount(const Okno& okno) {
     Liczby liczby{};
-    for (const ZnakPole& cell : okno.imgPG)
+    for (const PokazanyZnak& cell : okno.imgPG)
         ++liczby[static_cast<std::size_t>(kod(cell.znak) % 128)];
     return liczby;
 }
@@ -24,15 +24,15 @@ inline void checkCensus(const Okno& okno) {
         std::size_t tile;
     };
     for (auto [label, tile] : {Rzad{2, 12}, {4, 13}, {5, 10}, {6, 14}, {7, 2}, {8, 55}, {9, 56}})
-        SPRAWDZ(okno.lblInfo[label].caption == std::to_string(liczby[tile]));
+        SPRAWDZ(okno.lblInfo[label].liczba == liczby[tile]);
     const bool dorva = liczby[63] > 0, wyjscie = liczby[9] > 0;
-    SPRAWDZ(okno.lblInfo[0].caption == (dorva ? "ok" : "!") && okno.lblInfo[0].czerwony == !dorva);
-    SPRAWDZ(okno.lblInfo[1].caption == (wyjscie ? "ok" : "!") && okno.lblInfo[1].czerwony == !wyjscie);
-    SPRAWDZ(okno.lblInfo[2].czerwony == (liczby[12] < okno.hscMonet));
-    SPRAWDZ(okno.lblInfo[3].czerwony == okno.lblInfo[2].czerwony);
-    SPRAWDZ(okno.lblInfo[4].czerwony == (liczby[13] < liczby[10]));
-    SPRAWDZ(okno.lblInfo[8].czerwony == (liczby[55] % 2 == 1));
-    SPRAWDZ(okno.lblInfo[10].caption == (liczby[57] > 0 ? "1" : "0"));
+    SPRAWDZ(okno.lblInfo[0].liczba == int{dorva} && okno.lblInfo[0].czerwona == !dorva);
+    SPRAWDZ(okno.lblInfo[1].liczba == int{wyjscie} && okno.lblInfo[1].czerwona == !wyjscie);
+    SPRAWDZ(okno.lblInfo[2].czerwona == (liczby[12] < okno.hscMonet));
+    SPRAWDZ(okno.lblInfo[3].czerwona == okno.lblInfo[2].czerwona);
+    SPRAWDZ(okno.lblInfo[4].czerwona == (liczby[13] < liczby[10]));
+    SPRAWDZ(okno.lblInfo[8].czerwona == (liczby[55] % 2 == 1));
+    SPRAWDZ(okno.lblInfo[10].liczba == (liczby[57] > 0 ? 1 : 0));
     for (std::size_t unikat : {9U, 56U, 57U, 63U}) {
         const bool stands = liczby[unikat] > 0;
         SPRAWDZ(okno.imgZnak[unikat].enabled == !stands);
@@ -43,11 +43,11 @@ inline void checkCensus(const Okno& okno) {
 // Packs the stage, and once more: 931 bytes that a second pack leaves alone, an edge of its three codes.
 inline void checkPack(Edytor& e) {
     PackEtap(e);
-    SPRAWDZ(e.obrazEtapu.size() == 931);
+    SPRAWDZ(e.image.size() == 931);
     checkCensus(e.okno);
-    const Bajty first = e.obrazEtapu;
+    const Bajty first = e.image;
     PackEtap(e);
-    SPRAWDZ(e.obrazEtapu == first);
+    SPRAWDZ(e.image == first);
     const int wall = kod(KodKrawedzi(e.okno));
     for (int i = 0; i < PLANSZA_CELLS; ++i) {
         const int code = first[32 + static_cast<std::size_t>(i)];
@@ -55,7 +55,7 @@ inline void checkPack(Edytor& e) {
         SPRAWDZ(!isEdge(i) || code == 0 || code == 5 || code == 6 || code == wall);
     }
     SPRAWDZ(first[832] >= 1 && first[832] <= 99 && first[833] <= 2 && first[834] <= 2);
-    SPRAWDZ(e.okno.lblInfo[3].caption == std::to_string(e.okno.hscMonet));
+    SPRAWDZ(e.okno.lblInfo[3].liczba == e.okno.hscMonet);
 }
 
 } // namespace dorva::fuzz

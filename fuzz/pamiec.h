@@ -2,7 +2,8 @@
 // disk. One call can be made to fail.
 #pragma once
 
-#include "shell/pliki.h"
+#include "podstawy.h"
+#include "system/system_plikow.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -96,8 +97,8 @@ inline int removeName(const char* path) {
     return pamiec.pliki.erase(path) == 1 ? 0 : (errno = ENOENT, -1);
 }
 
-inline SystemPlikow systemPamieci() {
-    return {
+inline const SystemPlikow* systemPamieci() {
+    static const SystemPlikow system{
         .open = openPath,
         .read = readFile,
         .write = writeFile,
@@ -123,6 +124,7 @@ inline SystemPlikow systemPamieci() {
         .readdir = [](::DIR*) -> ::dirent* { return nullptr; },
         .closedir = [](::DIR*) { return 0; },
     };
+    return &system;
 }
 
 } // namespace dorva::fuzz

@@ -1,30 +1,34 @@
 // The whole state of the editor. Every operation is a free function on it.
 #pragma once
 
-#include "shell/haki.h"
 #include "shell/okno.h"
-#include "shell/pliki.h"
+#include "stage/etap_image.h"
+#include "system/haki.h"
+#include "system/pliki.h"
 #include "tiles/magazyn.h"
 #include "tiles/paleta_barw.h"
 
 #include <filesystem>
+#include <optional>
 
 namespace dorva {
 
 struct Edytor {
     // the outside
     Haki haki;
-    SystemPlikow system = SYSTEM_PLIKOW;
+    const SystemPlikow* system = &SYSTEM_PLIKOW;
 
     // what the controls hold
     Okno okno = defaultOkno();
 
     // the stage
-    Bajty obrazEtapu = Bajty(ETAP_SIZE_BYTES, 0); // last packed or read; goes stale as the user edits
-    int NumerEtapu = 1;                           // 1..32
-    bool etapPrzejety = false;  // the bytes of DETAP.<NumerEtapu> are all in the editor, or came from it
-    bool autorPrzejety = false; // likewise DP1.DTA
-    int lastCell = 0;           // the board cell that the mouse rules handled last
+    EtapImage image = EtapImage(ETAP_SIZE_BYTES, 0); // last packed or read; goes stale as the user edits
+    int NumerEtapu = 1;                              // 1..32
+    int lastCell = 0;                                // the board cell that the mouse rules handled last
+
+    // what the files are known to hold: the bytes taken over or written, nothing where not all were taken over
+    std::optional<Bajty> znanyEtap; // DETAP.<NumerEtapu>
+    std::optional<Bajty> znanyAutorGry;
 
     // folders
     std::filesystem::path KatalogBazowy;

@@ -1,7 +1,8 @@
 // A file system that fails at the N-th call, once or from then on.
 #pragma once
 
-#include "shell/pliki.h"
+#include "system/pliki.h"
+#include "system/system_plikow.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -56,8 +57,8 @@ template <auto Call>::ssize_t zawodnyTransfer(int file, auto bytes, std::size_t 
 }
 
 // The table whose calls fail as `awaria` says. It doesn't flush: no test here cuts the power.
-inline SystemPlikow zawodnySystem() {
-    return {
+inline const SystemPlikow* zawodnySystem() {
+    static const SystemPlikow system{
         .open = Zawodny<&SystemPlikow::open>::call,
         .read = zawodnyTransfer<&SystemPlikow::read>,
         .write = zawodnyTransfer<&SystemPlikow::write>,
@@ -75,6 +76,7 @@ inline SystemPlikow zawodnySystem() {
         .readdir = Zawodny<&SystemPlikow::readdir>::call,
         .closedir = Zawodny<&SystemPlikow::closedir>::call,
     };
+    return &system;
 }
 
 } // namespace dorva::test

@@ -81,7 +81,7 @@ TEST_F(Archiwum, LoadThatBreaksOffLosesNoStageOfTheArchive) {
     SelectEtapNR(e, 6);
     cmdLoadArch_Click(e);
     EXPECT_EQ(readFile(etap(7)), sampleEtap(26));
-    EXPECT_EQ(e.obrazEtapu, sampleEtap(7)) << "the editor never came to the archive's stage";
+    EXPECT_EQ(e.image, sampleEtap(7)) << "the editor never came to the archive's stage";
     SelectEtapNR(e, 0);
     EXPECT_EQ(readFile(base / "ETAPY/DETAP.7.kopia"), sampleEtap(26));
 }

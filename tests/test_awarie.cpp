@@ -3,6 +3,7 @@
 #include "awaria.h"
 #include "output/obraz_gry.h"
 #include "pulpit.h"
+#include "shell/komunikaty.h"
 #include "stage/archiwum.h"
 
 namespace dorva::test {
@@ -26,7 +27,7 @@ std::ostream& operator<<(std::ostream& out, const Scenariusz& s) {
 // The editor's stage as the next write would store it.
 Bajty packed(Edytor e) {
     PackEtap(e);
-    return e.obrazEtapu;
+    return e.image;
 }
 
 void nothing(const fs::path&) {}

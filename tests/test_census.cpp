@@ -17,8 +17,10 @@ protected:
             cell(2 + i / 30, 2 + i % 30) = z;
         RefreshInfo(e);
     }
-    bool red(std::size_t label) { return e.okno.lblInfo[label].czerwony; }
-    std::string text(std::size_t label) { return e.okno.lblInfo[label].caption; }
+    bool red(std::size_t label) { return e.okno.lblInfo[label].czerwona; }
+    std::string text(std::size_t label) {
+        return infoCaption(static_cast<info::Figura>(label), e.okno.lblInfo[label].liczba);
+    }
     bool enabled(Znak z) { return e.okno.imgZnak[static_cast<std::size_t>(z)].enabled; }
 };
 

@@ -29,10 +29,10 @@ TEST_F(Etap, UnpackThenPackGivesTheSameBytes) {
         const Bajty texts = EncodeTekst(DecodeTekst(std::span(image).subspan(uklad::NAZWA)));
         const Bajty stored = EncodeTekst(DecodeTekst(texts));
         std::copy(stored.begin(), stored.end(), image.begin() + uklad::NAZWA);
-        e.obrazEtapu = image;
+        e.image = image;
         ASSERT_TRUE(UnpackEtap(e));
         PackEtap(e);
-        ASSERT_EQ(e.obrazEtapu, image);
+        ASSERT_EQ(e.image, image);
     }
 }
 
@@ -57,18 +57,18 @@ TEST_F(Etap, HeroineIsStoredPlainInsideTheEdge) {
     start();
     cell(3, 7) = DORVA_INV;
     PackEtap(e);
-    EXPECT_EQ(e.obrazEtapu[159], 63);
+    EXPECT_EQ(e.image[159], 63);
     EXPECT_EQ(cell(3, 7), DORVA);
     EXPECT_EQ(e.okno.imgPG[127].obraz.znak, DORVA_INV) << "the picture follows at the next redraw";
-    const Bajty once = e.obrazEtapu;
+    const Bajty once = e.image;
     PackEtap(e);
-    EXPECT_EQ(e.obrazEtapu, once);
+    EXPECT_EQ(e.image, once);
 }
 
 TEST_F(Etap, RefusedFieldsLeaveTheRestAsItWas) {
     start();
     const Okno before = e.okno;
-    e.obrazEtapu.assign(ETAP_SIZE_BYTES, 0);
+    e.image.assign(ETAP_SIZE_BYTES, 0);
     EXPECT_FALSE(UnpackEtap(e));
     EXPECT_EQ(e.okno.lblKolor[4].value, 0);
     EXPECT_EQ(cell(5, 5), NIC);
@@ -76,14 +76,14 @@ TEST_F(Etap, RefusedFieldsLeaveTheRestAsItWas) {
     EXPECT_EQ(e.okno.hscMonet, before.hscMonet);
     EXPECT_EQ(e.okno.txtNazwa.tekst, before.txtNazwa.tekst);
 
-    e.obrazEtapu = sampleEtap(9);
-    e.obrazEtapu[uklad::OSTATNI] = 3;
+    e.image = sampleEtap(9);
+    e.image[uklad::OSTATNI] = 3;
     EXPECT_FALSE(UnpackEtap(e));
     EXPECT_EQ(e.okno.hscMonet, 9);
     EXPECT_EQ(e.okno.chkOstatni, before.chkOstatni);
 
-    e.obrazEtapu[uklad::OSTATNI] = 2;
-    e.obrazEtapu[uklad::SWIAT] = 3;
+    e.image[uklad::OSTATNI] = 2;
+    e.image[uklad::SWIAT] = 3;
     EXPECT_FALSE(UnpackEtap(e));
     EXPECT_EQ(e.okno.chkOstatni, 2);
     EXPECT_EQ(e.okno.optObiektyNR, before.optObiektyNR);
@@ -108,8 +108,8 @@ TEST_F(Etap, ShortBoxesAreFilledFullOnesStay) {
     e.okno.txtNazwa.tekst = ascii("ala");
     e.okno.txtAutor.tekst = ascii(std::string(64, 'q'));
     PackEtap(e);
-    EXPECT_EQ(e.obrazEtapu.size(), ETAP_SIZE_BYTES);
-    EXPECT_EQ(e.obrazEtapu[uklad::NAZWA + 15], 33);
+    EXPECT_EQ(e.image.size(), ETAP_SIZE_BYTES);
+    EXPECT_EQ(e.image[uklad::NAZWA + 15], 33);
     EXPECT_EQ(e.okno.txtAutor.tekst.znaki, std::string(64, 'q'));
 }
 

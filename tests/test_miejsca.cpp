@@ -48,7 +48,7 @@ TEST_F(Miejsca, SpacesAndPolishLetters) {
     EXPECT_EQ(readFile(base / "PLIKI/TEST.XEX"), readFile(*chosen));
     EXPECT_EQ(started.size(), 1U);
     SelectEtapNR(e, 8);
-    EXPECT_EQ(e.obrazEtapu, sampleEtap(9));
+    EXPECT_EQ(e.image, sampleEtap(9));
 }
 
 TEST_F(Miejsca, LinkedStageStaysLinked) {
@@ -93,7 +93,7 @@ TEST_F(Miejsca, ReadersAlwaysSeeAWholeStage) {
     std::atomic<int> torn = 0, seen = 0;
     std::thread reader([&] {
         while (!stop) {
-            const auto bytes = readOptional(SYSTEM_PLIKOW, etap(1), ETAP_SIZE_BYTES);
+            const auto bytes = readFirst(SYSTEM_PLIKOW, etap(1), ETAP_SIZE_BYTES);
             torn += bytes && lengthOf(SYSTEM_PLIKOW, etap(1)) == ETAP_SIZE_BYTES ? 0 : 1;
             torn += bytes && (*bytes)[32 + 246] == (*bytes)[32 + 247] ? 0 : 1;
             ++seen;
@@ -125,7 +125,7 @@ TEST_F(Miejsca, FilesLargerThanMemory) {
     writeFile(etap(2), sampleEtap(2));
     fs::resize_file(etap(2), std::uintmax_t{1} << 42U);
     SelectEtapNR(e, 1);
-    EXPECT_EQ(e.obrazEtapu, sampleEtap(2));
+    EXPECT_EQ(e.image, sampleEtap(2));
     SelectEtapNR(e, 2);
     EXPECT_EQ(fs::file_size(base / "ETAPY/DETAP.2.kopia"), std::uintmax_t{1} << 42U);
     EXPECT_EQ(readFile(etap(2)), sampleEtap(2));

@@ -1,4 +1,5 @@
 #include "pulpit.h"
+#include "system/system_plikow.h"
 
 #include <sys/stat.h>
 
@@ -30,10 +31,10 @@ TEST_F(Pliki, WriteRefusesWhatCouldNotBeOpened) {
 
 TEST_F(Pliki, ReadNeverHangsAndCreatesTheMissing) {
     ASSERT_EQ(::mkfifo((root / "potok").c_str(), 0600), 0);
-    EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, root / "potok", 1));
-    EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, "/dev/zero", 1));
-    EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, root, 1));
-    EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, root / "nowy", 1));
+    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root / "potok", 1));
+    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, "/dev/zero", 1));
+    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root, 1));
+    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root / "nowy", 1));
     EXPECT_EQ(lengthOf(SYSTEM_PLIKOW, root / "nowy"), 0U);
 }
 
@@ -61,11 +62,12 @@ TEST_F(Pliki, FileSystemsWithoutModeBitsOrHardLinks) {
     });
     ::umask(022);
     writeFile(root / "plik", {1});
-    ASSERT_TRUE(writeKeepingOld(system, root / "plik", Bajty{2}));
+    ASSERT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{2}, {}));
     EXPECT_EQ(readFile(root / "plik.kopia"), Bajty{1});
     fs::permissions(root / "plik", fs::perms(0600));
-    EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{3})) << "a private file never becomes a public one";
-    EXPECT_EQ(readFile(root / "plik"), Bajty{2});
+    EXPECT_TRUE(writeWhole(system, root / "plik", Bajty{3}));
+    EXPECT_EQ(readFile(root / "plik"), Bajty{3});
+    EXPECT_EQ(fs::status(root / "plik").permissions(), fs::perms(0600)) << "a private file never becomes a public one";
 }
 
 TEST_F(Pliki, ListingThatBreaksOffGivesNoNames) {
@@ -89,20 +91,20 @@ TEST_F(Pliki, InterruptedCallsAreAskedAgain) {
     });
     fs::current_path(root);
     ASSERT_TRUE(writeWhole(system, "plik", Bajty{4, 5})) << "a name without a folder";
-    EXPECT_EQ(readFirst(system, root / "plik", 2), (Bajty{4, 5}));
+    EXPECT_EQ(readOrCreate(system, root / "plik", 2), (Bajty{4, 5}));
 }
 
 TEST_F(Pliki, WhatCannotBeKeptIsNotReplaced) {
     writeFile(root / "plik", {1});
     const auto taken =
         without([](SystemPlikow& s) { s.link = [](const char*, const char*) { return errno = EEXIST, -1; }; });
-    EXPECT_FALSE(writeKeepingOld(taken, root / "plik", Bajty{2})) << "another program took the copy's name";
+    EXPECT_FALSE(writeKeepingUnknown(taken, root / "plik", Bajty{2}, {})) << "another program took the copy's name";
     const auto linkless =
         without([](SystemPlikow& s) { s.link = [](const char*, const char*) { return errno = EPERM, -1; }; });
     fs::resize_file(root / "plik", 100U << 20U);
-    EXPECT_FALSE(writeKeepingOld(linkless, root / "plik", Bajty{2})) << "too long to be copied";
+    EXPECT_FALSE(writeKeepingUnknown(linkless, root / "plik", Bajty{2}, {})) << "too long to be copied";
     EXPECT_EQ(fs::file_size(root / "plik"), 100U << 20U);
-    EXPECT_TRUE(writeKeepingOld(linkless, root / "nowy", Bajty{2}));
+    EXPECT_TRUE(writeKeepingUnknown(linkless, root / "nowy", Bajty{2}, {}));
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 3U);
 }
 

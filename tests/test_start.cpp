@@ -1,8 +1,8 @@
 #include "output/narzedzia.h"
 #include "output/obraz_gry.h"
 #include "pulpit.h"
-#include "shell/pola.h"
 #include "stage/archiwum.h"
+#include "stage/pola.h"
 
 namespace dorva::test {
 namespace {
@@ -68,7 +68,8 @@ TEST_F(Start, TitleLinesOfOtherLengths) {
         Form_QueryUnload(e);
         EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA").size(), 60U);
     }
-    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia"), Bajty(20, 'Q'));
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia"), Bajty(59, 'Q'));
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia2"), Bajty(70, 'Q'));
 }
 
 TEST_F(Start, HooksThatThrowOrAreMissingAnswerLikeACancel) {
@@ -95,25 +96,25 @@ TEST_F(Start, HooksThatThrowOrAreMissingAnswerLikeACancel) {
 TEST_F(Start, RelativeProgramFolder) {
     fs::current_path(root);
     Form_Load(e, base.filename(), "1.0.2");
-    EXPECT_EQ(e.obrazEtapu, sampleEtap(1));
+    EXPECT_EQ(e.image, sampleEtap(1));
     EXPECT_EQ(e.OstatniaSciezka, fs::canonical(root));
 }
 
 TEST_F(Start, EmptiedBoxIsRefilledAndLeavingFitsTheText) {
     start();
     const unsigned before = e.okno.txtAutor.zaznaczenia;
-    txt_Change(e, Pole::Autor, {});
+    txt_Change(e, POLE_AUTOR, {});
     EXPECT_EQ(e.okno.txtAutor.tekst, Tekst::spaces(64));
     EXPECT_EQ(e.okno.txtAutor.zaznaczenia, before + 1);
-    txt_Change(e, Pole::Nazwa, {std::string(33, 'A')});
+    txt_Change(e, POLE_NAZWA, {std::string(33, 'A')});
     EXPECT_EQ(e.okno.txtNazwa.tekst.size(), 32U);
-    txt_Change(e, Pole::AutorGry1, {"za\xBF\xF3\xB3\xE6"});
-    txt_LostFocus(e, Pole::AutorGry1);
-    txt_Change(e, Pole::Nazwa, ascii("ala"));
-    txt_LostFocus(e, Pole::Nazwa);
+    txt_Change(e, poleLinii(1), {"za\xBF\xF3\xB3\xE6"});
+    txt_LostFocus(e, poleLinii(1));
+    txt_Change(e, POLE_NAZWA, ascii("ala"));
+    txt_LostFocus(e, POLE_NAZWA);
     EXPECT_EQ(e.okno.txtNazwa.tekst.znaki, std::string(15, ' ') + "ALA" + std::string(14, ' '));
-    txt_Change(e, Pole::Autor, ascii("ola"));
-    txt_LostFocus(e, Pole::Autor);
+    txt_Change(e, POLE_AUTOR, ascii("ola"));
+    txt_LostFocus(e, POLE_AUTOR);
     EXPECT_EQ(e.okno.txtAutor.tekst.znaki, "OLA" + std::string(61, ' '));
     EXPECT_EQ(e.okno.txtAutorGry[1].tekst.znaki, "ZA\xAF\xD3\xA3\xC6" + std::string(14, ' '));
 }

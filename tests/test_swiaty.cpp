@@ -192,11 +192,11 @@ TEST_F(Swiaty32, TheEditorFindsNoFaultAndKeepsEveryByte) {
     for (int number = 1; number <= ETAPY_COUNT; ++number) {
         if (number > 1)
             SelectEtapNR(e, number - 1);
-        for (const InfoPole& info : e.okno.lblInfo)
-            EXPECT_FALSE(info.czerwony) << number;
+        for (const InfoFigura& figura : e.okno.lblInfo)
+            EXPECT_FALSE(figura.czerwona) << number;
         PackEtap(e);
-        EXPECT_EQ(e.obrazEtapu, readEtap(number)) << number;
-        EXPECT_EQ(e.okno.lblInfo[0].caption, "ok") << number;
+        EXPECT_EQ(e.image, readEtap(number)) << number;
+        EXPECT_EQ(e.okno.lblInfo[info::DORVA].liczba, 1) << number;
     }
 }
 

@@ -62,7 +62,7 @@ TEST_F(Tiles, ChangeOfWorldChangesPicturesOnly) {
     EXPECT_FALSE(SelectObiektyNR(e, 3));
     EXPECT_FALSE(SelectObiektyNR(e, -1) || SetOstatni(e, -1));
     PackEtap(e);
-    EXPECT_EQ(e.obrazEtapu[uklad::SWIAT], 2);
+    EXPECT_EQ(e.image[uklad::SWIAT], 2);
 }
 
 TEST_F(Tiles, StripsOfOtherSizes) {
@@ -139,7 +139,7 @@ TEST_F(Tiles, PaletteDialogWritesTheChosenSlot) {
     picPaleta_Click(e, 14 * 8 + 1);
     EXPECT_EQ(e.okno.lblKolor[5].value, 226);
     PickKolor(e, 11);
-    EXPECT_FALSE(e.okno.lblKolor[5].wybrana);
+    EXPECT_FALSE(e.okno.lblKolor[5].wybrany);
     picPaleta_Click(e, 14 * 8 + 7);
     EXPECT_EQ(e.okno.lblKolor[11].value, 228);
     EXPECT_EQ(e.okno.dlgPaleta.lblWybrany, "228, $E4");
@@ -152,7 +152,7 @@ TEST_F(Tiles, PaletteDialogWritesTheChosenSlot) {
                          2, "Nie można zmienić kolorów ponieważ\nustawiony jest znacznik \"Blokuj kolory\"."));
     EXPECT_EQ(e.WybranySlot, 11);
     Form_Unload(e);
-    EXPECT_FALSE(e.okno.lblKolor[11].wybrana || e.okno.dlgPaleta.otwarte);
+    EXPECT_FALSE(e.okno.lblKolor[11].wybrany || e.okno.dlgPaleta.otwarte);
     closePaleta(e);
     EXPECT_FALSE(parsePaleta(Bajty(767, 3)));
     EXPECT_EQ(kolorText(5), "5, $5");

@@ -50,7 +50,7 @@ protected:
         ASSERT_EQ(e.NumerEtapu, 2);
         ASSERT_EQ(readFile(etap(1)), first);
         SelectEtapNR(e, 0);
-        ASSERT_EQ(e.obrazEtapu, first);
+        ASSERT_EQ(e.image, first);
     }
 
     Bajty kopia() { return readFile(base / "ETAPY/DETAP.2.kopia"); }
@@ -72,7 +72,7 @@ TEST_F(Uszkodzenia, EveryFlippedBitIsTakenOverOrKept) {
         writeFile(*chosen, damaged);
         cmdLoad_Click(e);
         PackEtap(e);
-        ASSERT_EQ(e.obrazEtapu == normalised(damaged), isValid(damaged)) << bit;
+        ASSERT_EQ(e.image == normalised(damaged), isValid(damaged)) << bit;
         refused += isValid(damaged) ? 0 : 1;
         writeFile(*chosen, first);
         cmdLoad_Click(e);

@@ -15,7 +15,7 @@ TEST_F(ZbiorEtapow, SwitchStoresTheOldStageAndShowsTheNew) {
     expected[uklad::PLANSZA + 205] = 12;
     EXPECT_EQ(readFile(etap(1)), expected);
     EXPECT_EQ(e.NumerEtapu, 2);
-    EXPECT_EQ(e.obrazEtapu, sampleEtap(2));
+    EXPECT_EQ(e.image, sampleEtap(2));
     EXPECT_EQ(e.okno.optObiektyNR, 2);
     EXPECT_TRUE(shown.empty());
 }
@@ -38,7 +38,7 @@ TEST_F(ZbiorEtapow, MissingFilesCarryTheBoardAlong) {
     EXPECT_EQ(readFile(etap(2)).size(), 0U);
     SelectEtapNR(e, 2);
     EXPECT_EQ(readFile(etap(2))[uklad::PLANSZA + 369], 13);
-    EXPECT_EQ(e.obrazEtapu, Bajty(ETAP_SIZE_BYTES, 0));
+    EXPECT_EQ(e.image, Bajty(ETAP_SIZE_BYTES, 0));
 }
 
 TEST_F(ZbiorEtapow, FilesNotTakenOverWholeAreKeptAside) {
@@ -193,7 +193,7 @@ TEST_F(ZbiorEtapow, ClearBuildsTheWalledField) {
         ASSERT_EQ(kod(cell(row, column)), expected) << i;
     }
     EXPECT_EQ(e.okno.hscMonet, 1);
-    EXPECT_EQ(e.okno.lblInfo[3].caption, "1");
+    EXPECT_EQ(e.okno.lblInfo[info::CEL_MASEK].liczba, 1);
     EXPECT_EQ(e.okno.txtNazwa.tekst, Tekst::spaces(32));
     EXPECT_EQ(readFile(etap(1)), sampleEtap(1));
     e.okno.optNN = 1;

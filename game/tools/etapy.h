@@ -2,6 +2,7 @@
 #pragma once
 
 #include "rysunki.h"
+#include "stage/etap_image.h"
 
 #include <optional>
 

@@ -1,5 +1,7 @@
 #include "rysunki.h"
 
+#include "stage/etap_image.h"
+
 #include <algorithm>
 
 namespace dorva {

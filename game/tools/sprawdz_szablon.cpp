@@ -2,7 +2,7 @@
 // last, and every place that the builder lays stages and title lines over. Prints what is wrong
 // and ends with 1, so that a build with a displaced byte fails.
 #include "output/szablon.h"
-#include "stage/obraz_etapu.h"
+#include "stage/etap_image.h"
 #include "zrodlo.h"
 
 #include <algorithm>

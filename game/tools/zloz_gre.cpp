@@ -3,7 +3,7 @@
 //                                                      of which is marked as the last one of the game
 //   zloz_gre --tytul GRA                               the bytes of a game's title lines, a line each
 #include "output/szablon.h"
-#include "stage/obraz_etapu.h"
+#include "stage/etap_image.h"
 #include "zrodlo.h"
 
 #include <iostream>
@@ -21,19 +21,17 @@ Tekst linia(const Argumenty& a, std::size_t index) {
 }
 
 void makeGra(const Argumenty& a) {
-    Bajty gra = readPlik(a[0]);
-    if (gra.size() != GRA_SIZE_BYTES || a.size() - FIRST_ETAP > ETAPY_COUNT)
+    const SzablonGry szablon = readPlik(a[0]);
+    if (szablon.size() != GRA_SIZE_BYTES || a.size() - FIRST_ETAP > ETAPY_COUNT)
         throw BladZrodla(a[0] + ": no game template, or too many stages for it");
+    std::vector<EtapImage> etapy;
     for (std::size_t i = FIRST_ETAP; i < a.size(); ++i) {
-        Bajty etap = readPlik(a[i]);
-        if (etap.size() != ETAP_SIZE_BYTES)
+        etapy.push_back(readPlik(a[i]));
+        if (etapy.back().size() != ETAP_SIZE_BYTES)
             throw BladZrodla(a[i] + ": no stage file");
-        if (i + 1 == a.size())
-            etap[uklad::OSTATNI] = 1;
-        splice(gra, rekordOffset(i - FIRST_ETAP), ETAP_SIZE_BYTES, etap);
     }
-    spliceTytul(gra, {linia(a, 0), linia(a, 1), linia(a, 2)});
-    writePlik(a[1], gra);
+    etapy.back()[uklad::OSTATNI] = 1;
+    writePlik(a[1], buildGra(szablon, etapy, {linia(a, 0), linia(a, 1), linia(a, 2)}));
 }
 
 void printTytul(const std::string& name) {

@@ -4,11 +4,11 @@
 
 namespace dorva {
 
-void SetBufor(Edytor& e, const ZnakPole& pole) {
-    e.okno.imgBufor = pole;
+void SetBufor(Edytor& e, const PokazanyZnak& shown) {
+    e.okno.imgBufor = shown;
     char hex[8];
-    std::snprintf(hex, sizeof hex, "$%X", static_cast<unsigned>(kod(pole.znak)));
-    e.okno.lblKodBufor = {std::to_string(kod(pole.znak)), hex};
+    std::snprintf(hex, sizeof hex, "$%X", static_cast<unsigned>(kod(shown.znak)));
+    e.okno.lblKodBufor = {std::to_string(kod(shown.znak)), hex};
 }
 
 } // namespace dorva

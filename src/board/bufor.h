@@ -6,6 +6,6 @@
 namespace dorva {
 
 // Code, picture and the two texts, always set together.
-void SetBufor(Edytor&, const ZnakPole&);
+void SetBufor(Edytor&, const PokazanyZnak&);
 
 } // namespace dorva

@@ -6,15 +6,15 @@
 namespace dorva {
 namespace {
 
-constexpr int PIPETA = 0;
+constexpr int PIPETA = 0; // in optPPM
 
 // The eraser's tile, earth under STD, is whatever the picker's slot 1 holds.
 const ZnakSlot& slotZiemi(const Okno& okno) {
-    return okno.imgZnak[static_cast<std::size_t>(kod(ZIEMIA))];
+    return okno.imgZnak[kod(ZIEMIA)];
 }
 
-ZnakPole& cellOf(Okno& okno, int index) {
-    return okno.imgPG[static_cast<std::size_t>(index)];
+PokazanyZnak& cellOf(Okno& okno, int index) {
+    return okno.imgPG[index];
 }
 
 } // namespace
@@ -43,7 +43,7 @@ void imgPG_MouseMove(Edytor& e, int index, int button) {
 }
 
 void imgZnak_Click(Edytor& e, int index) {
-    const ZnakSlot& slot = e.okno.imgZnak[static_cast<std::size_t>(index)];
+    const ZnakSlot& slot = e.okno.imgZnak[index];
     if (slot.enabled)
         SetBufor(e, slot);
 }
@@ -58,7 +58,7 @@ void SelectNN(Edytor& e, int index) {
 void optNN_Click(Edytor& e, int index) {
     const auto swiat = static_cast<std::int8_t>(e.okno.optObiektyNR);
     for (int i = 0; i < ZNAKI_COUNT; ++i) {
-        ZnakSlot& slot = e.okno.imgZnak[static_cast<std::size_t>(i)];
+        ZnakSlot& slot = e.okno.imgZnak[i];
         slot.znak = znak(index * INV + i);
         slot.obraz = {swiat, slot.znak};
     }

@@ -110,9 +110,28 @@ inline constexpr std::array<std::string_view, ZNAKI_COUNT> NAZWY_ZNAKOW{
     "DORVA",
 };
 
-// The picker slots whose pictures the icons of the census panel copy.
-inline constexpr std::array<Znak, 10> IKONY_INFO{DORVA, WYJSCIE, MASKA,   MASKA,     KLUCZ,
-                                                 DRZWI, BOMBA,   PULAPKA, PRZEDMIOT, MASZYNA};
+// The figures of the census panel: lblInfo(0) to lblInfo(10), and how many of them have an icon.
+namespace info {
+enum Figura : int {
+    DORVA,
+    WYJSCIE,
+    MASKI,
+    CEL_MASEK, // set by the user, not counted
+    KLUCZE,
+    DRZWI,
+    BOMBY,
+    PULAPKI,
+    PRZEDMIOTY,
+    MASZYNY,
+    POCHODNIA,
+    COUNT,
+    IKONY_COUNT = POCHODNIA
+};
+} // namespace info
+
+// The tile that each figure is about and that its icon shows.
+inline constexpr std::array<Znak, info::COUNT> ZNAKI_INFO{DORVA, WYJSCIE, MASKA,     MASKA,   KLUCZ,    DRZWI,
+                                                          BOMBA, PULAPKA, PRZEDMIOT, MASZYNA, POCHODNIA};
 
 // The two visible rows of the picker, left to right; all other slots are hidden.
 inline constexpr int WYBOR_COLUMNS = 22;

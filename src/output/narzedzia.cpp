@@ -1,13 +1,15 @@
 #include "output/narzedzia.h"
 
+#include "sciezki.h"
+
 namespace dorva {
 
 void RunEmulator(Edytor& e) {
-    askProgram(e.haki, e.KatalogBazowy / "PLIKI" / "DP3.BAT", OknoProgramu::Hidden);
+    askProgram(e.haki, e.KatalogBazowy / sciezki::EMULATOR, OknoProgramu::Hidden);
 }
 
 void cmdORN_Click(Edytor& e) {
-    askProgram(e.haki, e.KatalogBazowy / "OBIEKTY" / "ORN.exe", OknoProgramu::Normal);
+    askProgram(e.haki, e.KatalogBazowy / sciezki::ORN, OknoProgramu::Normal);
 }
 
 } // namespace dorva

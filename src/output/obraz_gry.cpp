@@ -2,8 +2,12 @@
 
 #include "output/narzedzia.h"
 #include "output/szablon.h"
+#include "sciezki.h"
+#include "shell/komunikaty.h"
 #include "stage/etap.h"
+#include "stage/zapis_jako.h"
 #include "stage/zbior_etapow.h"
+#include "system/pliki.h"
 
 namespace dorva {
 namespace {
@@ -12,12 +16,12 @@ constexpr std::string_view FILTR_GRY = "Plik gry|*.xex|Wszystkie pliki (*.*)|*.*
 constexpr std::string_view NAZWA_GRY = "Dorva - wyprawy.xex";
 constexpr std::string_view LINIA_TESTU = "     TEST ETAPU     ";
 
-std::optional<Bajty> readSzablon(Edytor& e) {
-    return readFirst(e.system, e.KatalogBazowy / "PLIKI" / "DP2.DTA", GRA_SIZE_BYTES);
+std::optional<SzablonGry> readOrCreateSzablon(const Edytor& e) {
+    return readOrCreate(*e.system, e.KatalogBazowy / sciezki::SZABLON_GRY, GRA_SIZE_BYTES);
 }
 
-bool writeTestXex(Edytor& e, const Bajty& obraz) {
-    return writeWhole(e.system, testXexPath(e), obraz);
+bool writeTestXex(const Edytor& e, const ObrazGry& gra) {
+    return writeWhole(*e.system, e.KatalogBazowy / sciezki::TEST_XEX, gra);
 }
 
 // The launcher names its files relative to the base folder.
@@ -30,31 +34,26 @@ void offerRun(Edytor& e, const Komunikat& question) {
 
 } // namespace
 
-std::filesystem::path testXexPath(const Edytor& e) {
-    return e.KatalogBazowy / "PLIKI" / "TEST.XEX";
-}
-
 void cmdCreate_Click(Edytor& e) {
     PackEtap(e);
     if (!writeBiezacyEtap(e))
         return;
-    auto obraz = readSzablon(e);
-    if (!obraz)
+    const auto szablon = readOrCreateSzablon(e);
+    if (!szablon)
         return;
-    const auto etapy = readAllEtapy(e);
+    const auto etapy = readOrCreateAllEtapy(e);
     if (!etapy)
         return;
-    for (std::size_t i = 0; i < etapy->size(); ++i)
-        splice(*obraz, rekordOffset(i), ETAP_SIZE_BYTES, (*etapy)[i]);
-    spliceTytul(*obraz, {e.okno.txtAutorGry[0].tekst, e.okno.txtAutorGry[1].tekst, e.okno.txtAutorGry[2].tekst});
-    if (obraz->size() != GRA_SIZE_BYTES) {
+    const auto& linie = e.okno.txtAutorGry;
+    const ObrazGry gra = buildGra(*szablon, *etapy, {linie[0].tekst, linie[1].tekst, linie[2].tekst});
+    if (gra.size() != GRA_SIZE_BYTES) {
         askMessage(e.haki, komunikaty::NIE_MOZNA_GRY);
         return;
     }
     const auto path = askSavePath(e, {std::string(NAZWA_GRY), e.OstatniaSciezka, FILTR_GRY});
-    if (!path || !writeChosen(e, *path, *obraz))
+    if (!path || !writeChosen(e, *path, gra))
         return;
-    if (!writeTestXex(e, *obraz))
+    if (!writeTestXex(e, gra))
         return;
     offerRun(e, komunikaty::GRA_UTWORZONA);
 }
@@ -65,16 +64,17 @@ void cmdTest_Click(Edytor& e) {
     PackEtap(e);
     e.okno.chkOstatni = ostatni;
 
-    auto obraz = readSzablon(e);
-    if (!obraz)
+    const auto szablon = readOrCreateSzablon(e);
+    if (!szablon)
         return;
-    splice(*obraz, rekordOffset(0), ETAP_SIZE_BYTES, e.obrazEtapu);
-    spliceTytul(*obraz, {e.okno.txtAutorGry[0].tekst, Tekst::spaces(LINIA_WIDTH), Tekst{std::string(LINIA_TESTU)}});
-    if (obraz->size() != GRA_SIZE_BYTES) {
+    const Tekst& linia = e.okno.txtAutorGry[0].tekst;
+    const ObrazGry gra =
+        buildGra(*szablon, {&e.image, 1}, {linia, Tekst::spaces(LINIA_WIDTH), Tekst{std::string(LINIA_TESTU)}});
+    if (gra.size() != GRA_SIZE_BYTES) {
         askMessage(e.haki, komunikaty::NIE_MOZNA_PLIKU);
         return;
     }
-    if (!writeTestXex(e, *obraz))
+    if (!writeTestXex(e, gra))
         return;
     offerRun(e, komunikaty::TEST_UTWORZONY);
 }

@@ -5,9 +5,6 @@
 
 namespace dorva {
 
-// The game file that both builds write for the emulator.
-std::filesystem::path testXexPath(const Edytor&);
-
 void cmdCreate_Click(Edytor&);
 void cmdTest_Click(Edytor&);
 

@@ -1,7 +1,7 @@
 // The finished game: fixed positions over a template. Bytes in, bytes out.
 #pragma once
 
-#include "stage/obraz_etapu.h"
+#include "stage/etap_image.h"
 #include "stage/tekst.h"
 
 #include <array>
@@ -21,14 +21,16 @@ constexpr std::size_t rekordOffset(std::size_t index) {
 static_assert(rekordOffset(15) + ETAP_SIZE_BYTES == 44680);
 static_assert(rekordOffset(16) == 44689 && rekordOffset(31) + ETAP_SIZE_BYTES == 59645);
 
-// A title line of the game: start column, stored text, filled up with the end-of-line code 155.
-Bajty BuildLiniaTytulu(const Tekst&);
+// The template and the finished game; both GRA_SIZE_BYTES long where all that is laid over fits.
+using SzablonGry = Bajty;
+using ObrazGry = Bajty;
 
-// Lays `bytes` over `obraz` at `offset`. Bytes that do not fit exactly make the image longer, as an
-// insertion in place of `length` bytes would.
-void splice(Bajty& obraz, std::size_t offset, std::size_t length, std::span<const Bajt> bytes);
+// A title line as the game shows it, 22 bytes: start column, stored text, filled up with the end-of-line code 155.
+using LiniaTytulu = Bajty;
+LiniaTytulu BuildLiniaTytulu(const Tekst&);
 
-// Lays the three title lines over a game image.
-void spliceTytul(Bajty& obraz, const std::array<Tekst, 3>& linie);
+// The game: the template with stage images laid over its first records, and the three title lines. An image or a line
+// of another length than its place makes the game longer or shorter.
+ObrazGry buildGra(const SzablonGry&, std::span<const EtapImage> etapy, const std::array<Tekst, LINIE_COUNT>& linie);
 
 } // namespace dorva

@@ -1,6 +1,6 @@
 #include "qt/bitmapa_pliku.h"
 
-#include "shell/pliki.h"
+#include "system/pliki.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -40,7 +40,7 @@ std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width,
     const auto length = lengthOf(SYSTEM_PLIKOW, path);
     if (!length || *length > FILE_MAX_BYTES)
         return std::nullopt;
-    const auto file = readOptional(SYSTEM_PLIKOW, path, static_cast<std::size_t>(*length));
+    const auto file = readFirst(SYSTEM_PLIKOW, path, static_cast<std::size_t>(*length));
     if (!file)
         return std::nullopt;
     QByteArray bytes =

@@ -1,7 +1,7 @@
 // Windows bitmap files.
 #pragma once
 
-#include "tiles/obraz.h"
+#include "system/bitmapa.h"
 
 #include <filesystem>
 #include <optional>

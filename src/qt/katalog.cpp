@@ -1,6 +1,6 @@
 #include "qt/katalog.h"
 
-#include "stage/obraz_etapu.h"
+#include "stage/etap_image.h"
 
 #include <array>
 

@@ -11,9 +11,10 @@
 #include "qt/przeklad.h"
 #include "qt/rozmowy.h"
 #include "qt/wytwornia.h"
-#include "shell/pola.h"
 #include "shell/start.h"
 #include "stage/archiwum.h"
+#include "stage/etap.h"
+#include "stage/pola.h"
 #include "stage/zbior_etapow.h"
 #include "tiles/kolory.h"
 #include "tiles/paleta.h"
@@ -28,13 +29,6 @@
 
 namespace dorva {
 
-// A text box of the window and which one it is to the logic.
-struct OknoGlowne::PoleOkna {
-    const char* name;
-    int index;
-    Pole pole;
-};
-
 // An option group: how many buttons, what a selection runs, where the record keeps it.
 struct OknoGlowne::OpcjeOkna {
     const char* name;
@@ -42,13 +36,6 @@ struct OknoGlowne::OpcjeOkna {
     void (*select)(Edytor&, int);
     int Okno::*selected;
 };
-
-// In the order of Pole.
-const OknoGlowne::PoleOkna OknoGlowne::POLA[]{{"txtNazwa", -1, Pole::Nazwa},
-                                              {"txtAutor", -1, Pole::Autor},
-                                              {"txtAutorGry", 0, Pole::AutorGry0},
-                                              {"txtAutorGry", 1, Pole::AutorGry1},
-                                              {"txtAutorGry", 2, Pole::AutorGry2}};
 
 const OknoGlowne::OpcjeOkna OknoGlowne::OPCJE[]{
     {"optEtapNR", ETAPY_COUNT, SelectEtapNR, &Okno::optEtapNR},
@@ -176,8 +163,8 @@ void OknoGlowne::bindEvents() {
         connect(find<QPushButton>(p.name), &QPushButton::clicked, this, [this, &p] { run(p.click); });
     for (const OpcjeOkna& o : OPCJE)
         bindOptions(o);
-    for (const PoleOkna& p : POLA)
-        bindText(p);
+    for (const Pole& pole : POLA)
+        bindText(pole);
 
     for (int slot = 0; slot < SLOTY_COUNT; ++slot)
         lblKolor_[static_cast<std::size_t>(slot)]->onClick = [this, slot] {
@@ -190,9 +177,7 @@ void OknoGlowne::bindEvents() {
     connect(hscMonet_, &QScrollBar::valueChanged, this,
             [this](int value) { run([=](Edytor& e) { (void)SetMonet(e, value); }); });
 
-    // A box that holds 2 is shown half checked; a click clears it.
-    connect(chkOstatni_, &QCheckBox::clicked, this,
-            [this] { run([](Edytor& e) { e.okno.chkOstatni = e.okno.chkOstatni == 0 ? 1 : 0; }); });
+    connect(chkOstatni_, &QCheckBox::clicked, this, [this] { run(chkOstatni_Click); });
     connect(chkZachowajKolory_, &QCheckBox::clicked, this,
             [this](bool checked) { run([=](Edytor& e) { e.okno.chkZachowajKolory = checked; }); });
 }
@@ -209,15 +194,14 @@ void OknoGlowne::bindOptions(const OpcjeOkna& opcje) {
             [this, &opcje](int index) { run([&](Edytor& e) { opcje.select(e, index); }); });
 }
 
-void OknoGlowne::bindText(const PoleOkna& p) {
-    auto* box = find<PoleEdycji>(p.name, p.index);
+void OknoGlowne::bindText(const Pole& pole) {
+    auto* box = find<PoleEdycji>(pole.name.data(), pole.index);
     pola_.push_back(box);
-    const Pole pole = p.pole;
-    box->setMaxLength(static_cast<int>(poleOf(e_.okno, pole).width));
-    box->onEnter = [this, pole] { run([=](Edytor& e) { txt_GotFocus(e, pole); }); };
-    box->onLeave = [this, pole] { run([=](Edytor& e) { txt_LostFocus(e, pole); }); };
+    box->setMaxLength(static_cast<int>(pole.width));
+    box->onEnter = [this, &pole] { run([&](Edytor& e) { txt_GotFocus(e, pole); }); };
+    box->onLeave = [this, &pole] { run([&](Edytor& e) { txt_LostFocus(e, pole); }); };
     connect(box, &QLineEdit::textEdited, this,
-            [this, pole](const QString& typed) { run([&](Edytor& e) { txt_Change(e, pole, fromQString(typed)); }); });
+            [this, &pole](const QString& typed) { run([&](Edytor& e) { txt_Change(e, pole, fromQString(typed)); }); });
 }
 
 void OknoGlowne::showRecord() {
@@ -257,12 +241,13 @@ void OknoGlowne::showOptions() {
 void OknoGlowne::showFigures() {
     const Okno& okno = e_.okno;
     for (std::size_t i = 0; i < okno.lblInfo.size(); ++i) {
-        const InfoPole& info = okno.lblInfo[i];
-        if (shownOnce_ && info == shown_.lblInfo[i])
+        const InfoFigura& figura = okno.lblInfo[i];
+        if (shownOnce_ && figura == shown_.lblInfo[i])
             continue;
         Etykieta* label = lblInfo_[i];
-        label->setText(toQString(info.caption));
-        setColour(label, QPalette::WindowText, info.czerwony ? QColor(Qt::red) : palette().color(QPalette::WindowText));
+        label->setText(toQString(infoCaption(static_cast<info::Figura>(i), figura.liczba)));
+        setColour(label, QPalette::WindowText,
+                  figura.czerwona ? QColor(Qt::red) : palette().color(QPalette::WindowText));
     }
     for (std::size_t k = 0; k < okno.imgInfo.size(); ++k)
         imgInfo_[k]->showObraz(okno.imgInfo[k], obrazki_);
@@ -275,13 +260,13 @@ void OknoGlowne::showFigures() {
 void OknoGlowne::showKolory() {
     const QColor white(Qt::white), lightRed(255, 192, 192);
     for (std::size_t i = 0; i < e_.okno.lblKolor.size(); ++i) {
-        const Probka& probka = e_.okno.lblKolor[i];
+        const KolorSlot& probka = e_.okno.lblKolor[i];
         if (shownOnce_ && probka == shown_.lblKolor[i])
             continue;
         Etykieta* label = lblKolor_[i];
         label->setText(QString::number(probka.value));
         setColour(label, QPalette::Window, toQColor(probka.tlo));
-        setColour(label, QPalette::WindowText, probka.wybrana ? lightRed : white);
+        setColour(label, QPalette::WindowText, probka.wybrany ? lightRed : white);
     }
 }
 
@@ -290,17 +275,17 @@ void OknoGlowne::showTexts() {
     if (shown_.caption != e_.okno.caption)
         setWindowTitle(toQString(e_.okno.caption));
     for (std::size_t i = 0; i < pola_.size(); ++i) {
-        const PoleTekstu& pole = poleOf(e_.okno, POLA[i].pole);
+        const PoleTekstu& pole = POLA[i].box(e_.okno);
         PoleEdycji* box = pola_[i];
         if (const QString shown = toQString(pole.tekst); shown != box->text()) {
             const int cursor = box->cursorPosition();
             box->setText(shown);
             box->setCursorPosition(cursor);
         }
-        if (shownOnce_ && pole.zaznaczenia != poleOf(shown_, POLA[i].pole).zaznaczenia)
+        if (shownOnce_ && pole.zaznaczenia != POLA[i].box(shown_).zaznaczenia)
             box->selectAll();
     }
-    pola_[static_cast<std::size_t>(Pole::Autor)]->setEnabled(e_.okno.txtAutorEnabled);
+    find<PoleEdycji>("txtAutor")->setEnabled(e_.okno.txtAutorEnabled);
 }
 
 void OknoGlowne::showPaleta() {

@@ -4,6 +4,7 @@
 #include "edytor.h"
 #include "qt/katalog.h"
 #include "qt/obrazki.h"
+#include "stage/pola.h"
 
 #include <QHash>
 #include <QWidget>
@@ -37,9 +38,7 @@ protected:
     void closeEvent(QCloseEvent*) override;
 
 private:
-    struct PoleOkna;
     struct OpcjeOkna;
-    static const PoleOkna POLA[5];
     static const OpcjeOkna OPCJE[4];
 
     void build(const Kontrolka&);
@@ -47,7 +46,7 @@ private:
     void bindHooks();
     void bindEvents();
     void bindOptions(const OpcjeOkna&);
-    void bindText(const PoleOkna&);
+    void bindText(const Pole&);
 
     // Runs an operation and shows what it did.
     template <typename Operation> void run(Operation operation);

@@ -1,7 +1,7 @@
 #include "qt/rozmowy.h"
 
 #include "qt/przeklad.h"
-#include "shell/pliki.h"
+#include "system/pliki.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -59,7 +59,7 @@ std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, co
 }
 
 bool hasInterpreterLine(const fs::path& program) {
-    const auto start = readOptional(SYSTEM_PLIKOW, program, 2);
+    const auto start = readFirst(SYSTEM_PLIKOW, program, 2);
     return start && (*start)[0] == '#' && (*start)[1] == '!';
 }
 

@@ -1,7 +1,7 @@
 // What the editor asks of the desktop: message boxes, file dialogs, programs to start.
 #pragma once
 
-#include "shell/haki.h"
+#include "system/haki.h"
 
 class QWidget;
 

@@ -3,7 +3,7 @@
 #include "qt/kontrolki.h"
 #include "qt/pola_znakow.h"
 #include "qt/przeklad.h"
-#include "stage/obraz_etapu.h"
+#include "stage/etap_image.h"
 
 #include <QCheckBox>
 

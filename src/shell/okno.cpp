@@ -2,25 +2,29 @@
 
 namespace dorva {
 
+std::string infoCaption(info::Figura figura, int liczba) {
+    if (figura == info::DORVA || figura == info::WYJSCIE)
+        return liczba > 0 ? "ok" : "!";
+    return std::to_string(liczba);
+}
+
 Okno defaultOkno() {
     Okno okno;
     for (int i = 0; i < PLANSZA_CELLS; ++i) {
         const Znak z = isEdge(i) ? MUREK_PIONOWY : ZIEMIA;
-        okno.imgPG[static_cast<std::size_t>(i)] = {z, {ObrazRef::DOMYSLNY, z}};
+        okno.imgPG[i] = {z, {ObrazRef::DOMYSLNY, z}};
     }
     for (int i = 0; i < ZNAKI_COUNT; ++i) {
-        ZnakSlot& slot = okno.imgZnak[static_cast<std::size_t>(i)];
+        ZnakSlot& slot = okno.imgZnak[i];
         slot.znak = znak(i);
         slot.obraz = {ObrazRef::DOMYSLNY, znak(i)};
         slot.enabled = false;
     }
     for (int i : WYBOR_ORDER)
-        okno.imgZnak[static_cast<std::size_t>(i)].enabled = true;
-    for (std::size_t k = 0; k < IKONY_INFO.size(); ++k)
-        okno.imgInfo[k] = {ObrazRef::DOMYSLNY, IKONY_INFO[k]};
-    okno.lblInfo[0].caption = okno.lblInfo[1].caption = "!";
-    okno.lblInfo[3].caption = "1";
-    okno.txtAutor.tekst = {std::string(AUTOR_DOMYSLNY)};
+        okno.imgZnak[i].enabled = true;
+    for (int k = 0; k < info::IKONY_COUNT; ++k)
+        okno.imgInfo[k] = {ObrazRef::DOMYSLNY, ZNAKI_INFO[k]};
+    okno.lblInfo[info::CEL_MASEK].liczba = okno.hscMonet;
     return okno;
 }
 

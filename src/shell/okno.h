@@ -2,48 +2,55 @@
 #pragma once
 
 #include "board/znak.h"
-#include "stage/obraz_etapu.h"
+#include "podstawy.h"
 #include "stage/tekst.h"
 #include "tiles/obraz.h"
 
 #include <array>
-#include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace dorva {
 
-// A control that shows a tile: its code and its picture, which may lag behind the code.
-struct ZnakPole {
+// A tile on show: its code and its picture, which may lag behind the code.
+struct PokazanyZnak {
     Znak znak = NIC;
     ObrazRef obraz{};
-    bool operator==(const ZnakPole&) const = default;
+    bool operator==(const PokazanyZnak&) const = default;
 };
 
+using Plansza = std::array<PokazanyZnak, PLANSZA_CELLS>;
+
 // A slot of the tile picker.
-struct ZnakSlot : ZnakPole {
+struct ZnakSlot : PokazanyZnak {
     bool enabled = true;
 };
 
-// A figure of the census panel.
-struct InfoPole {
-    std::string caption = "0";
-    bool czerwony = false;
-    bool operator==(const InfoPole&) const = default;
+// A figure of the panel: a count, or 0 and 1 for what is only there or not.
+struct InfoFigura {
+    int liczba = 0;
+    bool czerwona = false;
+    bool operator==(const InfoFigura&) const = default;
 };
 
-// A text box of fixed width. `zaznaczenia` counts the requests to select the whole text.
+// The census of the board, and the goal.
+using EtapInfo = std::array<InfoFigura, info::COUNT>;
+
+// What the panel writes for a figure: "!" and "ok", or the number.
+std::string infoCaption(info::Figura, int liczba);
+
+// A text box. `zaznaczenia` counts the requests to select the whole text.
 struct PoleTekstu {
-    std::size_t width = 0;
     Tekst tekst;
     unsigned zaznaczenia = 0;
 };
 
-// The swatch of one colour register.
-struct Probka {
+// A colour register of the stage and its swatch.
+struct KolorSlot {
     Bajt value = 0;
     Rgb tlo{};
-    bool wybrana = false; // its text is light red instead of white
-    bool operator==(const Probka&) const = default;
+    bool wybrany = false; // its text is light red instead of white
+    bool operator==(const KolorSlot&) const = default;
 };
 
 // The palette dialog: 128 cells of the even colour values, and the preview.
@@ -54,8 +61,12 @@ struct OknoPalety {
     std::string lblWybrany = "0";
 };
 
-// The credit line that a new window shows as the stage's description, 64 characters.
+// The texts of a new window; the description is a credit line.
+inline constexpr std::string_view NAZWA_DOMYSLNA = "           POWODZENIA!          ";
 inline constexpr std::string_view AUTOR_DOMYSLNY = "DORVA PLANSZOWNIK - EDYTOR ETAPOW                               ";
+inline constexpr std::string_view LINIA_DOMYSLNA = "DORVA PLANSZOWNIK!  ";
+static_assert(NAZWA_DOMYSLNA.size() == NAZWA_WIDTH && AUTOR_DOMYSLNY.size() == AUTOR_WIDTH &&
+              LINIA_DOMYSLNA.size() == LINIA_WIDTH);
 
 struct Okno {
     std::string caption;
@@ -69,27 +80,26 @@ struct Okno {
     // stage figures
     Bajt chkOstatni = 0; // 2 is shown as partially checked
     bool chkOstatniEnabled = true;
-    int hscMonet = CEL_MIN;
-    std::array<InfoPole, 11> lblInfo{};
-    std::array<ObrazRef, 10> imgInfo{};
+    int hscMonet = CEL_MIN; // celMasek
+    EtapInfo lblInfo{};
+    std::array<ObrazRef, info::IKONY_COUNT> imgInfo{};
 
     // board, picker, buffer
-    std::array<ZnakPole, PLANSZA_CELLS> imgPG{};
+    Plansza imgPG{};
     int obrys = -1; // the outlined cell, -1 for none
     std::array<ZnakSlot, ZNAKI_COUNT> imgZnak{};
-    ZnakPole imgBufor{};
+    PokazanyZnak imgBufor{};
     std::array<std::string, 2> lblKodBufor{"0", "$0"};
 
     // texts
-    PoleTekstu txtNazwa{NAZWA_WIDTH, {"           POWODZENIA!          "}};
-    PoleTekstu txtAutor{AUTOR_WIDTH, {}};
+    PoleTekstu txtNazwa{{std::string(NAZWA_DOMYSLNA)}};
+    PoleTekstu txtAutor{{std::string(AUTOR_DOMYSLNY)}};
     bool txtAutorEnabled = true;
-    std::array<PoleTekstu, 3> txtAutorGry{{{LINIA_WIDTH, {"DORVA PLANSZOWNIK!  "}},
-                                           {LINIA_WIDTH, Tekst::spaces(LINIA_WIDTH)},
-                                           {LINIA_WIDTH, Tekst::spaces(LINIA_WIDTH)}}};
+    std::array<PoleTekstu, LINIE_COUNT> txtAutorGry{
+        {{{std::string(LINIA_DOMYSLNA)}}, {Tekst::spaces(LINIA_WIDTH)}, {Tekst::spaces(LINIA_WIDTH)}}};
 
     // colours
-    std::array<Probka, SLOTY_COUNT> lblKolor{};
+    std::array<KolorSlot, SLOTY_COUNT> lblKolor{};
     bool chkZachowajKolory = false;
     OknoPalety dlgPaleta;
 };

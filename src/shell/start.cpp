@@ -1,8 +1,10 @@
 #include "shell/start.h"
 
-#include "output/obraz_gry.h"
+#include "sciezki.h"
+#include "stage/autor_gry.h"
 #include "stage/etap.h"
 #include "stage/zbior_etapow.h"
+#include "system/pliki.h"
 #include "tiles/kolory.h"
 #include "tiles/paleta.h"
 #include "tiles/zestaw.h"
@@ -26,10 +28,10 @@ void setFolders(Edytor& e, const std::filesystem::path& folder) {
 
 // What a killed run left beside the files that the editor writes.
 void sweepLeftovers(Edytor& e) {
-    std::vector<std::filesystem::path> files{autorGryPath(e), testXexPath(e)};
+    std::vector<std::filesystem::path> files{e.KatalogBazowy / sciezki::AUTOR_GRY, e.KatalogBazowy / sciezki::TEST_XEX};
     for (int number = 1; number <= ETAPY_COUNT; ++number)
-        files.push_back(etapPath(e, number));
-    sweepTemporary(e.system, files);
+        files.push_back(sciezki::etap(e.KatalogBazowy, number));
+    sweepTemporary(*e.system, files);
 }
 
 void loadColours(Edytor& e) {
@@ -40,26 +42,6 @@ void loadColours(Edytor& e) {
     showDomyslne(e, 0, 0, SLOTY_COUNT - 1);
 }
 
-// A file of another length than 60 first blanks the boxes; what is there of whole lines is then read.
-bool readAutorGry(Edytor& e) {
-    const auto length = lengthOf(e.system, autorGryPath(e));
-    if (!length)
-        return false;
-    if (*length != AUTOR_GRY_SIZE_BYTES)
-        for (PoleTekstu& pole : e.okno.txtAutorGry)
-            SetTekst(pole, Tekst::spaces(LINIA_WIDTH));
-    for (std::size_t k = 0; k < e.okno.txtAutorGry.size(); ++k) {
-        PoleTekstu& pole = e.okno.txtAutorGry[k];
-        SetTekst(pole, {});
-        const auto bytes = readFirst(e.system, autorGryPath(e), (k + 1) * LINIA_WIDTH);
-        if (!bytes)
-            return false;
-        SetTekst(pole, Tekst::fromBytes(std::span(*bytes).subspan(k * LINIA_WIDTH)));
-    }
-    e.autorPrzejety = *length == AUTOR_GRY_SIZE_BYTES;
-    return true;
-}
-
 // The part of start-up that ends silently at its first failure.
 void loadWork(Edytor& e) {
     if (!ScanZestawy(e))
@@ -67,7 +49,7 @@ void loadWork(Edytor& e) {
     (void)SelectObiektyNR(e, 0);
     e.NumerEtapu = 1;
     SelectEtapNR(e, 0);
-    if (!readEtap(e, e.NumerEtapu))
+    if (!readOrCreateBiezacyEtap(e))
         return;
     (void)readAutorGry(e);
 }

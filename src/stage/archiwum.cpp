@@ -1,6 +1,11 @@
 #include "stage/archiwum.h"
 
+#include "sciezki.h"
+#include "shell/komunikaty.h"
 #include "stage/etap.h"
+#include "stage/zapis_jako.h"
+#include "stage/zbior_etapow.h"
+#include "system/pliki.h"
 
 namespace dorva {
 namespace {
@@ -9,27 +14,29 @@ constexpr std::string_view FILTR_ZAPISU = "Plik archiwum|*.dpa|Wszystkie pliki (
 constexpr std::string_view FILTR_ODCZYTU = "Pliki archiwum|*.dpa|Wszystkie pliki (*.*)|*.*";
 constexpr std::string_view NAZWA_ARCHIWUM = "DPArchiwum.dpa";
 
-constexpr std::size_t rekordArchiwum(int number) {
-    return AUTOR_GRY_SIZE_BYTES + ETAP_SIZE_BYTES * static_cast<std::size_t>(number - 1);
-}
-
-Bajty assemble(const Bajty& autorGry, const std::array<Bajty, ETAPY_COUNT>& etapy) {
+Bajty assemble(const Bajty& autorGry, const std::array<EtapImage, ETAPY_COUNT>& etapy) {
     Bajty archiwum = autorGry;
-    for (const Bajty& etap : etapy)
-        archiwum.insert(archiwum.end(), etap.begin(), etap.end());
+    for (const EtapImage& image : etapy)
+        archiwum.insert(archiwum.end(), image.begin(), image.end());
     return archiwum;
 }
 
-// Writes a stage of the archive over the working set. A file that is no whole stage, or whose content
-// the editor failed to take over, is kept aside.
-bool writeEtap(Edytor& e, int number, std::span<const Bajt> image) {
-    const auto path = etapPath(e, number);
+// The bytes of stage `number` in an archive.
+std::span<const Bajt> etapOf(std::span<const Bajt> archiwum, int number) {
+    return archiwum.subspan(AUTOR_GRY_SIZE_BYTES + (number - 1) * ETAP_SIZE_BYTES, ETAP_SIZE_BYTES);
+}
+
+// Writes a stage of the archive over the working set. A file that is no whole stage is kept aside, and so is what the
+// editor doesn't know of the current one.
+bool replaceEtap(Edytor& e, int number, std::span<const Bajt> image) {
+    const auto path = sciezki::etap(e.KatalogBazowy, number);
     const bool current = number == e.NumerEtapu;
-    const bool keep = (current && !e.etapPrzejety) || lengthOf(e.system, path) != ETAP_SIZE_BYTES;
-    if (!(keep ? writeKeepingOld(e.system, path, image) : writeWhole(e.system, path, image)))
+    if (!current && lengthOf(*e.system, path) == ETAP_SIZE_BYTES)
+        return writeWhole(*e.system, path, image);
+    if (!writeKeepingUnknown(*e.system, path, image, current ? e.znanyEtap : std::nullopt))
         return false;
     if (current)
-        e.etapPrzejety = false; // until the editor has taken over the archive's stage
+        e.znanyEtap.reset(); // until the editor has taken over the archive's stage
     return true;
 }
 
@@ -41,10 +48,10 @@ void cmdSaveArch_Click(Edytor& e) {
         return;
     if (!writeAutorGry(e))
         return;
-    const auto etapy = readAllEtapy(e);
+    const auto etapy = readOrCreateAllEtapy(e);
     if (!etapy)
         return;
-    const Bajty archiwum = assemble(autorGryBytes(e), *etapy);
+    const Bajty archiwum = assemble(fillAutorGry(e), *etapy);
     if (archiwum.size() != ARCHIWUM_SIZE_BYTES) {
         askMessage(e.haki, komunikaty::NIE_MOZNA_PLIKU);
         return;
@@ -59,7 +66,7 @@ void cmdLoadArch_Click(Edytor& e) {
     const auto path = askOpen(e.haki, {"", e.OstatniaSciezka, FILTR_ODCZYTU});
     if (!path)
         return;
-    const auto length = lengthOf(e.system, *path);
+    const auto length = lengthOf(*e.system, *path);
     if (!length)
         return;
     if (*length != ARCHIWUM_SIZE_BYTES) {
@@ -67,18 +74,16 @@ void cmdLoadArch_Click(Edytor& e) {
         return;
     }
     e.OstatniaSciezka = *path;
-    const auto archiwum = readFirst(e.system, *path, ARCHIWUM_SIZE_BYTES);
+    const auto archiwum = readOrCreate(*e.system, *path, ARCHIWUM_SIZE_BYTES);
     if (!archiwum)
         return;
-    const std::span<const Bajt> bytes(*archiwum);
-    for (std::size_t i = 0; i < e.okno.txtAutorGry.size(); ++i)
-        SetTekst(e.okno.txtAutorGry[i], Tekst::fromBytes(bytes.subspan(i * LINIA_WIDTH, LINIA_WIDTH)));
+    takeAutorGry(e, *archiwum);
     for (int number = 1; number <= ETAPY_COUNT; ++number)
-        if (!writeEtap(e, number, bytes.subspan(rekordArchiwum(number), ETAP_SIZE_BYTES)))
+        if (!replaceEtap(e, number, etapOf(*archiwum, number)))
             return;
     if (!writeAutorGry(e))
         return;
-    (void)readEtap(e, e.NumerEtapu);
+    (void)readOrCreateBiezacyEtap(e);
 }
 
 } // namespace dorva

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "edytor.h"
-#include "stage/zbior_etapow.h"
+#include "stage/autor_gry.h"
 
 namespace dorva {
 

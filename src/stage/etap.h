@@ -18,12 +18,7 @@ Znak KodKrawedzi(const Okno&);
 // Sets the last-stage box; false for a value above 2.
 [[nodiscard]] bool SetOstatni(Edytor&, int value);
 
-// Sets a box from code; an empty text becomes spaces, all selected.
-void SetTekst(PoleTekstu&, const Tekst&);
-
-// What a box that is left does to its text.
-void leaveNazwa(Edytor&);
-void leaveAutor(Edytor&);
-void leaveAutorGry(Edytor&, int index);
+// A click on it: what is not unchecked, half checked included, becomes unchecked.
+void chkOstatni_Click(Edytor&);
 
 } // namespace dorva

@@ -1,21 +1,18 @@
 // Window text (Windows-1250, one byte a character) and stored text (Atari screen codes).
 #pragma once
 
+#include "podstawy.h"
+
 #include <cstddef>
-#include <cstdint>
 #include <span>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace dorva {
 
-using Bajt = std::uint8_t;
-using Bajty = std::vector<Bajt>;
-
 inline constexpr std::size_t NAZWA_WIDTH = 32;
 inline constexpr std::size_t AUTOR_WIDTH = 64;
-inline constexpr std::size_t LINIA_WIDTH = 20;
+inline constexpr std::size_t LINIA_WIDTH = 20; // of a title line
+inline constexpr int LINIE_COUNT = 3;
 
 // Text as the window holds it: one Windows-1250 byte a character. A type of its own, so that it can't
 // be mixed up with the UTF-8 of captions and messages.

@@ -1,4 +1,4 @@
-// The working set on disk: 32 stage files, the title lines, single stages anywhere.
+// The stage set: 32 stage files, written back without asking, and single stages anywhere.
 #pragma once
 
 #include "edytor.h"
@@ -6,12 +6,6 @@
 #include <array>
 
 namespace dorva {
-
-inline constexpr std::size_t AUTOR_GRY_SIZE_BYTES = 3 * LINIA_WIDTH;
-
-// "<KatalogBazowy>/ETAPY/DETAP.<number>"
-std::filesystem::path etapPath(const Edytor&, int number);
-std::filesystem::path autorGryPath(const Edytor&);
 
 // Selects a stage button as a click does; nothing if it is selected already.
 void SelectEtapNR(Edytor&, int index);
@@ -24,25 +18,14 @@ void cmdCzysc_Click(Edytor&);
 // A frame of walls around a field of earth, goal 1, blank texts. No file is touched.
 void ClearEtap(Edytor&);
 
-// Writes the image buffer to the current stage's file. A file that the editor has not taken over whole
-// is kept aside first.
+// Writes the image buffer to the current stage's file. Content that the editor doesn't know is kept aside first.
 [[nodiscard]] bool writeBiezacyEtap(Edytor&);
 
-// The three title lines, 60 bytes, to DP1.DTA; boxes shorter than their width are brought to it.
-[[nodiscard]] bool writeAutorGry(Edytor&);
-Bajty autorGryBytes(Edytor&);
+// Reads the current stage's file (its first 931 bytes) into the image buffer and unpacks it. A missing file is
+// created, empty.
+[[nodiscard]] bool readOrCreateBiezacyEtap(Edytor&);
 
-// Reads stage `number` (its first 931 bytes) into the image buffer and unpacks it.
-[[nodiscard]] bool readEtap(Edytor&, int number);
-
-// Reads the images of all 32 stages, in order; nothing at the first that fails.
-std::optional<std::array<Bajty, ETAPY_COUNT>> readAllEtapy(Edytor&);
-
-// Asks for a file to save to and, if it exists, whether to replace it. Sets OstatniaSciezka.
-std::optional<std::filesystem::path> askSavePath(Edytor&, const DialogPliku&);
-
-// Writes a file that the user has named. Where it is one of the editor's own, what it now holds counts as
-// not taken over.
-[[nodiscard]] bool writeChosen(Edytor&, const std::filesystem::path&, std::span<const Bajt> bytes);
+// The images of all 32 stages, in order; nothing at the first that fails. A missing file is created, empty.
+std::optional<std::array<EtapImage, ETAPY_COUNT>> readOrCreateAllEtapy(const Edytor&);
 
 } // namespace dorva

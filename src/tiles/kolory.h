@@ -11,9 +11,8 @@ void LoadPaleta(Edytor&);
 // A world's colour file into its row of KoloryDomyslne; left alone where the file is missing or short.
 void LoadKolory(Edytor&, int swiat);
 
-// Likewise, but without asking first whether the file is there: a missing one is created, empty. False
-// where nothing was read.
-[[nodiscard]] bool openKolory(Edytor&, int swiat);
+// Likewise, but without asking first whether the file is there. False where nothing was read.
+[[nodiscard]] bool readOrCreateKolory(Edytor&, int swiat);
 
 // The one way to write a slot.
 void ShowKolor(Edytor&, int slot, Bajt value);

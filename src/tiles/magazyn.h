@@ -1,7 +1,8 @@
 // The tile store: the pictures of all three worlds.
 #pragma once
 
-#include "stage/obraz_etapu.h"
+#include "podstawy.h"
+#include "system/bitmapa.h"
 #include "tiles/obraz.h"
 
 #include <array>
@@ -26,7 +27,7 @@ struct Magazyn {
     [[nodiscard]] const ZnakObraz* find(ObrazRef ref) const {
         if (ref.swiat < 0 || ref.swiat >= SWIATY_COUNT || !isTile(ref.znak))
             return nullptr;
-        return obrazy[static_cast<std::size_t>(ref.swiat * MAGAZYN_STRIDE + kod(ref.znak))].get();
+        return obrazy[ref.swiat * MAGAZYN_STRIDE + kod(ref.znak)].get();
     }
 };
 

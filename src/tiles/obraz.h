@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdint>
-#include <vector>
 
 namespace dorva {
 
@@ -18,17 +17,6 @@ inline constexpr int OBRAZ_SIDE = 32;
 
 // The picture of one code in one world: 32 x 32 pixels, 0xAARRGGBB, row by row.
 using ZnakObraz = std::array<std::uint32_t, OBRAZ_SIDE * OBRAZ_SIDE>;
-
-// A loaded picture file, pixels 0xAARRGGBB row by row. Only its top left part may have been kept.
-struct Bitmapa {
-    int width = 0, height = 0;
-    std::vector<std::uint32_t> piksele;
-
-    [[nodiscard]] bool isWhole() const {
-        return width >= 0 && height >= 0 &&
-               piksele.size() >= static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    }
-};
 
 // Which picture a control shows: that of a code in a world, or in the window's default state.
 struct ObrazRef {

@@ -1,5 +1,6 @@
 #include "tiles/paleta.h"
 
+#include "shell/komunikaty.h"
 #include "tiles/kolory.h"
 
 namespace dorva {
@@ -9,13 +10,13 @@ constexpr int COLUMNS = 8;
 constexpr int SLOT_PANELU = 11;
 constexpr int KOLUMNA_PANELU = 2; // luminance 4, the only one that the panel can take
 
-Probka& wybrana(Edytor& e) {
-    return e.okno.lblKolor[static_cast<std::size_t>(e.WybranySlot)];
+KolorSlot& wybrany(Edytor& e) {
+    return e.okno.lblKolor[e.WybranySlot];
 }
 
 void showWybrany(Edytor& e) {
-    e.okno.dlgPaleta.picWybrany = wybrana(e).tlo;
-    e.okno.dlgPaleta.lblWybrany = kolorText(wybrana(e).value);
+    e.okno.dlgPaleta.picWybrany = wybrany(e).tlo;
+    e.okno.dlgPaleta.lblWybrany = kolorText(wybrany(e).value);
 }
 
 } // namespace
@@ -26,9 +27,9 @@ void PickKolor(Edytor& e, int slot) {
         return;
     }
     e.WybranySlot = slot;
-    for (Probka& probka : e.okno.lblKolor)
-        probka.wybrana = false;
-    wybrana(e).wybrana = true;
+    for (KolorSlot& kolor : e.okno.lblKolor)
+        kolor.wybrany = false;
+    wybrany(e).wybrany = true;
     OpenPaleta(e);
 }
 
@@ -51,7 +52,7 @@ void closePaleta(Edytor& e) {
     if (!e.okno.dlgPaleta.otwarte)
         return;
     e.okno.dlgPaleta.otwarte = false;
-    wybrana(e).wybrana = false;
+    wybrany(e).wybrany = false;
 }
 
 } // namespace dorva

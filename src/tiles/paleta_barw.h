@@ -1,7 +1,7 @@
 // The colour table: what an Atari colour value looks like, and the worlds' default colours.
 #pragma once
 
-#include "stage/obraz_etapu.h"
+#include "podstawy.h"
 #include "tiles/obraz.h"
 
 #include <array>

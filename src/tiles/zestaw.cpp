@@ -1,11 +1,11 @@
 #include "tiles/zestaw.h"
 
+#include "sciezki.h"
+#include "system/pliki.h"
 #include "tiles/kolory.h"
 
 namespace dorva {
 namespace {
-
-constexpr std::string_view KATALOG_EKSPORTU = "OBIEKTY/ORN_EXPORT";
 
 std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& path) {
     auto strip = askPicture(e.haki, path, PASEK_WIDTH, OBRAZ_SIDE);
@@ -14,8 +14,8 @@ std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& p
 
 void cutStrip(Magazyn& zestawy, const Bitmapa& strip, int swiat) {
     for (int position = 0; position < PASEK_TILES; ++position) {
-        const auto entry = static_cast<std::size_t>(swiat * MAGAZYN_STRIDE + kodOfPosition(position));
-        zestawy.obrazy[entry] = std::make_shared<const ZnakObraz>(cutTile(strip, position));
+        zestawy.obrazy[swiat * MAGAZYN_STRIDE + kodOfPosition(position)] =
+            std::make_shared<const ZnakObraz>(cutTile(strip, position));
     }
     ++zestawy.wersja;
 }
@@ -23,14 +23,15 @@ void cutStrip(Magazyn& zestawy, const Bitmapa& strip, int swiat) {
 } // namespace
 
 bool ScanZestawy(Edytor& e) {
-    const auto folder = e.KatalogBazowy / KATALOG_EKSPORTU;
-    const auto names = listNames(e.system, folder, ".ND");
-    for (std::size_t swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
+    const auto folder = e.KatalogBazowy / sciezki::EKSPORT;
+    const auto names = listNames(*e.system, folder, ".ND");
+    const int count = static_cast<int>(names.size());
+    for (int swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
         // The listing says once that it is at its end; asking it again is a failure.
-        if (swiat > names.size())
+        if (swiat > count)
             return false;
-        if (swiat < names.size())
-            LoadZestaw(e, folder / names[swiat], static_cast<int>(swiat));
+        if (swiat < count)
+            LoadZestaw(e, folder / names[swiat], swiat);
     }
     return true;
 }
@@ -43,11 +44,11 @@ void LoadZestaw(Edytor& e, const std::filesystem::path& path, int swiat) {
         return;
     cutStrip(e.zestawy, *strip, swiat);
 
-    if (!openKolory(e, swiat))
+    if (!readOrCreateKolory(e, swiat))
         return;
     if (swiat != e.BiezacySwiat)
         return;
-    showDomyslne(e, swiat, KOLORY_FIRST_SLOT, KOLORY_FIRST_SLOT + static_cast<int>(KOLORY_SIZE_BYTES) - 1);
+    showDomyslne(e, swiat, KOLORY_FIRST_SLOT, KOLORY_FIRST_SLOT + KOLORY_SIZE_BYTES - 1);
 }
 
 void ShowZestaw(Edytor& e, int swiat) {
@@ -55,15 +56,15 @@ void ShowZestaw(Edytor& e, int swiat) {
     const auto s = static_cast<std::int8_t>(swiat);
     const int half = okno.optNN == 1 ? INV : 0;
     for (int i = 0; i < ZNAKI_COUNT; ++i) {
-        ZnakSlot& slot = okno.imgZnak[static_cast<std::size_t>(i)];
+        ZnakSlot& slot = okno.imgZnak[i];
         slot.znak = znak(i + half);
         slot.obraz = {s, slot.znak};
     }
     okno.imgBufor.obraz = {s, okno.imgBufor.znak};
-    for (ZnakPole& cell : okno.imgPG)
+    for (PokazanyZnak& cell : okno.imgPG)
         cell.obraz = {s, cell.znak};
-    for (std::size_t k = 0; k < IKONY_INFO.size(); ++k)
-        okno.imgInfo[k] = okno.imgZnak[static_cast<std::size_t>(IKONY_INFO[k])].obraz;
+    for (int k = 0; k < info::IKONY_COUNT; ++k)
+        okno.imgInfo[k] = okno.imgZnak[kod(ZNAKI_INFO[k])].obraz;
     e.BiezacySwiat = swiat;
 }
 

@@ -76,7 +76,7 @@ TEST_F(Malowanie, ButtonsAndTools) {
 }
 
 TEST_F(Malowanie, AUniqueTileIsPlacedOnceAndItsSlotRests) {
-    for (ZnakPole& cell : e.okno.imgPG)
+    for (PokazanyZnak& cell : e.okno.imgPG)
         cell.znak = ZIEMIA;
     clickSlot(12);
     press(100);

@@ -1,4 +1,6 @@
-#include "shell/pliki.h"
+#include "system/pliki.h"
+
+#include "system/system_plikow.h"
 
 #include <algorithm>
 #include <array>
@@ -81,6 +83,13 @@ bool writeAll(const SystemPlikow& system, int file, std::span<const Bajt> bytes)
     return true;
 }
 
+std::optional<Bajty> readOpened(const SystemPlikow& system, const Otwarty& file, std::size_t count) {
+    if (!file.ok() || !file.isRegular())
+        return std::nullopt;
+    Bajty bytes(count);
+    return readAll(system, file.file(), bytes) ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
 fs::path folderOf(const fs::path& path) {
     return path.has_parent_path() ? path.parent_path() : fs::path(".");
 }
@@ -148,12 +157,44 @@ fs::path temporaryPath(const fs::path& target) {
            (std::string(TEMPORARY_PREFIX) + std::to_string(::getpid()) + std::string(TEMPORARY_SUFFIX));
 }
 
+// The bytes of an old file; nothing where it can't be read or is larger than anything the editor makes.
+std::optional<Bajty> contentOf(const SystemPlikow& system, const fs::path& path, const struct ::stat& info) {
+    constexpr ::off_t CONTENT_MAX_BYTES = 64 << 20;
+    if (info.st_size > CONTENT_MAX_BYTES)
+        return std::nullopt;
+    return readFirst(system, path, static_cast<std::size_t>(info.st_size));
+}
+
+bool writeOver(const SystemPlikow& system, const fs::path& path, int flags, std::span<const Bajt> bytes) {
+    Otwarty file(system, path, O_WRONLY | flags);
+    return file.ok() && writeAll(system, file.file(), bytes) && system.fsync(file.file()) == 0 && file.closeNow();
+}
+
+// The way where the folder refuses new names. Not for a file with a second name, which would change along.
+bool writeInPlace(const SystemPlikow& system, const Cel& cel, std::span<const Bajt> bytes) {
+    struct ::stat info {};
+    if (!cel.old || system.stat(cel.path.c_str(), &info) != 0 || info.st_nlink != 1)
+        return false;
+    const auto old = contentOf(system, cel.path, info);
+    if (!old)
+        return false;
+    if (writeOver(system, cel.path, bytes.size() < old->size() ? O_TRUNC : 0, bytes))
+        return true;
+    (void)writeOver(system, cel.path, O_TRUNC, *old);
+    return false;
+}
+
+bool isRefused(int error) {
+    return error == EACCES || error == EPERM;
+}
+
 bool replace(const SystemPlikow& system, const Cel& cel, std::span<const Bajt> bytes) {
     const fs::path temporary = temporaryPath(cel.path);
     system.unlink(temporary.c_str()); // left over by a killed process of the same number
     if (!writeTemporary(system, temporary, bytes, cel.old) || system.rename(temporary.c_str(), cel.path.c_str()) != 0) {
+        const bool refused = isRefused(errno);
         system.unlink(temporary.c_str());
-        return false;
+        return refused && writeInPlace(system, cel, bytes);
     }
     flushFolder(system, folderOf(cel.path));
     return true;
@@ -180,50 +221,37 @@ std::optional<fs::path> freeKopia(const SystemPlikow& system, const fs::path& pa
     return std::nullopt;
 }
 
-bool holds(const SystemPlikow& system, const Cel& cel, std::span<const Bajt> bytes) {
-    if (static_cast<std::uintmax_t>(cel.old->st_size) != bytes.size())
-        return false;
-    const auto old = readOptional(system, cel.path, bytes.size());
-    return old && std::equal(old->begin(), old->end(), bytes.begin());
-}
-
 // A second name for the old file, or a copy of it where the file system has no hard links.
-bool keepAs(const SystemPlikow& system, const Cel& cel, const fs::path& kopia) {
+bool keepAs(const SystemPlikow& system, const Cel& cel, const fs::path& kopia, const std::optional<Bajty>& old) {
     if (system.link(cel.path.c_str(), kopia.c_str()) == 0) {
         flushFolder(system, folderOf(kopia));
         return true;
     }
-    constexpr ::off_t COPY_MAX_BYTES = 64 << 20;
-    if (errno == EEXIST || cel.old->st_size > COPY_MAX_BYTES)
-        return false;
-    const auto bytes = readOptional(system, cel.path, static_cast<std::size_t>(cel.old->st_size));
-    return bytes && replace(system, {kopia, cel.old}, *bytes);
+    return errno != EEXIST && old && replace(system, {kopia, cel.old}, *old);
 }
 
-int openFile(const char* path, int flags, ::mode_t mode) {
-    return ::open(path, flags, mode);
+bool isSame(const struct ::stat& a, const struct ::stat& b) {
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
-std::optional<Bajty> readOpened(const SystemPlikow& system, const Otwarty& file, std::size_t count) {
-    if (!file.ok() || !file.isRegular())
-        return std::nullopt;
-    Bajty bytes(count);
-    return readAll(system, file.file(), bytes) ? std::optional(std::move(bytes)) : std::nullopt;
+// Whether a write that failed has certainly changed nothing: a rename can be carried out and still be answered by an
+// error.
+bool isStillOld(const SystemPlikow& system, const Cel& cel, const std::optional<Bajty>& old) {
+    struct ::stat info {};
+    return system.stat(cel.path.c_str(), &info) == 0 && isSame(info, *cel.old) &&
+           (!old || contentOf(system, cel.path, info) == old);
 }
 
 } // namespace
 
-const SystemPlikow SYSTEM_PLIKOW{openFile, ::read,  ::write, ::fsync,  ::close,    ::rename,  ::link,    ::unlink,
-                                 ::stat,   ::lstat, ::fstat, ::fchmod, ::readlink, ::opendir, ::readdir, ::closedir};
-
-std::optional<Bajty> readFirst(const SystemPlikow& system, const fs::path& path, std::size_t count) {
+std::optional<Bajty> readOrCreate(const SystemPlikow& system, const fs::path& path, std::size_t count) {
     const Otwarty file(system, path, O_RDONLY);
     if (!file.ok() && errno == ENOENT)
         const Otwarty created(system, path, O_WRONLY | O_CREAT);
     return readOpened(system, file, count);
 }
 
-std::optional<Bajty> readOptional(const SystemPlikow& system, const fs::path& path, std::size_t count) {
+std::optional<Bajty> readFirst(const SystemPlikow& system, const fs::path& path, std::size_t count) {
     return readOpened(system, Otwarty(system, path, O_RDONLY), count);
 }
 
@@ -244,7 +272,7 @@ bool isSameFile(const SystemPlikow& system, const fs::path& a, const fs::path& b
     struct ::stat second {};
     if (system.stat(a.c_str(), &first) != 0 || system.stat(b.c_str(), &second) != 0)
         return errno != ENOENT && errno != ENOTDIR;
-    return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+    return isSame(first, second);
 }
 
 bool writeWhole(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes) {
@@ -252,20 +280,23 @@ bool writeWhole(const SystemPlikow& system, const fs::path& path, std::span<cons
     return cel && replace(system, *cel, bytes);
 }
 
-bool writeKeepingOld(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes) {
+bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes,
+                         const std::optional<Bajty>& known) {
     const auto cel = findCel(system, path);
     if (!cel)
         return false;
     if (!cel->old || cel->old->st_size == 0)
         return replace(system, *cel, bytes);
-    if (holds(system, *cel, bytes))
-        return true;
+    const auto old = contentOf(system, cel->path, *cel->old);
+    if (old && (old == known || std::ranges::equal(*old, bytes)))
+        return replace(system, *cel, bytes);
     const auto kopia = freeKopia(system, path);
-    if (!kopia || !keepAs(system, *cel, *kopia))
+    if (!kopia || !keepAs(system, *cel, *kopia, old))
         return false;
     if (replace(system, *cel, bytes))
         return true;
-    system.unlink(kopia->c_str());
+    if (isStillOld(system, *cel, old))
+        system.unlink(kopia->c_str());
     return false;
 }
 
@@ -274,8 +305,11 @@ std::vector<std::string> listNames(const SystemPlikow& system, const fs::path& f
     ::DIR* const listing = system.opendir(folder.c_str());
     if (!listing)
         return names;
-    errno = 0;
-    while (const ::dirent* entry = system.readdir(listing)) {
+    const auto next = [&] {
+        errno = 0; // tells the end of the listing from a failure
+        return system.readdir(listing);
+    };
+    while (const ::dirent* entry = next()) {
         const std::string_view name = entry->d_name;
         if (name.ends_with(suffix) && name != "." && name != "..")
             names.emplace_back(name);

@@ -1,4 +1,4 @@
-#include "shell/haki.h"
+#include "system/haki.h"
 
 namespace dorva {
 namespace {

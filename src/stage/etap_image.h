@@ -6,10 +6,6 @@
 
 namespace dorva {
 
-inline constexpr int ETAPY_COUNT = 32;
-inline constexpr int SLOTY_COUNT = 12;
-inline constexpr int SWIATY_COUNT = 3;
-
 // Offsets and lengths of the fields of an `EtapImage`, in bytes.
 namespace uklad {
 inline constexpr std::size_t KOLORY = 16;
@@ -24,6 +20,7 @@ inline constexpr std::size_t AUTOR = NAZWA + NAZWA_WIDTH;
 inline constexpr std::size_t ETAP_SIZE_BYTES = uklad::AUTOR + AUTOR_WIDTH;
 static_assert(ETAP_SIZE_BYTES == 931);
 
-inline constexpr int CEL_MIN = 1, CEL_MAX = 99;
+// A stage in its stored form. ETAP_SIZE_BYTES long unless a text is too long or too short for its field.
+using EtapImage = Bajty;
 
 } // namespace dorva

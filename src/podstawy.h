@@ -1,0 +1,18 @@
+// Bytes, and the counts and limits that several records share.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace dorva {
+
+using Bajt = std::uint8_t;
+using Bajty = std::vector<Bajt>;
+
+inline constexpr int ETAPY_COUNT = 32;
+inline constexpr int SWIATY_COUNT = 3;
+inline constexpr int SLOTY_COUNT = 12; // colour registers
+
+inline constexpr int CEL_MIN = 1, CEL_MAX = 99; // of the mask goal
+
+} // namespace dorva

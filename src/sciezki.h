@@ -1,0 +1,35 @@
+// Where the data files stand below the base folder.
+#pragma once
+
+#include "podstawy.h"
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace dorva::sciezki {
+
+inline constexpr std::string_view AUTOR_GRY = "PLIKI/DP1.DTA";
+inline constexpr std::string_view SZABLON_GRY = "PLIKI/DP2.DTA";
+inline constexpr std::string_view EMULATOR = "PLIKI/DP3.BAT"; // the launcher
+inline constexpr std::string_view TEST_XEX = "PLIKI/TEST.XEX";
+inline constexpr std::string_view PALETA = "PLIKI/PALETY/Bitwor.act";
+inline constexpr std::string_view ORN = "OBIEKTY/ORN.exe";
+inline constexpr std::string_view EKSPORT = "OBIEKTY/ORN_EXPORT";
+
+// Fixed names: a world's colour file does not follow the listing of the tile sets.
+inline constexpr std::array<std::string_view, SWIATY_COUNT> KOLORY{"OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY",
+                                                                   "OBIEKTY/ORN_EXPORT/FNT11.ORN.ND.KOLORY",
+                                                                   "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND.KOLORY"};
+
+// The name of a stage's file, `number` 1..32.
+inline std::string nazwaEtapu(int number) {
+    return "DETAP." + std::to_string(number);
+}
+
+inline std::filesystem::path etap(const std::filesystem::path& base, int number) {
+    return base / "ETAPY" / nazwaEtapu(number);
+}
+
+} // namespace dorva::sciezki

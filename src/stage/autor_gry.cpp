@@ -1,0 +1,60 @@
+#include "stage/autor_gry.h"
+
+#include "sciezki.h"
+#include "stage/pola.h"
+#include "system/pliki.h"
+
+namespace dorva {
+namespace {
+
+std::filesystem::path pathOf(const Edytor& e) {
+    return e.KatalogBazowy / sciezki::AUTOR_GRY;
+}
+
+} // namespace
+
+Bajty fillAutorGry(Edytor& e) {
+    Bajty bytes;
+    for (int i = 0; i < LINIE_COUNT; ++i) {
+        fillShort(e.okno, poleLinii(i));
+        const Bajty linia = e.okno.txtAutorGry[i].tekst.bytes();
+        bytes.insert(bytes.end(), linia.begin(), linia.end());
+    }
+    return bytes;
+}
+
+void takeAutorGry(Edytor& e, std::span<const Bajt> bytes) {
+    for (int i = 0; i < LINIE_COUNT; ++i)
+        SetTekst(e.okno, poleLinii(i), Tekst::fromBytes(bytes.subspan(i * LINIA_WIDTH, LINIA_WIDTH)));
+}
+
+bool readAutorGry(Edytor& e) {
+    e.znanyAutorGry.reset();
+    const auto length = lengthOf(*e.system, pathOf(e));
+    if (!length)
+        return false;
+    if (*length != AUTOR_GRY_SIZE_BYTES)
+        for (int i = 0; i < LINIE_COUNT; ++i)
+            SetTekst(e.okno, poleLinii(i), {});
+    for (int i = 0; i < LINIE_COUNT; ++i) {
+        SetTekst(e.okno, poleLinii(i), {});
+        const auto bytes = readFirst(*e.system, pathOf(e), (i + 1) * LINIA_WIDTH);
+        if (!bytes)
+            return false;
+        SetTekst(e.okno, poleLinii(i), Tekst::fromBytes(std::span(*bytes).subspan(i * LINIA_WIDTH)));
+        e.znanyAutorGry = bytes;
+    }
+    return true;
+}
+
+bool writeAutorGry(Edytor& e) {
+    const Bajty bytes = fillAutorGry(e);
+    if (bytes.size() != AUTOR_GRY_SIZE_BYTES)
+        return false;
+    if (!writeKeepingUnknown(*e.system, pathOf(e), bytes, e.znanyAutorGry))
+        return false;
+    e.znanyAutorGry = bytes;
+    return true;
+}
+
+} // namespace dorva

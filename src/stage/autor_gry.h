@@ -1,0 +1,24 @@
+// The title lines of the game and their file, DP1.DTA.
+#pragma once
+
+#include "edytor.h"
+
+namespace dorva {
+
+inline constexpr std::size_t AUTOR_GRY_SIZE_BYTES = LINIE_COUNT * LINIA_WIDTH;
+
+// The three lines as they are stored, 60 bytes unless one is too long. Boxes shorter than their width are brought to
+// it first.
+Bajty fillAutorGry(Edytor&);
+
+// Sets the three boxes from the first 60 bytes of a title file or an archive.
+void takeAutorGry(Edytor&, std::span<const Bajt> bytes);
+
+// Reads DP1.DTA into the boxes. A file of another length than 60 first blanks them; whole lines that it holds are then
+// read. False where it ends early or can't be read.
+[[nodiscard]] bool readAutorGry(Edytor&);
+
+// Writes DP1.DTA. Content that the editor doesn't know is kept aside first.
+[[nodiscard]] bool writeAutorGry(Edytor&);
+
+} // namespace dorva

@@ -1,0 +1,49 @@
+// The text boxes: where each stands in the record, how wide it is, what form its text takes.
+#pragma once
+
+#include "edytor.h"
+
+#include <array>
+
+namespace dorva {
+
+enum class Forma { Centred, Left };
+
+// A text box.
+struct Pole {
+    std::string_view name; // of its control
+    int index;             // in a control array, or -1
+    PoleTekstu& (*box)(Okno&);
+    std::size_t width;
+    Forma forma;
+};
+
+inline constexpr std::array<Pole, 5> POLA{{
+    {"txtNazwa", -1, [](Okno& o) -> PoleTekstu& { return o.txtNazwa; }, NAZWA_WIDTH, Forma::Centred},
+    {"txtAutor", -1, [](Okno& o) -> PoleTekstu& { return o.txtAutor; }, AUTOR_WIDTH, Forma::Left},
+    {"txtAutorGry", 0, [](Okno& o) -> PoleTekstu& { return o.txtAutorGry[0]; }, LINIA_WIDTH, Forma::Left},
+    {"txtAutorGry", 1, [](Okno& o) -> PoleTekstu& { return o.txtAutorGry[1]; }, LINIA_WIDTH, Forma::Left},
+    {"txtAutorGry", 2, [](Okno& o) -> PoleTekstu& { return o.txtAutorGry[2]; }, LINIA_WIDTH, Forma::Left},
+}};
+inline constexpr const Pole &POLE_NAZWA = POLA[0], &POLE_AUTOR = POLA[1];
+
+// The box of a title line, 0..2.
+constexpr const Pole& poleLinii(int index) {
+    return POLA[2 + index];
+}
+
+// Sets a box from code; an empty text becomes spaces, all selected.
+void SetTekst(Okno&, const Pole&, const Tekst&);
+
+// A box that is still being edited is brought to its form if it is too short; full text stays as it is.
+void fillShort(Okno&, const Pole&);
+
+// The user has changed the text. What is longer than the box is cut off; an emptied box is refilled with spaces, all
+// selected.
+void txt_Change(Edytor&, const Pole&, const Tekst&);
+void txt_GotFocus(Edytor&, const Pole&);
+
+// Validation and loss of focus alike: the text is brought to its form.
+void txt_LostFocus(Edytor&, const Pole&);
+
+} // namespace dorva
