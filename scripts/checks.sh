@@ -1,69 +1,103 @@
 #!/bin/bash
 # The checks that take longer than the test suite, a line each; a step that fails shows the end of its log
 # (build/checks). With the names of steps only those: scripts/checks.sh coverage fuzz
+# shellcheck disable=SC2317 # the steps are called by their names
 set -uo pipefail
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")/.." || exit
+steps=(format shell floors sanitizers failures coverage findings fuzz documents package play)
+for step; do
+    [[ " ${steps[*]} " == *" $step "* ]] || { echo "checks: no step $step; there are: ${steps[*]}" >&2; exit 2; }
+done
+[ $# -gt 0 ] || set -- "${steps[@]}"
 scripts/setup.sh --checks
 export QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*=false'
 logs=build/checks
 mkdir -p $logs
-sources() { find src tests bench fuzz game -name '*.cpp' -o -name '*.h'; }
 
 # What could not be installed is left out, and said so.
 window_built() { [ -x build/release/src/qt/planszownik ]; }
 game_built() { [ -f build/release/data/PLIKI/DP2.DTA ]; }
 
+# Each step is a function; what it says in its line is the end of its log, or what summary_STEP takes from it.
+
 format() {
-    sources | xargs clang-format --dry-run -Werror
+    find src tests bench fuzz game packaging \( -name '*.cpp' -o -name '*.h' -o -name '*.c' \) -print0 |
+        xargs -0 clang-format --dry-run -Werror
+}
+
+shell() {
+    shellcheck -x scripts/*.sh packaging/*.sh .ci/run
+}
+
+# An include only points down. What knows of Edytor, be it by another file, is an operation and stands above it.
+floors() {
+    grep -r '#include "' src | sed -E 's,^src/([^:]*)\.[a-z]*:#include "(.*)\.h".*,\1 \2,' | sort -u | awk '
+        function floor(file, i) {
+            for (i = knows[file] ? edytor + 1 : 1; i <= count && index(file, at[i]) != 1; ++i) {}
+            return i
+        }
+        { from[NR] = $1; to[NR] = $2 }
+        END {
+            count = split("podstawy system/ sciezki board/ tiles/ stage/ output/ shell/ edytor " \
+                          "board/ tiles/ stage/ output/ shell/ qt/", at, " ")
+            while (at[++edytor] != "edytor") {}
+            for (more = 1; more;)
+                for (i = more = 0; ++i <= NR;)
+                    if (!knows[from[i]] && (to[i] == "edytor" || knows[to[i]])) more = knows[from[i]] = 1
+            for (i = 1; i <= NR; ++i)
+                if (floor(from[i]) < floor(to[i])) { print from[i] " includes " to[i]; wrong = 1 }
+            if (!wrong) print NR " includes, all of them down"
+            exit wrong
+        }'
 }
 
 # The whole suite, window included, with warnings as errors.
 sanitizers() {
-    cmake --preset asan && cmake --build --preset asan && ctest --preset asan -j2 &&
-        echo "$(grep "tests passed" $logs/sanitizers.log)"
+    cmake --preset asan && cmake --build --preset asan && ctest --preset asan -j2
 }
+summary_sanitizers() { grep 'tests passed' "$1"; }
 
 # Every error at every file call, and a thousand kills.
 failures() {
     cmake --preset release && cmake --build --preset release --target dorva_tests &&
-        build/release/tests/dorva_tests --gtest_also_run_disabled_tests --gtest_filter='*DISABLED_*' &&
-        echo "$(grep -c '  OK ' $logs/failures.log) tests, $(grep -o '[0-9]* kills' $logs/failures.log)"
+        build/release/tests/dorva_tests --gtest_also_run_disabled_tests --gtest_filter='*DISABLED_*'
 }
+summary_failures() { echo "$(grep -c '  OK ' "$1") tests, $(grep -o '[0-9]* kills' "$1")"; }
 
 # The logic and its tests without Qt, and the branches of the source that they reach.
 coverage() {
-    local build=build/coverage aim=95
+    local build=build/coverage pure=(src/stage src/board src/tiles src/output)
+    local tests=$build/tests/dorva_tests profile=$build/testy.profdata
     cmake --preset coverage && cmake --build --preset coverage --target dorva_tests || return
-    rm -f $build/*.profraw
-    LLVM_PROFILE_FILE=$PWD/$build/%p.profraw $build/tests/dorva_tests --gtest_brief || return
-    llvm-profdata merge -sparse $build/*.profraw -o $build/testy.profdata || return
-    llvm-cov report $build/tests/dorva_tests -instr-profile=$build/testy.profdata -show-region-summary=0 \
-        -show-branch-summary src/stage src/board src/tiles src/output src/shell
-    llvm-cov report $build/tests/dorva_tests -instr-profile=$build/testy.profdata -show-region-summary=0 \
-        -show-branch-summary src/stage src/board src/tiles src/output |
-        awk -v aim=$aim '/^TOTAL/ { print "lines " $7 ", branches " $10; exit $10 + 0 < aim }'
+    rm -f "$build"/*.profraw
+    LLVM_PROFILE_FILE=$PWD/$build/%p.profraw "$tests" --gtest_brief || return
+    llvm-profdata merge -sparse "$build"/*.profraw -o "$profile" || return
+    report() { llvm-cov report "$tests" -instr-profile="$profile" -show-region-summary=0 -show-branch-summary "$@"; }
+    report "${pure[@]}" src/shell src/system
+    report "${pure[@]}" | awk -v aim=95 '/^TOTAL/ { print "lines " $7 ", branches " $10; exit $10 + 0 < aim }'
 }
 
-fuzzers() { cmake --preset fuzz && cmake --build --preset fuzz --target $1; } # a list of targets
+fuzzers() { cmake --preset fuzz && cmake --build --preset fuzz --target "$@"; }
 
 findings() {
-    fuzzers dorva_logic || return
-    { find src game/tools -name '*.cpp' | if window_built; then cat; else grep -v src/qt; fi; } | xargs -P2 -n4 clang-tidy --quiet --warnings-as-errors='*' -p build/fuzz 2>&1 |
+    fuzzers dorva_swiaty || return
+    find src game/tools packaging -name '*.cpp' | { if window_built; then cat; else grep -v -e src/qt -e packaging; fi; } |
+        xargs -P2 -n4 clang-tidy --quiet --warnings-as-errors='*' -p build/fuzz 2>&1 |
         { grep -v 'warnings generated' || true; } &&
         echo 'no findings'
 }
 
 fuzz() {
-    local names="tytul barwy etap archiwum edytor" name
-    ! window_built || names="$names pasek"
-    fuzzers "$(printf 'fuzz_%s ' $names)" || return
-    for name in $names; do
-        mkdir -p build/fuzz/korpus/$name
-        build/fuzz/fuzz/fuzz_$name -max_total_time=10 -max_len=4096 -verbosity=0 -print_final_stats=1 \
-            -artifact_prefix=$logs/$name- build/fuzz/korpus/$name fuzz/ziarna/$name || return
+    local names=(tytul barwy etap archiwum edytor) name
+    ! window_built || names+=(pasek)
+    fuzzers "${names[@]/#/fuzz_}" || return
+    for name in "${names[@]}"; do
+        mkdir -p "build/fuzz/korpus/$name"
+        "build/fuzz/fuzz/fuzz_$name" -max_total_time=10 -max_len=4096 -verbosity=0 -print_final_stats=1 \
+            -artifact_prefix="$logs/$name-" "build/fuzz/korpus/$name" "fuzz/ziarna/$name" || return
     done
-    awk '/number_of_executed_units/ { sum += $2 } END { print sum " executions" }' $logs/fuzz.log
 }
+summary_fuzz() { awk '/number_of_executed_units/ { sum += $2 } END { print sum " executions" }' "$1"; }
 
 # The documents' examples against the built files.
 documents() {
@@ -85,13 +119,15 @@ play() {
 }
 
 failed=0
-for step in ${@:-format sanitizers failures coverage findings fuzz documents package play}; do
+for step; do
     SECONDS=0
-    if $step >$logs/"$step".log 2>&1; then
-        printf 'ok      %-11s %4d s  %s\n' "$step" $SECONDS "$(tail -n 1 $logs/"$step".log)"
+    log=$logs/$step.log
+    if $step >"$log" 2>&1; then
+        said=$(if declare -F "summary_$step" >/dev/null; then "summary_$step" "$log"; else tail -n 1 "$log"; fi)
+        printf 'ok      %-11s %4d s  %s\n' "$step" $SECONDS "$said"
     else
-        printf 'FAILED  %-11s %4d s  %s\n' "$step" $SECONDS "$logs/$step.log"
-        tail -n 40 $logs/"$step".log
+        printf 'FAILED  %-11s %4d s  %s\n' "$step" $SECONDS "$log"
+        tail -n 40 "$log"
         failed=1
     fi
 done

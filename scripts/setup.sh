@@ -6,7 +6,7 @@ set -u
 
 packages="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n cc65 fonts-liberation fonts-dejavu-core"
 case ${1-} in --tests | --checks) packages="$packages libgtest-dev libbenchmark-dev" ;; esac
-[ "${1-}" != --checks ] || packages="$packages clang libclang-rt-14-dev llvm clang-tidy clang-format"
+[ "${1-}" != --checks ] || packages="$packages clang libclang-rt-14-dev llvm clang-tidy clang-format shellcheck"
 
 if ! command -v dpkg-query >/dev/null 2>&1; then
     for tool in cmake ninja c++ ca65; do
