@@ -201,6 +201,22 @@ TEST_F(Miejsca, ReadOnlyTreeAndReadOnlyFiles) {
     }
 }
 
+TEST_F(Miejsca, StagesThatMayBeWrittenInAReadOnlyFolder) {
+    fs::permissions(root, fs::perms(0755));
+    fs::permissions(base / "ETAPY", fs::perms(0555));
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        fs::permissions(etap(number), fs::perms(0666));
+    EXPECT_EQ(asOrdinaryUser([&] {
+                  start();
+                  cell(5, 5) = BOMBA;
+                  SelectEtapNR(e, 1);
+                  EXPECT_TRUE(shown.empty());
+              }),
+              0);
+    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 205], 14);
+    EXPECT_EQ(namesIn("ETAPY").size(), 32U);
+}
+
 TEST_F(Miejsca, FullDisk) {
     const auto disk = base / "ETAPY";
     if (::mount("tmpfs", disk.c_str(), "tmpfs", 0, "size=400k") != 0)

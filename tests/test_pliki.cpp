@@ -108,6 +108,47 @@ TEST_F(Pliki, WhatCannotBeKeptIsNotReplaced) {
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 3U);
 }
 
+TEST_F(Pliki, ARenameThatIsCarriedOutAndAnsweredByAnErrorKeepsTheCopy) {
+    for (bool carriedOut : {true, false}) {
+        writeFile(root / "plik", {1});
+        static bool moves;
+        moves = carriedOut;
+        const auto system = without([](SystemPlikow& s) {
+            s.rename = [](const char* from, const char* to) {
+                return moves ? (::rename(from, to), errno = EIO, -1) : (errno = EIO, -1);
+            };
+        });
+        EXPECT_FALSE(writeKeepingUnknown(system, root / "plik", Bajty{2}, {}));
+        EXPECT_EQ(readFile(root / "plik"), Bajty{static_cast<Bajt>(carriedOut ? 2 : 1)});
+        EXPECT_EQ(fs::exists(root / "plik.kopia"), carriedOut);
+        fs::remove(root / "plik.kopia");
+    }
+}
+
+// A folder that refuses new names, and one in which only a file's owner may replace it.
+TEST_F(Pliki, InPlaceWhereTheFolderRefusesNewNames) {
+    static bool full;
+    const auto system = without([](SystemPlikow& s) {
+        s.rename = [](const char*, const char*) { return errno = EPERM, -1; };
+        s.write = [](int f, const void* b, std::size_t n) {
+            return full && n == 5 ? (errno = ENOSPC, -1) : ::write(f, b, n);
+        };
+    });
+    for (const Bajty& bytes : {Bajty{7, 8, 9}, Bajty{6}, Bajty{1, 2, 3, 4}}) {
+        writeFile(root / "plik", {1, 2, 3});
+        EXPECT_TRUE(writeWhole(system, root / "plik", bytes));
+        EXPECT_EQ(readFile(root / "plik"), bytes);
+    }
+    full = true;
+    EXPECT_FALSE(writeWhole(system, root / "plik", Bajty(5, 0)));
+    EXPECT_FALSE(writeKeepingUnknown(system, root / "plik", Bajty{5}, {})) << "an unknown file can't be kept there";
+    EXPECT_FALSE(writeWhole(system, root / "nowy", Bajty{5}));
+    fs::create_hard_link(root / "plik", root / "drugi");
+    EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{5})) << "the second name would change along";
+    EXPECT_EQ(readFile(root / "plik"), (Bajty{1, 2, 3, 4}));
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 3U);
+}
+
 TEST_F(Pliki, ExistenceAndSameness) {
     writeFile(root / "plik", {1});
     writeFile(root / "inny", {1});

@@ -1,6 +1,7 @@
 #include "output/obraz_gry.h"
 #include "pulpit.h"
 #include "stage/archiwum.h"
+#include "system/system_plikow.h"
 
 namespace dorva::test {
 namespace {
@@ -64,6 +65,77 @@ TEST_F(ZbiorEtapow, FilesNotTakenOverWholeAreKeptAside) {
     SelectEtapNR(e, 1);
     SelectEtapNR(e, 0);
     EXPECT_EQ(readFile(base / "ETAPY/DETAP.2.kopia2"), shortFile);
+}
+
+// What another program, a second editor or the user puts in the place of a known file.
+TEST_F(ZbiorEtapow, WhatOthersWroteInTheMeantimeIsKeptAside) {
+    start();
+    Edytor second;
+    attach(second);
+    Form_Load(second, base, "1.0.2");
+    second.okno.imgPG[205].znak = BOMBA;
+    SelectEtapNR(second, 1);
+    const Bajty stage = readFile(etap(1)), lines(60, 'O');
+    writeFile(base / "PLIKI/DP1.DTA", lines);
+    cell(5, 5) = MASKA;
+    SelectEtapNR(e, 1);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.1.kopia"), stage);
+    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 205], 12);
+    writeFile(etap(2), stage);
+    chosen = root / "gra.dpa";
+    cmdSaveArch_Click(e);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.2.kopia"), stage);
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia"), lines);
+    writeFile(etap(2), stage);
+    cmdLoadArch_Click(e);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.2.kopia2"), stage);
+    Form_QueryUnload(e);
+    EXPECT_EQ(namesIn("ETAPY").size(), 35U);
+}
+
+TEST_F(ZbiorEtapow, OrdinaryWorkMakesNoCopies) {
+    start();
+    for (int index : {1, 0, 2, 31, 2}) {
+        cell(5, 5) = znak(index);
+        SelectEtapNR(e, index);
+        cell(6, 6) = MASKA;
+        chosen = etap(e.NumerEtapu);
+        cmdSave_Click(e);
+    }
+    for (const char* name : {"a", "a"}) {
+        chosen = root / name;
+        cmdSaveArch_Click(e);
+        cmdLoadArch_Click(e);
+        cmdCreate_Click(e);
+    }
+    Form_QueryUnload(e);
+    EXPECT_EQ(namesIn("ETAPY").size(), 32U);
+    EXPECT_EQ(namesIn("PLIKI").size(), 3U);
+    chosen = etap(3);
+    cmdSaveArch_Click(e);
+    SelectEtapNR(e, 0);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.3.kopia").size(), ARCHIWUM_SIZE_BYTES) << "an archive saved there by name";
+}
+
+// The folder of the stages answers with errors for a while: at the start, and while a stage is saved elsewhere.
+TEST_F(ZbiorEtapow, AStageThatCouldNotBeReadIsKeptAside) {
+    static bool broken = true;
+    static const auto fails = [](std::string_view path) { return broken && path.find("ETAPY") != path.npos; };
+    SystemPlikow system = SYSTEM_PLIKOW;
+    system.open = [](const char* path, int flags, ::mode_t mode) {
+        return fails(path) ? (errno = EIO, -1) : SYSTEM_PLIKOW.open(path, flags, mode);
+    };
+    system.stat = [](const char* path, struct ::stat* info) {
+        return fails(path) ? (errno = EIO, -1) : SYSTEM_PLIKOW.stat(path, info);
+    };
+    e.system = &system;
+    start();
+    chosen = root / "obok";
+    cmdSave_Click(e);
+    EXPECT_EQ(shown.size(), 1U);
+    broken = false;
+    Form_QueryUnload(e);
+    EXPECT_EQ(readFile(base / "ETAPY/DETAP.1.kopia"), sampleEtap(1));
 }
 
 TEST_F(ZbiorEtapow, LastStageRule) {
