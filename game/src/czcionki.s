@@ -2,14 +2,15 @@
 ; character set of a world with a picture for the codes that are no tiles.
 .include "atari.inc"
 .include "reguly.inc"
-.export zrob_czcionki, wez_zestaw, czcionka, czcionka_panelu, zestaw
+.export zrob_czcionki, wez_zestaw, otworz_wyjscie, czcionka, czcionka_panelu, zestaw
 
 .segment "CZCIONKI"
-czcionka:        .res 1024              ; the ROM font plus nine Polish capitals
+czcionka: .res 1024     ; the ROM font plus nine Polish capitals
 zestaw:          .res 1024              ; the world's tiles
-czcionka_panelu: .res 512               ; 64 characters for the wide panel
+czcionka_panelu: .res 512 ; 64 characters for the wide panel
 
-; The character sets of the three worlds, as the companion tool exports them; tiles are characters 0..63.
+; The character sets of the three worlds, as the companion tool exports them; tiles are characters 0..63, and 64 is the
+; exit when it is open.
 .segment "ZNAKI"
 swiaty:
         .incbin "FNT01.ORN.ND", 0, 1024
@@ -35,6 +36,9 @@ ikony:
         .byte %00111000, %01111100, %01010100, %01111100, %00111000, %11111110, %00111000, %01101100  ; life
         .byte %00000000, %11000000, %11111100, %11111111, %11111100, %11000000, %11000000, %11000000  ; flag
 IKONY_BAJTY = * - ikony
+
+.segment "BSS"
+otwarte_wyjscie: .res 8
 
 .segment "ZEROPAGE"
 zrodlo: .res 2
@@ -139,6 +143,12 @@ wez_zestaw:
         inc dokad+1
         dex
         bne @strona
+        ldy #7
+@brama: lda (zrodlo),y
+        sta otwarte_wyjscie,y
+        dey
+        bpl @brama
+        iny
 @krata: tya
         lsr
         lda #$66
@@ -148,4 +158,13 @@ wez_zestaw:
         sta zestaw + 768,y
         iny
         bne @krata
+        rts
+
+; From now on the exit looks open, whatever the colours of the stage.
+otworz_wyjscie:
+        ldx #7
+:       lda otwarte_wyjscie,x
+        sta zestaw + WYJSCIE * 8,x
+        dex
+        bpl :-
         rts

@@ -19,8 +19,8 @@ dorva_y: .res 1
 zegar:   .res 1         ; number of her latest step, 1..TROP and then 1 again
 kier:    .res 1         ; where she looks
 cel_kod: .res 1         ; the code of the tile that she steps at
-cel:     .res 2         ; what it does
-kod:     .res 1         ; a code on its way to the board
+co_robi:     .res 2         ; what it does
+na_plansze: .res 1      ; a code on its way to the board
 odstep:  .res 1         ; ticks until she can make another step
 powtorka: .res 1        ; ticks until a direction that is held makes another step
 bezruch: .res 1         ; ticks without a step
@@ -37,7 +37,7 @@ po_bagnie: .res 1       ; she has just come out of the swamp
 brodzi:  .res 1         ; ticks that she has stood in this water
 opor:    .res 1         ; tugs at a thicket
 naczynia: .res 1        ; jars broken so far
-tu:      .res 2
+wsk_dorvy: .res 2
 
 .segment "BSS"
 dorva_inv: .res 1       ; bit 7 of the tile that she started as
@@ -45,8 +45,8 @@ gdzie_lo: .res TROP     ; the cells of her last steps, by the number of the step
 gdzie_hi: .res TROP
 
 .segment "RODATA"
-bity_drazka: .byte %0100, %1000, %0001, %0010           ; left, right, up, down
-obraz:       .byte IDZIE_LEWO, IDZIE_PRAWO, IDZIE_GORA, IDZIE_DOL
+bity_drazka:  .byte %0100, %1000, %0001, %0010           ; left, right, up, down
+obraz_kroku:  .byte IDZIE_LEWO, IDZIE_PRAWO, IDZIE_GORA, IDZIE_DOL
 .segment "CODE"
 
 ; Sets her at the start of a stage; dorva, dorva_x, dorva_y and dorva_inv are set already.
@@ -143,24 +143,24 @@ rysuj_dorve:
         cpx #BEZRUCH
         bcs @obraz
         ldx kier
-        lda obraz,x
+        lda obraz_kroku,x
 @obraz: ora dorva_inv
-        sta kod
+        sta na_plansze
         lda ochrona                     ; she flickers while nothing wounds her
         and #4
         beq :+
-        lda kod
+        lda na_plansze
         eor #INV
-        sta kod
+        sta na_plansze
 :       clc
         lda dorva
-        sta tu
+        sta wsk_dorvy
         lda dorva+1
         adc #>plansza
-        sta tu+1
+        sta wsk_dorvy+1
         ldy #0
-        lda kod
-        sta (tu),y
+        lda na_plansze
+        sta (wsk_dorvy),y
         rts
 
 ; What she stands in works on her: the swamp draws her down, fire wounds her, water takes some energy now and then.
@@ -282,10 +282,10 @@ zrob_krok:
         stx opor
 :       tax
         lda wejscia_lo,x
-        sta cel
+        sta co_robi
         lda wejscia_hi,x
-        sta cel+1
-        jmp (cel)                       ; Y: where to
+        sta co_robi+1
+        jmp (co_robi)                   ; Y: where to
 mur:    rts
 
 ; She goes on a tile that stays beneath her.
@@ -293,13 +293,13 @@ na_pole:
         dzwiek EF_KROK
 na_to:  lda cel_kod
 ; She goes there, and A is beneath her.
-wejdz:  sta kod
+wejdz:  sta na_plansze
         ldy #TU
         lda (wpod),y
         sta (wsk),y
         ldx kier
         ldy sasiad,x
-        lda kod
+        lda na_plansze
         sta (wpod),y
         clc
         lda dorva
@@ -320,7 +320,7 @@ wejdz:  sta kod
         lda #0
         sta po_bagnie
         sta brodzi
-        lda kod
+        lda na_plansze
         and #$7F
         cmp #BAGNO
         beq @gotowe
@@ -345,25 +345,25 @@ zostaw_zapach:
         ldx #1
 :       stx zegar
         lda gdzie_lo - 1,x
-        sta tu
+        sta wsk_dorvy
         lda gdzie_hi - 1,x
         jsr @w_zapachu
-        cmp (tu),y
+        cmp (wsk_dorvy),y
         bne :+
         tya
-        sta (tu),y
+        sta (wsk_dorvy),y
 :       lda dorva
         sta gdzie_lo - 1,x
-        sta tu
+        sta wsk_dorvy
         lda dorva+1
         sta gdzie_hi - 1,x
         jsr @w_zapachu
-        sta (tu),y
+        sta (wsk_dorvy),y
         rts
 @w_zapachu:
         clc
         adc #>zapach
-        sta tu+1
+        sta wsk_dorvy+1
         ldy #0
         txa
         rts

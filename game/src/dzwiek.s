@@ -17,8 +17,8 @@ dlugosc: .res 1
 wysokosc: .byte   0,  20,  60, 120,  24,  90,  50,  80, 140, 100,  160,  220,  60,  90,  40, 120,  70
 zmiana:   .byte   0,   0,   8,   4,   6,  16, <-6, <-5, <-9,   4,  <-9,    2, <-4,   9,   6, <-5, <-3
 barwa:    .byte   0, $82, $86, $C6, $86, $84, $A8, $A8, $C8, $A6,  $AA,  $C6, $AA, $CA, $8F, $AC, $AC
-ile:      .byte   0,   2,   4,   6,   5,   6,   6,  10,  12,   8,   16,   12,  14,  10,  30,  22,  24
-        .assert * - ile = EF_ZYCIE + 1, error, "one line an effect"
+trwanie:  .byte   0,   2,   4,   6,   5,   6,   6,  10,  12,   8,   16,   12,  14,  10,  30,  22,  24
+        .assert * - trwanie = EF_ZYCIE + 1, error, "one line an effect"
 
 .segment "CODE"
 
@@ -39,7 +39,7 @@ zagraj: cmp ktory
         sta ton
         lda barwa,x
         sta glos
-        lda ile,x
+        lda trwanie,x
         sta dlugosc
 @nie:   rts
 

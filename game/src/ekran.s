@@ -7,7 +7,7 @@
 .include "reguly.inc"
 .export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, blysnij, czekaj_klatke, czekaj_klatki, czysc_tekst
 .export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, kolory
-.import plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
+.import pokaz_nakladke, schowaj_nakladke, plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
 
 .segment "EKRANY"
 logo:   .res LOGO_WIERSZE * 40          ; tiles above the text
@@ -19,7 +19,8 @@ panel_cyfr: .res 20
 
 .segment "BSS"
 kolory: .res 12                         ; the slots of the stage
-po_liscie: .res 2                       ; the first interrupt of the list on show
+obraz:  .res 1          ; what ANTIC fetches for the picture to come
+po_liscie: .res 2       ; the first interrupt of the list on show
 
 .segment "LISTY"
 PUSTE8  = $70
@@ -31,6 +32,9 @@ TRYB2   = $02                           ; text, 40 columns
 TRYB4   = $04                           ; tiles, 40 columns in four colours
 TRYB6   = $06                           ; text, 20 columns in four colours
 SKOK    = $41
+
+OBRAZ   = $22                           ; playfield of 40 columns
+GRACZE  = $18                           ; players, a line of theirs on each scan line
 
 lista_planszy:
         .byte PUSTE8, PUSTE8, PUSTE2
@@ -76,8 +80,8 @@ zacznij_ekran:
         sta SDMCTL
         lda #3
         sta SKCTL
-        ldx #>klatka
-        ldy #<klatka
+        ldx #>co_klatke
+        ldy #<co_klatke
         lda #7                          ; deferred vertical blank
         jsr SETVBV
         jsr czekaj_klatke
@@ -100,6 +104,9 @@ pokaz_plansze:
         stx COLOR0+3
         ldx kolory + 8
         stx COLOR0+4
+        jsr pokaz_nakladke
+        lda #OBRAZ | GRACZE
+        sta obraz
         ldx #>czcionka
         lda #<lista_planszy
         ldy #>lista_planszy
@@ -115,13 +122,15 @@ pokaz_tekst:
         sta COLOR0,x
         dex
         bpl @kolor
+        lda #OBRAZ
+        sta obraz
         ldx #>zestaw
         lda #<lista_tekstu
         ldy #>lista_tekstu
 pokaz:  stx CHBAS
         sta SDLSTL
         sty SDLSTL+1
-        lda #$22
+        lda obraz
         sta SDMCTL
         jmp czekaj_klatke
 
@@ -138,6 +147,7 @@ ustaw_dli:
 zgas_ekran:
         lda #0
         sta SDMCTL
+        jsr schowaj_nakladke
         jmp czekaj_klatke
 
 ; A flash on the board, fading within a few frames.
@@ -183,7 +193,7 @@ czekaj_klatki:
         rts
 
 ; Every frame: the interrupts start anew, effects and tune go on.
-klatka: cld                             ; the score may be in the middle of a sum
+co_klatke: cld                             ; the score may be in the middle of a sum
         lda po_liscie
         sta VDSLST
         lda po_liscie+1

@@ -2,9 +2,10 @@
 .include "atari.inc"
 .include "reguly.inc"
 .export graj, pierwszy_etap
-.importzp numer_etapu, drazek, spust, wynik, efekt, zycia, komunikat
+.importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, reguly_start, takt, rysuj_dorve
-.import pokaz_plansze, blysnij, czekaj_klatke, czekaj_klatki, zacznij_panel, rysuj_panel, info_powitanie, info_takt
+.import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
+.import zacznij_panel, rysuj_panel, info_powitanie, info_takt
 .import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, ucisz_muzyke, dodaj_punkty
 
 CZAS_SMIERCI = 50
@@ -99,6 +100,7 @@ graj_etap:
         bne @klatka
         lda powitanie_trwa
         beq @gra
+        jsr mrugnij_nakladka
         lda STICK0
         and #15
         eor #15
@@ -111,7 +113,11 @@ graj_etap:
         lda STRIG0
         sta spust
         jsr takt
-        lda efekt
+        jsr rysuj_nakladke
+        lda otwarte
+        beq :+
+        jsr otworz_wyjscie
+:       lda efekt
         jsr zagraj
         jsr info_takt
         dec do_panelu                   ; the panel needs no more than every fourth frame
@@ -177,6 +183,7 @@ sprawdz_klawisze:
 ; A life is lost: a flash, her last cry, a word.
 pokaz_strate:
         jsr rysuj_dorve
+        jsr rysuj_nakladke
         lda #KOM_STRACILA
         sta komunikat
         jsr info_takt

@@ -3,7 +3,7 @@
 .include "atari.inc"
 .include "reguly.inc"
 .export pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi
-.export t_grasz, t_klawisze1, t_klawisze2, t_klawisze3, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
+.export t_cel, t_grasz, t_klawisze1, t_klawisze2, t_klawisze3, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 .export t_etap_nr, t_nowy
 .exportzp napis
 
@@ -19,9 +19,10 @@
 
 .segment "ZEROPAGE"
 napis:  .res 2          ; the text to be written
-miejsce: .res 2
+skad_pisze: .res 2
 
 .segment "RODATA"
+t_cel:       tekst "ZBIERZ MASKI, ZNAJDx WYJsCIE"
 t_grasz:     tekst "FIRE LUB START - GRA"
 t_nowy:      tekst "< ETAP    >"
 t_klawisze1: tekst "JOYSTICK - RUCH   FIRE - BOMBA"
@@ -56,16 +57,16 @@ komunikaty_hi: .hibytes KOMUNIKATY
 .segment "CODE"
 
 ; Writes the text at A (low), X (high) to the address in napis.
-pisz:   sta miejsce
-        stx miejsce+1
+pisz:   sta skad_pisze
+        stx skad_pisze+1
         ldy #0
-        lda (miejsce),y
+        lda (skad_pisze),y
         tax
         beq @koniec
-        inc miejsce
+        inc skad_pisze
         bne @znak
-        inc miejsce+1
-@znak:  lda (miejsce),y
+        inc skad_pisze+1
+@znak:  lda (skad_pisze),y
         sta (napis),y
         iny
         dex
@@ -75,19 +76,19 @@ pisz:   sta miejsce
 
 ; Writes the text at A (low), X (high) in the middle of the 40 columns from napis on.
 pisz_srodkiem:
-        sta miejsce
-        stx miejsce+1
+        sta skad_pisze
+        stx skad_pisze+1
         ldy #0
         lda #40
         sec
-        sbc (miejsce),y
+        sbc (skad_pisze),y
         lsr
         clc
         adc napis
         sta napis
         bcc :+
         inc napis+1
-:       lda miejsce
+:       lda skad_pisze
         jmp pisz
 
 ; A (0..99) as two digits: tens in X, ones in A, as screen codes. Above 99 it shows 99.

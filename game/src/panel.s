@@ -22,9 +22,10 @@ SLOT1     = $40
 SLOT2     = $80
 SLOT3     = $C0
 CZAS_KOMUNIKATU = 120
+MALO_ENERGII = 20
 
 .segment "ZEROPAGE"
-barwa:  .res 1
+barwa_cyfr: .res 1
 zostalo: .res 1         ; frames that the message stays
 
 .segment "CODE"
@@ -66,12 +67,12 @@ rysuj_panel:
 :       ora #16 | SLOT0
         sta panel_cyfr + K_KLUCZE
         lda #SLOT1
-        sta barwa
+        sta barwa_cyfr
         lda bomby
         ldy #K_BOMBY
         jsr liczba
         lda #SLOT2
-        sta barwa
+        sta barwa_cyfr
         lda numer_etapu
         ldy #K_ETAP
         jsr liczba
@@ -79,10 +80,19 @@ rysuj_panel:
         ldy #K_MASKI
         jsr liczba
         lda #SLOT3
-        sta barwa
+        sta barwa_cyfr
         lda energia
         ldy #K_ENERGIA
         jsr liczba
+        ldx #IKONA_ENERGIA              ; the heart blinks when there is little left
+        lda energia
+        cmp #MALO_ENERGII
+        bcs :+
+        lda RTCLOK+2
+        and #16
+        beq :+
+        ldx #0
+:       stx panel_symboli + K_ENERGIA
         ldx #0
         ldy #K_PUNKTY
 @punkty:
@@ -104,12 +114,12 @@ rysuj_panel:
         bne @punkty
         rts
 
-; Writes A as two digits of colour barwa at column Y.
+; Writes A as two digits of colour barwa_cyfr at column Y.
 liczba: jsr dwie_cyfry
-        ora barwa
+        ora barwa_cyfr
         sta panel_cyfr + 1,y
         txa
-        ora barwa
+        ora barwa_cyfr
         sta panel_cyfr,y
         rts
 

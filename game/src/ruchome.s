@@ -23,11 +23,11 @@ kolumna: .res 1         ; the column of the cell whose turn it is
 kod:     .res 1         ; its code
 budzet:  .res 1
 rzedy:   .res 1
-cel:     .res 2
-kier:    .res 1
-rana:    .res 1         ; what a patrol's touch takes
+czyn:     .res 2
+kier_tropiciela: .res 1
+rana_patrolu: .res 1    ; what a patrol's touch takes
 strona:  .res 1
-kroki:   .res 1         ; steps that a tracker has left in this turn
+kroki_tropiciela: .res 1 ; steps that a tracker has left in this turn
 wiek:    .res 1         ; of a scent, in steps
 najmlodszy: .res 1      ; the freshest so far
 
@@ -128,10 +128,10 @@ zrob_pole:
         and #$3F
         tax
         lda czyny_lo,x
-        sta cel
+        sta czyn
         lda czyny_hi,x
-        sta cel+1
-        jmp (cel)
+        sta czyn+1
+        jmp (czyn)
 spi:    rts
 
 ; This cell gets back what lay beneath.
@@ -152,13 +152,13 @@ wyjscie:
 
 ; Creatures go left and right, guards down and up; both turn where they can't go on.
 stwor:  lda #RANA_STWOR
-        sta rana
+        sta rana_patrolu
         lda kod
         and #1
         bpl patrol
 straznik:
         lda #RANA_STRAZNIK
-        sta rana
+        sta rana_patrolu
         lda kod
         and #1
         eor #DOL
@@ -175,7 +175,7 @@ patrol: tax
         eor #1
         sta (wsk),y
         rts
-@atak:  lda rana
+@atak:  lda rana_patrolu
         jmp zran
 
 ; A little creature sleeps until the heroine comes near in its own row; then it grows and runs at her.
@@ -238,14 +238,14 @@ tropiciel:
         bcc :+
         inx
         lda #0
-:       stx kroki
+:       stx kroki_tropiciela
         jsr ustaw_licznik
 @tropem:
-        jsr zrob_krok
+        jsr krok_tropiciela
         bcc @koniec
-        dec kroki
+        dec kroki_tropiciela
         beq @koniec
-        ldx kier
+        ldx kier_tropiciela
         jsr przejdz
         jsr wywesz
         bcs @tropem
@@ -254,10 +254,11 @@ tropiciel:
 @bladzi:
         lda kod
         and #3
-        sta kier
-; A tracker's step in direction kier. C: it has gone there; else it has wounded the heroine, or turned away at random.
-zrob_krok:
-        ldx kier
+        sta kier_tropiciela
+; A tracker's step in direction kier_tropiciela. C: it has gone there; else it has wounded the heroine, or turned away at
+; random.
+krok_tropiciela:
+        ldx kier_tropiciela
         ldy sasiad,x
         jsr zbadaj
         bmi @atak
@@ -284,10 +285,10 @@ zrob_krok:
         lda kod
         and #INV
         ora #TROPICIEL
-        ora kier
+        ora kier_tropiciela
         rts
 
-; C: the scent leads on from this cell, and kier tells where to.
+; C: the scent leads on from this cell, and kier_tropiciela tells where to.
 wywesz: lda #TROP
         sta najmlodszy
         ldy #TU
@@ -296,7 +297,7 @@ wywesz: lda #TROP
         jsr @wiek
         sta najmlodszy
 :       lda #$FF
-        sta kier
+        sta kier_tropiciela
         ldx #DOL
 @strona:
         stx strona
@@ -314,11 +315,11 @@ wywesz: lda #TROP
 @tak:   lda wiek
         sta najmlodszy
         lda strona
-        sta kier
+        sta kier_tropiciela
 @nie:   ldx strona
         dex
         bpl @strona
-        lda kier
+        lda kier_tropiciela
         eor #$80
         asl                             ; C: a direction has been found
         rts

@@ -15,10 +15,10 @@ CELUJE    = 32                          ; a counter above it counts them
 ZASIEG    = 14                          ; how far a shooter sees
 
 .segment "ZEROPAGE"
-kier:   .res 1
-rana:   .res 1
+kier_strzalu: .res 1
+rana_pocisku: .res 1
 pocisk: .res 1
-kroki:  .res 1
+kroki_pocisku: .res 1
 okres:  .res 1         ; turns from one shot to the next
 widzi:  .res 1
 
@@ -31,13 +31,13 @@ promiennik:
         bcc @nie
         ldx #DOL
 @strona:
-        stx kier
+        stx kier_strzalu
         txa
         clc
         adc #PROMIEN
         ldx #RANA_PROMIEN
         jsr wystrzel
-        ldx kier
+        ldx kier_strzalu
         dex
         bpl @strona
 @nie:   rts
@@ -73,11 +73,11 @@ mrugnij:
         sta (wsk),y
         rts
 
-; Puts the missile A into the next cell in direction kier, or wounds the heroine there by X.
+; Puts the missile A into the next cell in direction kier_strzalu, or wounds the heroine there by X.
 wystrzel:
         sta pocisk
-        stx rana
-        ldx kier
+        stx rana_pocisku
+        ldx kier_strzalu
         ldy sasiad,x
         jsr zbadaj
         bmi @trafia
@@ -88,7 +88,7 @@ wystrzel:
         dzwiek EF_STRZAL
 @nic:   rts
 @trafia:
-        lda rana
+        lda rana_pocisku
         jmp zran
 
 ; A ray puts forth the next one in its first turn, and goes out after a few.
@@ -99,7 +99,7 @@ promien:
         and #$3F
         sec
         sbc #PROMIEN
-        sta kier
+        sta kier_strzalu
         lda kod
         ldx #RANA_PROMIEN
         jsr wystrzel
@@ -120,13 +120,13 @@ miotacz:
         bcc nie_strzela
         ldx #PRAWO
 @strona:
-        stx kier
+        stx kier_strzalu
         txa
         clc
         adc #STRZALKA
         ldx #RANA_STRZALKA
         jsr wystrzel
-        ldx kier
+        ldx kier_strzalu
         dex
         bpl @strona
         rts
@@ -139,7 +139,7 @@ miotnik:
 :       lda #TURY_MIOTNIKA
         jsr celuj
         bcc nie_strzela
-        lda kier
+        lda kier_strzalu
         clc
         adc #KAMYK
         ldx #RANA_KAMYK
@@ -150,7 +150,7 @@ plujka: jsr w_wierszu
         lda #TURY_PLUJKI
         jsr celuj
         bcc nie_strzela
-        lda kier
+        lda kier_strzalu
         clc
         adc #STRZALKA
         ldx #RANA_STRZALKA
@@ -189,13 +189,13 @@ celuj:  sta okres
         sec
         rts
 
-; C: the heroine is near in this row; kier then tells the side.
+; C: the heroine is near in this row; kier_strzalu then tells the side.
 w_wierszu:
         lda dorva_y
         cmp wiersz
         bne nie_widac
         lda #LEWO
-        sta kier
+        sta kier_strzalu
         lda kolumna
         sec
         sbc dorva_x
@@ -206,13 +206,13 @@ w_kolumnie:
         cmp kolumna
         bne nie_widac
         lda #GORA
-        sta kier
+        sta kier_strzalu
         lda wiersz
         sec
         sbc dorva_y
 odleglosc:
         bcs :+
-        inc kier                        ; the other side
+        inc kier_strzalu                ; the other side
         eor #$FF
         adc #1
 :       cmp #ZASIEG
@@ -226,22 +226,22 @@ nie_widac:
 ; Darts and stones fly two cells a turn and break at whatever stands in their way.
 strzalka:
         lda #RANA_STRZALKA
-        sta rana
+        sta rana_pocisku
         lda kod
         and #$3F
         sec
         sbc #STRZALKA
         bpl lot
 kamyk:  lda #RANA_KAMYK
-        sta rana
+        sta rana_pocisku
         lda kod
         and #$3F
         sec
         sbc #KAMYK
-lot:    sta kier
+lot:    sta kier_strzalu
         lda #2
-        sta kroki
-@krok:  ldx kier
+        sta kroki_pocisku
+@krok:  ldx kier_strzalu
         ldy sasiad,x
         jsr zbadaj
         bmi @trafia
@@ -249,13 +249,13 @@ lot:    sta kier
         beq @peka
         lda kod
         jsr przesun
-        ldx kier
+        ldx kier_strzalu
         jsr przejdz
-        dec kroki
+        dec kroki_pocisku
         bne @krok
         rts
 @trafia:
         jsr zwroc_pole
-        lda rana
+        lda rana_pocisku
         jmp zran
 @peka:  jmp zwroc_pole

@@ -29,7 +29,7 @@ pochodnia: .res 1
 otwarte: .res 1
 po_przeskoku: .res 1    ; this tick has spent its time on a leap
 numer:  .res 1
-miejsce: .res 2         ; the cell that set-up looks at, 0..799
+przegladane: .res 2     ; the cell that set-up looks at, 0..799
 adres:  .res 2
 w_stanie: .res 2
 
@@ -163,8 +163,8 @@ oznacz_brzeg:
 ; Finds the first heroine inside the edge and numbers the magic objects: odd, even, odd...
 spisz_plansze:
         lda #0
-        sta miejsce
-        sta miejsce+1
+        sta przegladane
+        sta przegladane+1
         sta numer
         lda #<plansza
         sta adres
@@ -194,13 +194,13 @@ spisz_plansze:
 :       inc w_stanie
         bne :+
         inc w_stanie+1
-:       inc miejsce
+:       inc przegladane
         bne :+
-        inc miejsce+1
-:       lda miejsce
+        inc przegladane+1
+:       lda przegladane
         cmp #<POLA
         bne @pole
-        lda miejsce+1
+        lda przegladane+1
         cmp #>POLA
         bne @pole
         rts
@@ -210,9 +210,9 @@ spisz_plansze:
         lda (adres),y
         and #INV
         sta dorva_inv
-        lda miejsce
+        lda przegladane
         sta dorva
-        lda miejsce+1
+        lda przegladane+1
         sta dorva+1
         bcs @dalej
 

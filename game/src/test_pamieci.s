@@ -1,13 +1,31 @@
-; The memory check: runs while the file is still loading, before the first bank is filled.
-; A machine without the four extra banks says so in one line and stays there.
+; The memory check: runs while the file is still loading, before anything else of it comes into memory.
+; It puts BASIC away, and with it the OS's screen out of the way of what follows. A machine without the four extra banks
+; says so in one line and stays there. The banks are not put back: the rest of the file fills all four of them.
 .include "atari.inc"
 .export sprawdz_pamiec
 
 LICZBA_BANKOW = 4
+EDYTOR    = 0                           ; channel 0: the screen editor
+OTWORZ    = 3
+ZAMKNIJ   = 12
+CZYTAJ_PISZ = 12
+STRONY_RAM = $C0                        ; memory ends where the OS begins
 
 .segment "TEST"
 sprawdz_pamiec:
-        ldx #LICZBA_BANKOW - 1
+        lda PORTB
+        and #BEZ_BASICA
+        bne @banki                      ; BASIC is off already
+        lda #GLOWNA
+        sta PORTB
+        sta BASICF                      ; so RESET leaves it off
+        lda #STRONY_RAM
+        sta RAMTOP
+        lda #ZAMKNIJ                    ; the screen moves to the new end of memory
+        jsr na_edytorze
+        lda #OTWORZ
+        jsr na_edytorze
+@banki: ldx #LICZBA_BANKOW - 1
 @pisz:  lda banki,x                     ; mark each bank with its own number,
         sta PORTB
         txa
@@ -35,8 +53,8 @@ sprawdz_pamiec:
 
 @brak:  lda #GLOWNA
         sta PORTB
-        ldy #komunikat_koniec - komunikat - 1
-@napis: lda komunikat,y
+        ldy #brak_pamieci_koniec - brak_pamieci - 1
+@napis: lda brak_pamieci,y
         sec
         sbc #32                         ; to screen code
         sta (SAVMSC),y
@@ -44,7 +62,22 @@ sprawdz_pamiec:
         bpl @napis
 stoj:   jmp stoj
 
+; Command A for the screen editor.
+na_edytorze:
+        ldx #EDYTOR
+        sta ICCOM,x
+        lda #<edytor
+        sta ICBAL,x
+        lda #>edytor
+        sta ICBAH,x
+        lda #CZYTAJ_PISZ
+        sta ICAX1,x
+        lda #0
+        sta ICAX2,x
+        jmp CIOV
+
+edytor: .byte "E:", $9B
 banki:  .byte BANK0, BANK1, BANK2, BANK3
-komunikat:
+brak_pamieci:
         .byte "  TA GRA WYMAGA ATARI 130XE (128 KB)"
-komunikat_koniec:
+brak_pamieci_koniec:

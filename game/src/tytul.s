@@ -9,7 +9,7 @@
 .importzp numer_etapu, napis
 .import pierwszy_etap, zacznij_muzyke, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
 .import czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
-.import t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
+.import t_cel, t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
 .import t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 
 POLE      = 8                           ; screen column of the field's column 0
@@ -19,6 +19,8 @@ PROSTO    = %1100                       ; the stick's bits for left and right
 W_LEWO    = %1000
 W_PRAWO   = %0100
 KLATKI_KROKU = 7
+PIERWSZE_POWTORZENIE = 25               ; frames that the stick is held until it counts again,
+POWTORZENIE = 5                         ; and from then on
 POSCIG    = 5                           ; the tracker's distance
 LOGO_TLO  = 3                           ; screen column of the first letter's left edge
 
@@ -42,16 +44,17 @@ litery: .byte %11110, %10001, %10001, %10001, %11110
         .byte %01110, %10001, %11111, %10001, %10001
 
 .segment "ZEROPAGE"
-wsk:    .res 2
-wiersz: .res 2
+skad_tytul: .res 2
+linijka: .res 2
 
 .segment "BSS"
 bity:   .res 1
 litera: .res 1
 rzad:   .res 1
-byl_drazek: .res 1
+drazek_tytulu: .res 1
+czekanie: .res 1        ; frames until the stick counts again
 droga:  .res 1          ; how far she has come below the logo
-klatki: .res 1          ; frames until her next step
+do_kroku: .res 1        ; frames until her next step
 parzyste: .res 1        ; the two tiles of the frame
 nieparzyste: .res 1
 poczatek: .res 1
@@ -62,11 +65,11 @@ poczatek: .res 1
 tytul:  lda pierwszy_etap
         sta numer_etapu
         lda #1
-        sta klatki
+        sta do_kroku
         lda #0
         sta droga
         lda #PROSTO
-        sta byl_drazek
+        sta drazek_tytulu
         jsr zacznij_muzyke
 @od_nowa:
         jsr rysuj_tytul
@@ -79,9 +82,15 @@ tytul:  lda pierwszy_etap
 @drazek:
         lda STICK0
         and #PROSTO
-        cmp byl_drazek
-        beq @czekaj
-        sta byl_drazek
+        ldx #PIERWSZE_POWTORZENIE
+        cmp drazek_tytulu
+        bne @liczy_sie
+        dec czekanie
+        bne @czekaj
+        ldx #POWTORZENIE
+@liczy_sie:
+        stx czekanie
+        sta drazek_tytulu
         cmp #W_LEWO
         beq @wstecz
         cmp #W_PRAWO
@@ -112,10 +121,11 @@ rysuj_tytul:
         jsr dwie_cyfry
         stx ekran + 7 * 40 + 21
         sta ekran + 7 * 40 + 22
-        pisz_w 9, t_grasz
-        pisz_w 11, t_klawisze1
-        pisz_w 12, t_klawisze2
-        pisz_w 13, t_klawisze3
+        pisz_w 9, t_cel
+        pisz_w 10, t_grasz
+        pisz_w 12, t_klawisze1
+        pisz_w 13, t_klawisze2
+        pisz_w 14, t_klawisze3
         jmp pokaz_tekst
 
 ; Game over.
@@ -203,9 +213,9 @@ rysuj_logo:
         dex
         bpl @ramka
         lda #<(logo + 2 * 40 + LOGO_TLO)
-        sta wiersz
+        sta linijka
         lda #>(logo + 2 * 40 + LOGO_TLO)
-        sta wiersz+1
+        sta linijka+1
         lda #0
         sta rzad
 @rzad:  lda #0
@@ -227,7 +237,7 @@ rysuj_logo:
 @bit:   asl bity
         bcc :+
         lda #BLOK
-        sta (wiersz),y
+        sta (linijka),y
 :       iny
         tya
         sec
@@ -241,11 +251,11 @@ rysuj_logo:
         cmp #5
         bne @litera
         clc
-        lda wiersz
+        lda linijka
         adc #40
-        sta wiersz
+        sta linijka
         bcc :+
-        inc wiersz+1
+        inc linijka+1
 :       inc rzad
         lda rzad
         cmp #5
@@ -254,10 +264,10 @@ rysuj_logo:
 
 ; Below the name the heroine goes her way, and a tracker goes it after her.
 idz_pod_logo:
-        dec klatki
+        dec do_kroku
         bne @nic
         lda #KLATKI_KROKU
-        sta klatki
+        sta do_kroku
         ldx droga
         inx
         cpx #40 + POSCIG
@@ -283,53 +293,53 @@ idz_pod_logo:
 ; Writes the three lines, each from its start column on, up to the first 155.
 pisz_linie:
         lda #<tytuly
-        sta wsk
+        sta skad_tytul
         lda #>tytuly
-        sta wsk+1
+        sta skad_tytul+1
         lda #<(ekran + 1 * 40 + POLE)
-        sta wiersz
+        sta linijka
         lda #>(ekran + 1 * 40 + POLE)
-        sta wiersz+1
+        sta linijka+1
         ldx #LINIE
 @linia: ldy #0
-        lda (wsk),y
+        lda (skad_tytul),y
         clc
-        adc wiersz                      ; the column, less one for the byte in front of the text
-        sta wiersz
+        adc linijka                     ; the column, less one for the byte in front of the text
+        sta linijka
         bcc :+
-        inc wiersz+1
-:       lda wiersz
+        inc linijka+1
+:       lda linijka
         bne :+
-        dec wiersz+1
-:       dec wiersz
+        dec linijka+1
+:       dec linijka
         iny
-@znak:  lda (wsk),y
+@znak:  lda (skad_tytul),y
         cmp #TYTUL_KONIEC
         beq @koniec
-        sta (wiersz),y
+        sta (linijka),y
         iny
         cpy #TYTUL_BAJTY
         bne @znak
 @koniec:
         ldy #0
         sec                             ; back to the left edge, two screen lines down
-        lda wiersz
-        sbc (wsk),y
-        sta wiersz
+        lda linijka
+        sbc (skad_tytul),y
+        sta linijka
         bcs :+
-        dec wiersz+1
+        dec linijka+1
 :       clc
-        lda wiersz
+        lda linijka
         adc #81
-        sta wiersz
+        sta linijka
         bcc :+
-        inc wiersz+1
+        inc linijka+1
 :       clc
-        lda wsk
+        lda skad_tytul
         adc #TYTUL_BAJTY
-        sta wsk
+        sta skad_tytul
         bcc :+
-        inc wsk+1
+        inc skad_tytul+1
 :       dex
         bne @linia
         rts

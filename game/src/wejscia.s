@@ -15,7 +15,7 @@ CO_NACZYNIE = 15
 .segment "ZEROPAGE"
 parzysty: .res 1        ; the magic object is the second of its pair
 pozycja: .res 1         ; low byte of the cell that is looked at
-tu:      .res 2
+wsk_magii: .res 2
 
 .segment "RODATA"
 ; what happens at a step to each tile
@@ -238,18 +238,18 @@ magiczny:
         tay
         lda dorva+1
         adc #>plansza
-        sta tu+1
+        sta wsk_magii+1
         lda #0
-        sta tu
+        sta wsk_magii
         lda parzysty
         bne @wstecz
-@dalej: iny                             ; tu and Y: the cell that is looked at
+@dalej: iny                             ; wsk_magii and Y: the cell that is looked at
         bne :+
-        inc tu+1
-        lda tu+1
+        inc wsk_magii+1
+        lda wsk_magii+1
         cmp #>(plansza + POLA) + 1
         bcs @nie_ma
-:       lda (tu),y
+:       lda (wsk_magii),y
         and #$7F
         cmp #MAGICZNY
         bne @dalej
@@ -260,11 +260,11 @@ magiczny:
         dey
         cpy #$FF
         bne :+
-        dec tu+1
-        lda tu+1
+        dec wsk_magii+1
+        lda wsk_magii+1
         cmp #>plansza
         bcc @nie_ma
-:       lda (tu),y
+:       lda (wsk_magii),y
         and #$7F
         cmp #MAGICZNY
         bne @wstecz
@@ -273,10 +273,10 @@ magiczny:
 @nie_ma:
         rts
 
-; Takes her to the cell at tu + Y. C = 0: it is none inside the edge. Keeps Y.
+; Takes her to the cell at wsk_magii + Y. C = 0: it is none inside the edge. Keeps Y.
 przenies:
         sty pozycja
-        lda tu+1
+        lda wsk_magii+1
         sec
         sbc #>plansza
         tax
@@ -295,7 +295,7 @@ przenies:
         sta (wpod),y
         lda pozycja
         sta dorva
-        lda tu+1
+        lda wsk_magii+1
         sec
         sbc #>plansza
         sta dorva+1

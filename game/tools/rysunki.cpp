@@ -83,9 +83,11 @@ Rysunki parseRysunki(Zrodlo z) {
             z.fail("the tile \"" + title + "\" should stand here");
         rysunki.ksztalty[i] = takeRysunek(z, rysunki, static_cast<int>(i));
     }
-    if (z.take() != "obcy")
-        z.fail("the drawing \"obcy\" should stand here");
-    rysunki.obcy = takeKsztalt(z);
+    for (const auto& [nazwa, ksztalt] : {std::pair{"otwarte", &rysunki.otwarte}, {"obcy", &rysunki.obcy}}) {
+        if (z.take() != nazwa)
+            z.fail("the drawing \"" + std::string(nazwa) + "\" should stand here");
+        *ksztalt = takeKsztalt(z);
+    }
     if (!z.atEnd()) {
         z.take();
         z.fail("nothing should stand behind the last drawing");
@@ -96,7 +98,9 @@ Rysunki parseRysunki(Zrodlo z) {
 Bajty BuildZnaki(const Rysunki& rysunki) {
     Bajty bytes;
     for (std::size_t code = 0; bytes.size() < ZNAKI_SIZE_BYTES; ++code)
-        for (const auto& row : code < ZNAKI_COUNT ? rysunki.ksztalty[code] : rysunki.obcy)
+        for (const auto& row : code < ZNAKI_COUNT    ? rysunki.ksztalty[code]
+                               : code == ZNAKI_COUNT ? rysunki.otwarte
+                                                     : rysunki.obcy)
             bytes.push_back(static_cast<Bajt>(row[0] << 6 | row[1] << 4 | row[2] << 2 | row[3]));
     return bytes;
 }

@@ -18,6 +18,7 @@ using Ksztalt = std::array<std::array<Bajt, KSZTALT_COLUMNS>, KSZTALT_ROWS>;
 
 struct Rysunki {
     std::array<Ksztalt, ZNAKI_COUNT> ksztalty{};
+    Ksztalt otwarte{};                            // the exit when it is open
     Ksztalt obcy{};                               // what the codes 64..127, which are no tiles, look like
     std::array<Bajt, KOLORY_SIZE_BYTES> kolory{}; // in the order of the colour file
 };

@@ -1,0 +1,168 @@
+; The heroine's overlay: two players lie over her cell, so she has colours of her own on any board. The board keeps its
+; bytes. One player is her dress and hair, the other one her skin; their pixels are as large as those of a tile.
+.include "atari.inc"
+.include "reguly.inc"
+.export pokaz_nakladke, rysuj_nakladke, mrugnij_nakladka, schowaj_nakladke
+.importzp dorva, dorva_x, dorva_y, zegar, ochrona
+.import plansza
+
+PIERWSZA_LINIA = 36                     ; scan line of the board's first row
+LEWY_BRZEG = 48                         ; colour clock of its first column
+SUKNIA    = $5A
+BIEL      = $0E                         ; while she flickers
+CERA      = $2C
+WYS       = 8
+
+; Players at single-line resolution. ANTIC would find the missiles at the end of the board; none are on show.
+.segment "GRACZE"
+gracz0: .res 256
+gracz1: .res 256
+
+.segment "BSS"
+linia:  .res 1          ; where she has been drawn
+
+.segment "RODATA"
+; a shape: eight rows, on the left the pixels of the dress, on the right those of the skin
+stojaca:   .byte %01100000, %10010110, %10010110, %01100000, %01101001, %01100000, %11110000, %00000110
+krzyczy: .byte %01101001, %00001111, %10010110, %10011001, %01100000, %01100000, %11110000, %00001001
+oczy:   .byte %00000000, %01100000, %10010110, %10010110, %00000000, %00000000, %00000000, %00000000
+pachy:  .byte %01100000, %10010110, %10010110, %01100000, %01101001, %00000000, %00000000, %00000000
+kolana: .byte %01100000, %10010110, %10010110, %01100000, %01101001, %01100000, %00000000, %00000000
+; each way in two frames
+w_dol:  .byte %01100000, %10010110, %10010110, %01100000, %01100001, %01101000, %11110000, %00000100
+        .byte %01100000, %10010110, %10010110, %01100000, %01101000, %01100001, %11110000, %00000010
+w_prawo: .byte %01100000, %11000011, %11000011, %01100000, %01100001, %01100000, %11110000, %00001001
+        .byte %01100000, %11000011, %11000011, %01100000, %01000010, %01110000, %11110000, %10010110
+w_lewo: .byte %01100000, %00111100, %00111100, %01100000, %01101000, %01100000, %11110000, %00001001
+        .byte %01100000, %00111100, %00111100, %01100000, %00100100, %11100000, %11110000, %10010110
+w_gore: .byte %01100000, %11110000, %11110000, %01100000, %01100001, %01101000, %11110000, %00000010
+        .byte %01100000, %11110000, %11110000, %01100000, %01101000, %01100001, %11110000, %00000100
+ksztalty = stojaca
+; by code, from PO_OCZY on; the frames of a walk follow each other
+wzory:  .byte oczy - ksztalty, pachy - ksztalty, kolana - ksztalty, stojaca - ksztalty
+        .res KRZYCZY - PO_BAGNIE - 1, 0
+        .byte krzyczy - ksztalty, w_dol - ksztalty, w_prawo - ksztalty, w_lewo - ksztalty, w_gore - ksztalty
+        .byte stojaca - ksztalty
+        .assert * - wzory = DORVA - PO_OCZY + 1, error, "a shape for each of her pictures"
+        .assert w_gore + 2 * WYS - ksztalty <= 256, error, "shapes within an index"
+
+.segment "CODE"
+
+; Begins to show her.
+pokaz_nakladke:
+        lda #>gracz0 - 4                ; players begin a kilobyte behind the base
+        sta PMBASE
+        lda #0
+        tax
+@czysc: sta gracz0,x
+        sta gracz1,x
+        inx
+        bne @czysc
+        sta linia
+        sta SIZEP0
+        sta SIZEP0+1
+        lda #1                          ; players in front of the board
+        sta GPRIOR
+        lda #2
+        sta GRACTL
+        jmp rysuj_nakladke
+
+; Blinks, so that nobody has to look for her: one frame of it.
+mrugnij_nakladka:
+        lda RTCLOK+2
+        and #8
+        beq @biel
+        ldx #SUKNIA
+        ldy #CERA
+        bne @barwy
+@biel:  ldx #BIEL
+        ldy #BIEL
+@barwy: stx PCOLR0
+        sty PCOLR0+1
+        rts
+
+; Takes her off the screen.
+schowaj_nakladke:
+        lda #0
+        sta HPOSP0
+        sta HPOSP0+1
+        sta GRACTL
+        sta GRAFP0
+        sta GRAFP0+1
+        rts
+
+; Lays the overlay where she is now.
+rysuj_nakladke:
+        ldx linia
+        ldy #WYS
+        lda #0
+@zmaz:  sta gracz0,x
+        sta gracz1,x
+        inx
+        dey
+        bne @zmaz
+        lda dorva_y
+        asl
+        asl
+        asl
+        adc #PIERWSZA_LINIA
+        sta linia
+        lda dorva_x
+        asl
+        asl
+        adc #LEWY_BRZEG
+        sta HPOSP0
+        sta HPOSP0+1
+        ldx #CERA
+        stx PCOLR0+1
+        ldx #SUKNIA
+        lda ochrona
+        and #4
+        beq :+
+        ldx #BIEL
+:       stx PCOLR0
+        lda dorva
+        sta wsk_nakladki
+        lda dorva+1
+        clc
+        adc #>plansza
+        sta wsk_nakladki+1
+        ldy #0
+        lda (wsk_nakladki),y
+        and #$3F
+        sec
+        sbc #PO_OCZY
+        tax
+        lda wzory,x
+        cpx #IDZIE_DOL - PO_OCZY
+        bcc @jest
+        cpx #DORVA - PO_OCZY
+        bcs @jest
+        tay
+        lda zegar                       ; the feet change at each step
+        lsr
+        tya
+        bcc @jest
+        adc #WYS - 1                    ; carry is set
+@jest:  tay
+        ldx linia
+        lda #WYS
+        sta wiersze
+@rysuj: lda ksztalty,y
+        and #$F0
+        sta gracz0,x
+        lda ksztalty,y
+        asl
+        asl
+        asl
+        asl
+        sta gracz1,x
+        iny
+        inx
+        dec wiersze
+        bne @rysuj
+        rts
+
+.segment "ZEROPAGE"
+wsk_nakladki:     .res 2
+wiersze: .res 1
