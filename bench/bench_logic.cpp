@@ -147,6 +147,7 @@ void BM_SwitchPlain(benchmark::State& state) {
     Praca praca;
     Bajty bytes(ETAP_SIZE_BYTES);
     for (auto _ : state) {
+        plainRead(sciezki::etap(praca.base, 1), bytes); // what is about to be overwritten
         plainWrite(sciezki::etap(praca.base, 1), bytes);
         plainRead(sciezki::etap(praca.base, 2), bytes);
     }
@@ -166,8 +167,15 @@ struct Wywolania {
     Bajty etap = Bajty(ETAP_SIZE_BYTES), autor = Bajty(AUTOR_GRY_SIZE_BYTES), gra = Bajty(GRA_SIZE_BYTES);
     Bajty archiwum = Bajty(ARCHIWUM_SIZE_BYTES);
 
+    void rewriteEtap(int number) {
+        readEtap(number); // what is about to be overwritten
+        writeEtap(number);
+    }
+    void rewriteAutor() {
+        plainRead(praca.base / sciezki::AUTOR_GRY, autor);
+        plainWrite(praca.base / sciezki::AUTOR_GRY, autor);
+    }
     void writeEtap(int number) { plainWrite(sciezki::etap(praca.base, number), etap); }
-    void writeAutor() { plainWrite(praca.base / sciezki::AUTOR_GRY, autor); }
     void writeTest() { plainWrite(praca.base / sciezki::TEST_XEX, gra); }
     void writeChosen(const Bajty& bytes) { plainWrite(praca.base / "wynik", bytes); }
     void readEtap(int number) { plainRead(sciezki::etap(praca.base, number), etap); }
@@ -181,7 +189,7 @@ struct Wywolania {
 void BM_GameBuildPlain(benchmark::State& state) {
     Wywolania w;
     for (auto _ : state) {
-        w.writeEtap(1);
+        w.rewriteEtap(1);
         w.readTemplate();
         w.everyEtap(&Wywolania::readEtap);
         w.writeChosen(w.gra);
@@ -202,8 +210,8 @@ BENCHMARK(BM_TestBuildPlain)->UseRealTime();
 void BM_ArchiveSavePlain(benchmark::State& state) {
     Wywolania w;
     for (auto _ : state) {
-        w.writeEtap(1);
-        w.writeAutor();
+        w.rewriteEtap(1);
+        w.rewriteAutor();
         w.everyEtap(&Wywolania::readEtap);
         w.writeChosen(w.archiwum);
     }
@@ -216,7 +224,7 @@ void BM_ArchiveLoadPlain(benchmark::State& state) {
     for (auto _ : state) {
         plainRead(w.praca.base / "wynik", w.archiwum);
         w.everyEtap(&Wywolania::writeEtap);
-        w.writeAutor();
+        w.rewriteAutor();
         w.readEtap(1);
     }
 }

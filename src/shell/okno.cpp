@@ -2,12 +2,6 @@
 
 namespace dorva {
 
-std::string infoCaption(info::Figura figura, int liczba) {
-    if (figura == info::DORVA || figura == info::WYJSCIE)
-        return liczba > 0 ? "ok" : "!";
-    return std::to_string(liczba);
-}
-
 Okno defaultOkno() {
     Okno okno;
     for (int i = 0; i < PLANSZA_CELLS; ++i) {

@@ -1,65 +1,13 @@
 // The main window and the palette dialog as a plain record: what the controls hold, no behaviour.
 #pragma once
 
-#include "board/znak.h"
-#include "podstawy.h"
-#include "stage/tekst.h"
-#include "tiles/obraz.h"
+#include "shell/wartosci.h"
 
 #include <array>
 #include <string>
 #include <string_view>
 
 namespace dorva {
-
-// A tile on show: its code and its picture, which may lag behind the code.
-struct PokazanyZnak {
-    Znak znak = NIC;
-    ObrazRef obraz{};
-    bool operator==(const PokazanyZnak&) const = default;
-};
-
-using Plansza = std::array<PokazanyZnak, PLANSZA_CELLS>;
-
-// A slot of the tile picker.
-struct ZnakSlot : PokazanyZnak {
-    bool enabled = true;
-};
-
-// A figure of the panel: a count, or 0 and 1 for what is only there or not.
-struct InfoFigura {
-    int liczba = 0;
-    bool czerwona = false;
-    bool operator==(const InfoFigura&) const = default;
-};
-
-// The census of the board, and the goal.
-using EtapInfo = std::array<InfoFigura, info::COUNT>;
-
-// What the panel writes for a figure: "!" and "ok", or the number.
-std::string infoCaption(info::Figura, int liczba);
-
-// A text box. `zaznaczenia` counts the requests to select the whole text.
-struct PoleTekstu {
-    Tekst tekst;
-    unsigned zaznaczenia = 0;
-};
-
-// A colour register of the stage and its swatch.
-struct KolorSlot {
-    Bajt value = 0;
-    Rgb tlo{};
-    bool wybrany = false; // its text is light red instead of white
-    bool operator==(const KolorSlot&) const = default;
-};
-
-// The palette dialog: 128 cells of the even colour values, and the preview.
-struct OknoPalety {
-    bool otwarte = false;
-    std::array<Rgb, 128> picPaleta{};
-    Rgb picWybrany{};
-    std::string lblWybrany = "0";
-};
 
 // The texts of a new window; the description is a credit line.
 inline constexpr std::string_view NAZWA_DOMYSLNA = "           POWODZENIA!          ";
