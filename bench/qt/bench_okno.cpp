@@ -3,7 +3,7 @@
 #include "edytor.h"
 #include "qt/aplikacja.h"
 #include "qt/okno_glowne.h"
-#include "qt/pola_znakow.h"
+#include "qt/widoki_znakow.h"
 #include "shell/start.h"
 #include "tiles/zestaw.h"
 

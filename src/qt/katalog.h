@@ -8,7 +8,7 @@ namespace dorva {
 
 enum class Rodzaj {
     Ramka,    // a frame with a caption
-    Pole,     // a grey field without a border
+    Podklad,  // a grey field without a border
     Przycisk, // a button
     Opcja,    // a button that stays down while selected
     Znacznik, // a check box
@@ -16,8 +16,8 @@ enum class Rodzaj {
     Figura,   // a label with a thin border, centred
     Probka,   // a swatch: a bold figure on its colour, with a thin border
     Nazwa,    // a label, right-aligned
-    Pasek,    // a horizontal scroll bar
-    Tekst,    // a text box
+    Suwak,    // a horizontal scroll bar
+    Pole,     // a text box
     Obraz,    // the picture of one tile
     Plansza,  // the board
     Wybor,    // the tile picker

@@ -111,7 +111,7 @@ void Etykieta::mouseReleaseEvent(QMouseEvent* event) {
         onClick();
 }
 
-void Figura::paintEvent(QPaintEvent* event) {
+void EtykietaObramowana::paintEvent(QPaintEvent* event) {
     Etykieta::paintEvent(event);
     QPainter painter(this);
     painter.setPen(Qt::black);
@@ -126,10 +126,10 @@ void ProbkaKoloru::paintEvent(QPaintEvent* event) {
     for (QPoint offset : AROUND)
         painter.drawText(contentsRect().translated(offset), Qt::AlignCenter, text());
     painter.end();
-    Figura::paintEvent(event);
+    EtykietaObramowana::paintEvent(event);
 }
 
-void Pasek::keyPressEvent(QKeyEvent* event) {
+void Suwak::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Left)
         triggerAction(SliderSingleStepSub);
     else if (event->key() == Qt::Key_Right)

@@ -51,8 +51,8 @@ private:
     bool pressed_ = false;
 };
 
-// A figure in a thin black border, whatever the colour of its text.
-class Figura : public Etykieta {
+// A label in a thin black border, whatever the colour of its text.
+class EtykietaObramowana : public Etykieta {
 public:
     using Etykieta::Etykieta;
 
@@ -61,18 +61,18 @@ protected:
 };
 
 // A swatch: its figure has a dark outline, so that white is read on light colours too.
-class ProbkaKoloru : public Figura {
+class ProbkaKoloru : public EtykietaObramowana {
 public:
-    using Figura::Figura;
+    using EtykietaObramowana::EtykietaObramowana;
 
 protected:
     void paintEvent(QPaintEvent*) override;
 };
 
 // A horizontal scroll bar whose Left key goes left: a bar of its own does the opposite.
-class Pasek : public QScrollBar {
+class Suwak : public QScrollBar {
 public:
-    explicit Pasek(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {}
+    explicit Suwak(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {}
 
 protected:
     void keyPressEvent(QKeyEvent*) override;

@@ -26,12 +26,12 @@ QLabel* addLabel(QWidget* parent, const QString& name, const QString& text, QRec
 }
 
 // A field of one colour within a thin border.
-Figura* addPole(QWidget* parent, const QString& name, QRect place) {
-    auto* pole = new Figura(parent);
-    pole->setObjectName(name);
-    pole->setGeometry(place);
-    pole->setAutoFillBackground(true);
-    return pole;
+EtykietaObramowana* addBarwa(QWidget* parent, const QString& name, QRect place) {
+    auto* barwa = new EtykietaObramowana(parent);
+    barwa->setObjectName(name);
+    barwa->setGeometry(place);
+    barwa->setAutoFillBackground(true);
+    return barwa;
 }
 
 } // namespace
@@ -47,8 +47,8 @@ PaletaOkno::PaletaOkno(QWidget* parent)
     fraPaleta->setGeometry(FRA_PALETA);
     const QCursor hand = kursorPalety();
     for (int i = 0; i < COLUMNS * ROWS; ++i) {
-        Figura* cell = addPole(fraPaleta, QString("picPaleta(%1)").arg(i),
-                               {i % COLUMNS * CELL_PITCH, i / COLUMNS * CELL_PITCH, CELL_SIDE, CELL_SIDE});
+        EtykietaObramowana* cell = addBarwa(fraPaleta, QString("picPaleta(%1)").arg(i),
+                                            {i % COLUMNS * CELL_PITCH, i / COLUMNS * CELL_PITCH, CELL_SIDE, CELL_SIDE});
         cell->setToolTip(toQString(kolorText(2 * i)));
         cell->setCursor(hand);
         cell->onClick = [this, i] { onPick(i); };
@@ -62,7 +62,7 @@ PaletaOkno::PaletaOkno(QWidget* parent)
         addLabel(this, QString("lblPaleta(%1)").arg(COLUMNS + r), digit(r),
                  {0, FRA_PALETA.top() + CELL_PITCH * r, CELL_SIDE, CELL_SIDE});
 
-    picWybrany_ = addPole(this, "picWybrany", PIC_WYBRANY);
+    picWybrany_ = addBarwa(this, "picWybrany", PIC_WYBRANY);
     lblWybrany_ = addLabel(this, "lblWybrany", "0", LBL_WYBRANY);
     lblWybrany_->setFrameStyle(QFrame::Box | QFrame::Plain);
 

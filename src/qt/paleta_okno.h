@@ -13,7 +13,7 @@ class QLabel;
 
 namespace dorva {
 
-class Figura;
+class EtykietaObramowana;
 
 class PaletaOkno : public QDialog {
 public:
@@ -25,7 +25,7 @@ public:
     void showOkno(const OknoPalety&);
 
 private:
-    std::array<Figura*, 128> picPaleta_{};
+    std::array<EtykietaObramowana*, 128> picPaleta_{};
     std::array<std::optional<Rgb>, 128> shown_; // the colours of the cells
     QWidget* picWybrany_;
     QLabel* lblWybrany_;

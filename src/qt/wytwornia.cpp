@@ -1,8 +1,8 @@
 #include "qt/wytwornia.h"
 
 #include "qt/kontrolki.h"
-#include "qt/pola_znakow.h"
 #include "qt/przeklad.h"
+#include "qt/widoki_znakow.h"
 #include "stage/etap_image.h"
 
 #include <QCheckBox>
@@ -23,11 +23,11 @@ QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
     switch (k.rodzaj) {
     case Rodzaj::Ramka:
         return new Ramka(toQString(k.caption), parent);
-    case Rodzaj::Pole: {
-        auto* pole = new QWidget(parent);
-        pole->setAutoFillBackground(true);
-        setColour(pole, QPalette::Window, QColor::fromRgb(SZARY));
-        return pole;
+    case Rodzaj::Podklad: {
+        auto* podklad = new QWidget(parent);
+        podklad->setAutoFillBackground(true);
+        setColour(podklad, QPalette::Window, QColor::fromRgb(SZARY));
+        return podklad;
     }
     case Rodzaj::Przycisk: {
         auto* przycisk = new Przycisk(toQString(k.caption), parent);
@@ -52,7 +52,7 @@ QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
         return label;
     }
     case Rodzaj::Figura: {
-        auto* label = makeLabel<Figura>(k, parent);
+        auto* label = makeLabel<EtykietaObramowana>(k, parent);
         label->setAutoFillBackground(true); // so that nothing below is painted anew with it
         return label;
     }
@@ -62,15 +62,15 @@ QWidget* makeWidget(const Kontrolka& k, QWidget* parent) {
         label->setFont(fontFigury());
         return label;
     }
-    case Rodzaj::Pasek: {
-        auto* pasek = new Pasek(parent);
-        pasek->setRange(CEL_MIN, CEL_MAX);
-        pasek->setPageStep(1);
-        pasek->setTracking(false);
-        pasek->setFocusPolicy(Qt::StrongFocus);
-        return pasek;
+    case Rodzaj::Suwak: {
+        auto* suwak = new Suwak(parent);
+        suwak->setRange(CEL_MIN, CEL_MAX);
+        suwak->setPageStep(1);
+        suwak->setTracking(false);
+        suwak->setFocusPolicy(Qt::StrongFocus);
+        return suwak;
     }
-    case Rodzaj::Tekst: {
+    case Rodzaj::Pole: {
         auto* box = new PoleEdycji(parent);
         box->setFont(fontStaly());
         return box;

@@ -1,4 +1,4 @@
-#include "qt/pola_znakow.h"
+#include "qt/widoki_znakow.h"
 
 #include "board/plansza.h"
 #include "qt/kursory.h"
