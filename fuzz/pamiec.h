@@ -2,99 +2,115 @@
 // disk. One call can be made to fail.
 #pragma once
 
-#include "podstawy.h"
+#include "system/pliki.h"
 #include "system/system_plikow.h"
 
-#include <cerrno>
-#include <fcntl.h>
+#include <algorithm>
 #include <map>
 #include <memory>
+#include <string>
 
 namespace dorva::fuzz {
+
+using Sciezka = SystemPlikow::Sciezka;
 
 struct Pamiec {
     struct Otwarty {
         std::shared_ptr<Bajty> plik;
         std::size_t at = 0;
     };
-    std::map<std::string, std::shared_ptr<Bajty>, std::less<>> pliki;
+    std::map<std::string, std::shared_ptr<Bajty>> pliki;
     std::vector<Otwarty> otwarte;
     int failAt = 0; // the failing call, counted down from now; 0: none
 
-    int fails() { return failAt > 0 && --failAt == 0 ? (errno = EIO, -1) : 0; }
-    std::shared_ptr<Bajty> find(const char* path) {
-        const auto found = pliki.find(std::string_view(path));
+    bool fails() { return failAt > 0 && --failAt == 0; }
+    Wynik answer() { return fails() ? Wynik::Blad : Wynik::Ok; }
+    std::shared_ptr<Bajty> find(const Sciezka& path) {
+        const auto found = pliki.find(path.native());
         return found == pliki.end() ? nullptr : found->second;
     }
+    Otwarty& at(Uchwyt file) { return otwarte[static_cast<std::size_t>(file)]; }
     void put(const std::string& path, Bajty bytes) { pliki[path] = std::make_shared<Bajty>(std::move(bytes)); }
 };
 
 inline Pamiec pamiec;
 
-inline int describe(const std::shared_ptr<Bajty>& plik, struct ::stat* info) {
+inline Wynik describe(const std::shared_ptr<Bajty>& plik, OpisPliku& opis) {
+    if (pamiec.fails())
+        return Wynik::Blad;
     if (!plik)
-        return errno = ENOENT, -1;
-    *info = {};
-    info->st_mode = S_IFREG | 0644;
-    info->st_size = static_cast<::off_t>(plik->size());
-    info->st_ino = reinterpret_cast<::ino_t>(plik.get());
-    return 0;
+        return Wynik::NieMa;
+    opis = {};
+    opis.rodzaj = RodzajPliku::Zwykly;
+    opis.length = plik->size();
+    opis.number = reinterpret_cast<std::uintptr_t>(plik.get());
+    return Wynik::Ok;
 }
 
-inline int statPath(const char* path, struct ::stat* info) {
-    return pamiec.fails() ? -1 : describe(pamiec.find(path), info);
+inline Wynik statPath(const Sciezka& path, OpisPliku& opis) {
+    return describe(pamiec.find(path), opis);
 }
 
-inline int openPath(const char* path, int flags, ::mode_t) {
+inline Wynik openPath(const Sciezka& path, Otwarcie otwarcie, Uchwyt& file) {
     if (pamiec.fails())
-        return -1;
+        return Wynik::Blad;
     auto plik = pamiec.find(path);
-    if (!plik && (flags & O_DIRECTORY) == 0) {
-        if ((flags & O_CREAT) == 0)
-            return errno = ENOENT, -1;
-        plik = pamiec.pliki[path] = std::make_shared<Bajty>();
+    if (!plik) {
+        if (otwarcie != Otwarcie::Utworzenie && otwarcie != Otwarcie::Nowy)
+            return Wynik::NieMa;
+        plik = pamiec.pliki[path.native()] = std::make_shared<Bajty>();
     }
+    if (otwarcie == Otwarcie::OdNowa)
+        plik->clear();
+    file = Uchwyt{static_cast<std::intptr_t>(pamiec.otwarte.size())};
     pamiec.otwarte.push_back({plik});
-    return static_cast<int>(pamiec.otwarte.size()) - 1;
+    return Wynik::Ok;
 }
 
-inline ::ssize_t readFile(int file, void* bytes, std::size_t count) {
+inline Wynik readFile(Uchwyt file, std::span<Bajt> bytes, std::size_t& count) {
     if (pamiec.fails())
-        return -1;
-    auto& [plik, at] = pamiec.otwarte[static_cast<std::size_t>(file)];
-    count = std::min(count, plik->size() - at);
-    std::copy_n(plik->begin() + static_cast<std::ptrdiff_t>(at), count, static_cast<Bajt*>(bytes));
+        return Wynik::Blad;
+    auto& [plik, at] = pamiec.at(file);
+    count = std::min(bytes.size(), plik->size() - at);
+    std::copy_n(plik->begin() + static_cast<std::ptrdiff_t>(at), count, bytes.begin());
     at += count;
-    return static_cast<::ssize_t>(count);
+    return Wynik::Ok;
 }
 
-inline ::ssize_t writeFile(int file, const void* bytes, std::size_t count) {
+inline Wynik writeFile(Uchwyt file, std::span<const Bajt> bytes, std::size_t& count) {
     if (pamiec.fails())
-        return -1;
-    Bajty& plik = *pamiec.otwarte[static_cast<std::size_t>(file)].plik;
-    plik.insert(plik.end(), static_cast<const Bajt*>(bytes), static_cast<const Bajt*>(bytes) + count);
-    return static_cast<::ssize_t>(count);
+        return Wynik::Blad;
+    auto& [plik, at] = pamiec.at(file);
+    plik->resize(std::max(plik->size(), at + bytes.size()));
+    std::ranges::copy(bytes, plik->begin() + static_cast<std::ptrdiff_t>(at));
+    at += count = bytes.size();
+    return Wynik::Ok;
 }
 
-inline int moveName(const char* from, const char* to) {
-    if (pamiec.fails())
-        return -1;
-    pamiec.pliki[to] = pamiec.find(from);
-    pamiec.pliki.erase(from);
-    return 0;
+inline Wynik closeFile(Uchwyt file) {
+    if (static_cast<std::size_t>(file) + 1 == pamiec.otwarte.size())
+        pamiec.otwarte.pop_back();
+    return pamiec.answer();
 }
 
-inline int linkName(const char* from, const char* to) {
+inline Wynik linkName(const Sciezka& from, const Sciezka& to) {
     if (pamiec.fails())
-        return -1;
-    pamiec.pliki[to] = pamiec.find(from);
-    return 0;
+        return Wynik::Blad;
+    pamiec.pliki[to.native()] = pamiec.find(from);
+    return Wynik::Ok;
 }
 
-inline int removeName(const char* path) {
+inline Wynik moveName(const Sciezka& from, const Sciezka& to) {
+    const Wynik wynik = linkName(from, to);
+    if (wynik == Wynik::Ok)
+        pamiec.pliki.erase(from.native());
+    return wynik;
+}
+
+inline Wynik removeName(const Sciezka& path) {
     if (pamiec.fails())
-        return -1;
-    return pamiec.pliki.erase(path) == 1 ? 0 : (errno = ENOENT, -1);
+        return Wynik::Blad;
+    return pamiec.pliki.erase(path.native()) == 1 ? Wynik::Ok : Wynik::NieMa;
 }
 
 inline const SystemPlikow* systemPamieci() {
@@ -102,27 +118,18 @@ inline const SystemPlikow* systemPamieci() {
         .open = openPath,
         .read = readFile,
         .write = writeFile,
-        .fsync = [](int) { return pamiec.fails(); },
-        .close =
-            [](int file) {
-                if (file + 1 == static_cast<int>(pamiec.otwarte.size()))
-                    pamiec.otwarte.pop_back();
-                return pamiec.fails();
-            },
-        .rename = moveName,
-        .link = linkName,
-        .unlink = removeName,
+        .flush = [](Uchwyt) { return pamiec.answer(); },
+        .close = closeFile,
+        .describe = [](Uchwyt file, OpisPliku& opis) { return describe(pamiec.at(file).plik, opis); },
+        .setMode = [](Uchwyt, unsigned) { return pamiec.answer(); },
         .stat = statPath,
         .lstat = statPath,
-        .fstat =
-            [](int file, struct ::stat* info) {
-                return pamiec.fails() ? -1 : describe(pamiec.otwarte[static_cast<std::size_t>(file)].plik, info);
-            },
-        .fchmod = [](int, ::mode_t) { return pamiec.fails(); },
-        .readlink = [](const char*, char*, std::size_t) -> ::ssize_t { return errno = EINVAL, -1; },
-        .opendir = [](const char*) -> ::DIR* { return errno = ENOENT, nullptr; },
-        .readdir = [](::DIR*) -> ::dirent* { return nullptr; },
-        .closedir = [](::DIR*) { return 0; },
+        .readLink = [](const Sciezka&, Sciezka&) { return Wynik::Blad; },
+        .rename = moveName,
+        .link = linkName,
+        .remove = removeName,
+        .flushFolder = [](const Sciezka&) { return pamiec.answer(); },
+        .list = [](const Sciezka&, std::vector<Sciezka>&) { return Wynik::NieMa; },
     };
     return &system;
 }

@@ -1,21 +1,20 @@
 // A file system that fails at the N-th call, once or from then on.
 #pragma once
 
-#include "system/pliki.h"
 #include "system/system_plikow.h"
 
 #include <algorithm>
-#include <cerrno>
+#include <type_traits>
 
 namespace dorva::test {
 
 struct Awaria {
-    static constexpr int SHORT = -1; // no error: reads and writes move half of what they were asked to
-    int at = 0;                      // the failing call, counted from 1; 0: none
-    int error = 0;                   // an errno, or SHORT
+    static constexpr Wynik SHORT = Wynik::Ok; // no failure: reads and writes move half of what they were asked to
+    int at = 0;                               // the failing call, counted from 1; 0: none
+    Wynik error = Wynik::Blad;
     bool forGood = false;
     int calls = 0;
-    bool unlinkFailed = false;
+    bool removeFailed = false;
 
     [[nodiscard]] bool strikes() { return ++calls == at || (forGood && at > 0 && calls > at); }
 };
@@ -29,31 +28,27 @@ template <auto Call, auto Other> constexpr bool isCall() {
 }
 
 template <auto Call> struct Zawodny;
-template <class Result, class... Args, Result (*SystemPlikow::*Call)(Args...)> struct Zawodny<Call> {
-    static Result call(Args... args) {
+template <class... Args, Wynik (*SystemPlikow::*Call)(Args...)> struct Zawodny<Call> {
+    static Wynik call(Args... args) {
         if (!awaria.strikes() || awaria.error == Awaria::SHORT)
             return (SYSTEM_PLIKOW.*Call)(args...);
-        if constexpr (isCall<Call, &SystemPlikow::close>() || isCall<Call, &SystemPlikow::closedir>())
-            (SYSTEM_PLIKOW.*Call)(args...);
-        if constexpr (isCall<Call, &SystemPlikow::unlink>())
-            awaria.unlinkFailed = true;
-        errno = awaria.error;
-        if constexpr (std::is_pointer_v<Result>)
-            return nullptr;
-        else
-            return Result{-1};
+        if constexpr (isCall<Call, &SystemPlikow::close>())
+            (void)(SYSTEM_PLIKOW.*Call)(args...);
+        if constexpr (isCall<Call, &SystemPlikow::remove>())
+            awaria.removeFailed = true;
+        return awaria.error;
     }
 };
 
-template <auto Call>::ssize_t zawodnyTransfer(int file, auto bytes, std::size_t count) {
+template <auto Call> Wynik zawodnyTransfer(Uchwyt file, auto bytes, std::size_t& count) {
     if (!awaria.strikes())
         return (SYSTEM_PLIKOW.*Call)(file, bytes, count);
+    const auto half = bytes.first(std::max<std::size_t>(1, bytes.size() / 2));
     if (awaria.error == Awaria::SHORT)
-        return (SYSTEM_PLIKOW.*Call)(file, bytes, std::max<std::size_t>(1, count / 2));
-    if (count > 1) // a disk that fills up in the midst of a write
-        (void)(SYSTEM_PLIKOW.*Call)(file, bytes, count / 2);
-    errno = awaria.error;
-    return -1;
+        return (SYSTEM_PLIKOW.*Call)(file, half, count);
+    if (bytes.size() > 1) // a disk that fills up in the midst of a write
+        (void)(SYSTEM_PLIKOW.*Call)(file, half, count);
+    return awaria.error;
 }
 
 // The table whose calls fail as `awaria` says. It doesn't flush: no test here cuts the power.
@@ -62,19 +57,18 @@ inline const SystemPlikow* zawodnySystem() {
         .open = Zawodny<&SystemPlikow::open>::call,
         .read = zawodnyTransfer<&SystemPlikow::read>,
         .write = zawodnyTransfer<&SystemPlikow::write>,
-        .fsync = [](int) { return awaria.strikes() && awaria.error != Awaria::SHORT ? (errno = awaria.error, -1) : 0; },
+        .flush = [](Uchwyt) { return awaria.strikes() ? awaria.error : Wynik::Ok; },
         .close = Zawodny<&SystemPlikow::close>::call,
-        .rename = Zawodny<&SystemPlikow::rename>::call,
-        .link = Zawodny<&SystemPlikow::link>::call,
-        .unlink = Zawodny<&SystemPlikow::unlink>::call,
+        .describe = Zawodny<&SystemPlikow::describe>::call,
+        .setMode = Zawodny<&SystemPlikow::setMode>::call,
         .stat = Zawodny<&SystemPlikow::stat>::call,
         .lstat = Zawodny<&SystemPlikow::lstat>::call,
-        .fstat = Zawodny<&SystemPlikow::fstat>::call,
-        .fchmod = Zawodny<&SystemPlikow::fchmod>::call,
-        .readlink = Zawodny<&SystemPlikow::readlink>::call,
-        .opendir = Zawodny<&SystemPlikow::opendir>::call,
-        .readdir = Zawodny<&SystemPlikow::readdir>::call,
-        .closedir = Zawodny<&SystemPlikow::closedir>::call,
+        .readLink = Zawodny<&SystemPlikow::readLink>::call,
+        .rename = Zawodny<&SystemPlikow::rename>::call,
+        .link = Zawodny<&SystemPlikow::link>::call,
+        .remove = Zawodny<&SystemPlikow::remove>::call,
+        .flushFolder = [](const SystemPlikow::Sciezka&) { return awaria.strikes() ? awaria.error : Wynik::Ok; },
+        .list = Zawodny<&SystemPlikow::list>::call,
     };
     return &system;
 }

@@ -11,11 +11,24 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <map>
-#include <unistd.h>
+#include <random>
 
 namespace dorva::test {
 
 namespace fs = std::filesystem;
+
+// Windows has them, but mostly no right to them.
+inline constexpr bool HAVE_LINKS = fs::path::preferred_separator == '/';
+
+// A new folder, in memory where the system has a place for that.
+inline fs::path makeFolder() {
+    const fs::path memory = "/dev/shm";
+    const fs::path place = HAVE_LINKS && fs::exists(memory) ? memory : fs::temp_directory_path();
+    std::random_device random;
+    for (;;)
+        if (const fs::path folder = place / ("dorva-" + std::to_string(random())); fs::create_directory(folder))
+            return folder;
+}
 
 inline Bajty readFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
@@ -65,9 +78,7 @@ inline const Bajty& sampleSzablon() {
 class Pulpit : public ::testing::Test {
 protected:
     void SetUp() override {
-        std::string pattern =
-            ((fs::exists("/dev/shm") ? fs::path("/dev/shm") : fs::temp_directory_path()) / "dorva-XXXXXX").string();
-        root = ::mkdtemp(pattern.data());
+        root = makeFolder();
         base = root / "praca";
         for (const char* folder : {"ETAPY", "PLIKI", "OBIEKTY/ORN_EXPORT"})
             fs::create_directories(base / folder);
@@ -110,7 +121,8 @@ protected:
     [[nodiscard]] fs::path etap(int number) const { return base / "ETAPY" / ("DETAP." + std::to_string(number)); }
     Znak& cell(int row, int column) { return e.okno.imgPG[static_cast<std::size_t>(row * 40 + column)].znak; }
     [[nodiscard]] std::vector<std::string> namesIn(const char* folder) const {
-        return listNames(SYSTEM_PLIKOW, base / folder, "");
+        const auto names = listNames(SYSTEM_PLIKOW, base / folder, "");
+        return {names.begin(), names.end()};
     }
 
     fs::path root, base;

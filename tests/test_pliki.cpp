@@ -45,10 +45,16 @@ template <class Call> SystemPlikow without(Call call) {
     return system;
 }
 
+// A call on two names that does nothing.
+template <Wynik wynik> Wynik answer(const fs::path&, const fs::path&) {
+    return wynik;
+}
+
 TEST_F(Pliki, WhatIsNotOnDiskIsNotWritten) {
     writeFile(root / "plik", {1});
-    const auto unflushed = without([](SystemPlikow& s) { s.fsync = [](int) { return -1; }; });
-    const auto unclosed = without([](SystemPlikow& s) { s.close = [](int file) { return ::close(file), -1; }; });
+    const auto unflushed = without([](SystemPlikow& s) { s.flush = [](Uchwyt) { return Wynik::Blad; }; });
+    const auto unclosed =
+        without([](SystemPlikow& s) { s.close = [](Uchwyt file) { return SYSTEM_PLIKOW.close(file), Wynik::Blad; }; });
     for (const SystemPlikow& system : {unflushed, unclosed})
         EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{2}));
     EXPECT_EQ(readFile(root / "plik"), Bajty{1});
@@ -57,8 +63,8 @@ TEST_F(Pliki, WhatIsNotOnDiskIsNotWritten) {
 
 TEST_F(Pliki, FileSystemsWithoutModeBitsOrHardLinks) {
     const auto system = without([](SystemPlikow& s) {
-        s.fchmod = [](int, ::mode_t) { return errno = EPERM, -1; };
-        s.link = [](const char*, const char*) { return errno = EPERM, -1; };
+        s.setMode = [](Uchwyt, unsigned) { return Wynik::Odmowa; };
+        s.link = answer<Wynik::Odmowa>;
     });
     ::umask(022);
     writeFile(root / "plik", {1});
@@ -73,20 +79,23 @@ TEST_F(Pliki, FileSystemsWithoutModeBitsOrHardLinks) {
 TEST_F(Pliki, ListingThatBreaksOffGivesNoNames) {
     writeFile(root / "a.ND", {});
     writeFile(root / "b.ND", {});
-    static int entries = 0;
     const auto system = without([](SystemPlikow& s) {
-        s.readdir = [](::DIR* folder) { return ++entries == 4 ? (errno = EIO, nullptr) : ::readdir(folder); };
+        s.list = [](const fs::path& folder, std::vector<fs::path>& names) {
+            return SYSTEM_PLIKOW.list(folder, names), Wynik::Blad;
+        };
     });
     EXPECT_TRUE(listNames(system, root, ".ND").empty());
-    EXPECT_EQ(listNames(system, root, ".ND").size(), 2U);
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, ".ND").size(), 2U);
 }
 
 TEST_F(Pliki, InterruptedCallsAreAskedAgain) {
     static int calls = 0;
     const auto system = without([](SystemPlikow& s) {
-        s.read = [](int f, void* b, std::size_t n) { return ++calls % 2 ? (errno = EINTR, -1) : ::read(f, b, n); };
-        s.write = [](int f, const void* b, std::size_t n) {
-            return ++calls % 2 ? (errno = EINTR, -1) : ::write(f, b, n);
+        s.read = [](Uchwyt file, std::span<Bajt> bytes, std::size_t& count) {
+            return ++calls % 2 ? Wynik::Przerwane : SYSTEM_PLIKOW.read(file, bytes, count);
+        };
+        s.write = [](Uchwyt file, std::span<const Bajt> bytes, std::size_t& count) {
+            return ++calls % 2 ? Wynik::Przerwane : SYSTEM_PLIKOW.write(file, bytes, count);
         };
     });
     fs::current_path(root);
@@ -96,11 +105,9 @@ TEST_F(Pliki, InterruptedCallsAreAskedAgain) {
 
 TEST_F(Pliki, WhatCannotBeKeptIsNotReplaced) {
     writeFile(root / "plik", {1});
-    const auto taken =
-        without([](SystemPlikow& s) { s.link = [](const char*, const char*) { return errno = EEXIST, -1; }; });
+    const auto taken = without([](SystemPlikow& s) { s.link = answer<Wynik::Zajete>; });
     EXPECT_FALSE(writeKeepingUnknown(taken, root / "plik", Bajty{2}, {})) << "another program took the copy's name";
-    const auto linkless =
-        without([](SystemPlikow& s) { s.link = [](const char*, const char*) { return errno = EPERM, -1; }; });
+    const auto linkless = without([](SystemPlikow& s) { s.link = answer<Wynik::Odmowa>; });
     fs::resize_file(root / "plik", 100U << 20U);
     EXPECT_FALSE(writeKeepingUnknown(linkless, root / "plik", Bajty{2}, {})) << "too long to be copied";
     EXPECT_EQ(fs::file_size(root / "plik"), 100U << 20U);
@@ -114,8 +121,10 @@ TEST_F(Pliki, ARenameThatIsCarriedOutAndAnsweredByAnErrorKeepsTheCopy) {
         static bool moves;
         moves = carriedOut;
         const auto system = without([](SystemPlikow& s) {
-            s.rename = [](const char* from, const char* to) {
-                return moves ? (::rename(from, to), errno = EIO, -1) : (errno = EIO, -1);
+            s.rename = [](const fs::path& from, const fs::path& to) {
+                if (moves)
+                    (void)SYSTEM_PLIKOW.rename(from, to);
+                return Wynik::Blad;
             };
         });
         EXPECT_FALSE(writeKeepingUnknown(system, root / "plik", Bajty{2}, {}));
@@ -129,9 +138,9 @@ TEST_F(Pliki, ARenameThatIsCarriedOutAndAnsweredByAnErrorKeepsTheCopy) {
 TEST_F(Pliki, InPlaceWhereTheFolderRefusesNewNames) {
     static bool full;
     const auto system = without([](SystemPlikow& s) {
-        s.rename = [](const char*, const char*) { return errno = EPERM, -1; };
-        s.write = [](int f, const void* b, std::size_t n) {
-            return full && n == 5 ? (errno = ENOSPC, -1) : ::write(f, b, n);
+        s.rename = answer<Wynik::Odmowa>;
+        s.write = [](Uchwyt file, std::span<const Bajt> bytes, std::size_t& count) {
+            return full && bytes.size() == 5 ? Wynik::Blad : SYSTEM_PLIKOW.write(file, bytes, count);
         };
     });
     for (const Bajty& bytes : {Bajty{7, 8, 9}, Bajty{6}, Bajty{1, 2, 3, 4}}) {

@@ -120,13 +120,13 @@ TEST_F(ZbiorEtapow, OrdinaryWorkMakesNoCopies) {
 // The folder of the stages answers with errors for a while: at the start, and while a stage is saved elsewhere.
 TEST_F(ZbiorEtapow, AStageThatCouldNotBeReadIsKeptAside) {
     static bool broken = true;
-    static const auto fails = [](std::string_view path) { return broken && path.find("ETAPY") != path.npos; };
+    static const auto fails = [](const fs::path& path) { return broken && path.parent_path().filename() == "ETAPY"; };
     SystemPlikow system = SYSTEM_PLIKOW;
-    system.open = [](const char* path, int flags, ::mode_t mode) {
-        return fails(path) ? (errno = EIO, -1) : SYSTEM_PLIKOW.open(path, flags, mode);
+    system.open = [](const fs::path& path, Otwarcie otwarcie, Uchwyt& file) {
+        return fails(path) ? Wynik::Blad : SYSTEM_PLIKOW.open(path, otwarcie, file);
     };
-    system.stat = [](const char* path, struct ::stat* info) {
-        return fails(path) ? (errno = EIO, -1) : SYSTEM_PLIKOW.stat(path, info);
+    system.stat = [](const fs::path& path, OpisPliku& opis) {
+        return fails(path) ? Wynik::Blad : SYSTEM_PLIKOW.stat(path, opis);
     };
     e.system = &system;
     start();

@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -47,7 +46,8 @@ bool isSameFile(const SystemPlikow&, const std::filesystem::path&, const std::fi
 
 // The names in a folder that end in `suffix` (exact case), sorted by byte value. None where the listing
 // breaks off: a part of it would give the worlds the wrong tile sets.
-std::vector<std::string> listNames(const SystemPlikow&, const std::filesystem::path& folder, std::string_view suffix);
+std::vector<std::filesystem::path> listNames(const SystemPlikow&, const std::filesystem::path& folder,
+                                             std::string_view suffix);
 
 // Removes what interrupted writes of these files may have left beside them.
 void sweepTemporary(const SystemPlikow&, std::span<const std::filesystem::path> files);

@@ -1,31 +1,79 @@
-// The system calls that the file layer is made of, as a table: a test puts its own in their place.
+// The system calls that the file layer is made of, as a table in words that every system has. One file a system fills
+// it; a test puts its own in its place.
 #pragma once
 
-#include <cstddef>
-#include <dirent.h>
-#include <sys/stat.h>
-#include <sys/types.h>
+#include "podstawy.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <vector>
 
 namespace dorva {
 
-// Each answers as its POSIX namesake.
-struct SystemPlikow {
-    int (*open)(const char* path, int flags, ::mode_t mode);
-    ::ssize_t (*read)(int file, void* bytes, std::size_t count);
-    ::ssize_t (*write)(int file, const void* bytes, std::size_t count);
-    int (*fsync)(int file);
-    int (*close)(int file);
-    int (*rename)(const char* from, const char* to);
-    int (*link)(const char* from, const char* to);
-    int (*unlink)(const char* path);
-    int (*stat)(const char* path, struct ::stat* info);
-    int (*lstat)(const char* path, struct ::stat* info);
-    int (*fstat)(int file, struct ::stat* info);
-    int (*fchmod)(int file, ::mode_t mode);
-    ::ssize_t (*readlink)(const char* path, char* target, std::size_t count);
-    ::DIR* (*opendir)(const char* path);
-    ::dirent* (*readdir)(::DIR* folder);
-    int (*closedir)(::DIR* folder);
+// How a call went.
+enum class Wynik {
+    Ok,
+    NieMa,     // nothing stands at the path
+    Zajete,    // the name is taken
+    Odmowa,    // no right to it
+    Przerwane, // ask again
+    Blad,      // any other failure
 };
+
+enum class RodzajPliku { Zwykly, Katalog, Dowiazanie, Inny };
+
+// What a file is like.
+struct OpisPliku {
+    RodzajPliku rodzaj = RodzajPliku::Inny;
+    std::uintmax_t length = 0;            // in bytes
+    std::uint64_t volume = 0, number = 0; // together they tell files apart
+    std::uint64_t names = 1;              // hard links
+    unsigned mode = 0;                    // who may do what, in the system's own bits; always 0 where it has none
+
+    [[nodiscard]] bool isSameFile(const OpisPliku& other) const {
+        return volume == other.volume && number == other.number;
+    }
+};
+
+enum class Otwarcie {
+    Odczyt,
+    Zapis,      // of a file that is there; it keeps its content
+    OdNowa,     // of a file that is there; it is emptied
+    Utworzenie, // of a file that is there or a new one; it keeps its content
+    Nowy,       // of a new file, and only that
+};
+
+// An open file as the system numbers it.
+enum class Uchwyt : std::intptr_t { Zaden = -1 };
+
+struct SystemPlikow {
+    using Sciezka = std::filesystem::path;
+
+    // Never waits for anyone's other end, as a pipe would.
+    Wynik (*open)(const Sciezka&, Otwarcie, Uchwyt& file);
+    // `count` is how many bytes moved: all, some, at the end of a file none.
+    Wynik (*read)(Uchwyt, std::span<Bajt> bytes, std::size_t& count);
+    Wynik (*write)(Uchwyt, std::span<const Bajt> bytes, std::size_t& count);
+    Wynik (*flush)(Uchwyt);
+    Wynik (*close)(Uchwyt);
+    Wynik (*describe)(Uchwyt, OpisPliku&);
+    Wynik (*setMode)(Uchwyt, unsigned mode);
+
+    Wynik (*stat)(const Sciezka&, OpisPliku&);
+    Wynik (*lstat)(const Sciezka&, OpisPliku&); // of a link itself
+    Wynik (*readLink)(const Sciezka&, Sciezka& target);
+    Wynik (*rename)(const Sciezka& from, const Sciezka& to); // `to` is replaced
+    Wynik (*link)(const Sciezka& from, const Sciezka& to);   // a second name for `from`
+    Wynik (*remove)(const Sciezka&);
+
+    // Makes new names in a folder outlive a power cut.
+    Wynik (*flushFolder)(const Sciezka&);
+    // Adds the names in a folder, in any order, without those of the folder itself and the one above.
+    Wynik (*list)(const Sciezka& folder, std::vector<Sciezka>& names);
+};
+
+// The operating system's own calls.
+extern const SystemPlikow SYSTEM_PLIKOW;
 
 } // namespace dorva
