@@ -58,7 +58,7 @@ TEST_F(Start, TooFewTileSetNamesEndStartUpButLoseNothing) {
 }
 
 TEST_F(Start, TitleLinesOfOtherLengths) {
-    for (std::size_t size : {0U, 20U, 59U, 60U, 70U}) {
+    for (std::size_t size : {0U, 19U, 20U, 41U, 59U, 60U, 61U}) {
         writeFile(base / "PLIKI/DP1.DTA", Bajty(size, 'Q'));
         e = Edytor{};
         attach(e);
@@ -68,8 +68,8 @@ TEST_F(Start, TitleLinesOfOtherLengths) {
         Form_QueryUnload(e);
         EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA").size(), 60U);
     }
-    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia"), Bajty(59, 'Q'));
-    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia2"), Bajty(70, 'Q'));
+    for (auto [name, size] : {std::pair{"kopia", 19}, {"kopia2", 41}, {"kopia3", 59}, {"kopia4", 61}})
+        EXPECT_EQ(readFile(base / "PLIKI" / (std::string("DP1.DTA.") + name)), Bajty(size, 'Q')) << size;
 }
 
 TEST_F(Start, HooksThatThrowOrAreMissingAnswerLikeACancel) {

@@ -185,7 +185,6 @@ TEST_F(ZbiorEtapow, LoadTakesOnlyFilesOf931Bytes) {
     cmdLoad_Click(e);
     EXPECT_EQ(e.okno.hscMonet, 17);
     EXPECT_EQ(e.NumerEtapu, 1);
-    EXPECT_EQ(dialogs.back().filter, "Etapy gry|DETAP.*|Wszystkie pliki (*.*)|*.*");
     Form_QueryUnload(e);
     EXPECT_EQ(readFile(etap(1)), sampleEtap(17));
 
@@ -203,7 +202,6 @@ TEST_F(ZbiorEtapow, SaveAsksBeforeItReplaces) {
     SelectEtapNR(e, 6);
     chosen = root / "kopia etapu";
     cmdSave_Click(e);
-    EXPECT_EQ(dialogs.back().name, "DETAP.7");
     EXPECT_EQ(shown, std::vector<std::string>{"Dane etapu zostały pomyślnie zapisane"});
     EXPECT_EQ(readFile(*chosen), sampleEtap(7));
 
