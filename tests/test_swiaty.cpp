@@ -2,6 +2,7 @@
 #include "etapy.h"
 #include "pulpit.h"
 
+#include <algorithm>
 #include <set>
 
 namespace dorva::test {
@@ -72,6 +73,36 @@ Wzor leftRight(Wzor w) {
 Wzor upDown(Wzor w) {
     std::reverse(w.begin(), w.end());
     return w;
+}
+
+// Tiles that may look alike: they do the same, or are one thing on its way.
+const std::vector<std::set<int>> PODOBNE{{0, 3},                                    // free cells
+                                         {5, 6},                                    // walls
+                                         {19, 20, 21, 22},                          // rays
+                                         {26, 27},                                  // creatures
+                                         {28, 29},                                  // guards
+                                         {30, 31, 32, 33, 54},                      // an explosion
+                                         {36, 37, 38, 39},                          // trackers
+                                         {43, 44},                                  // darts
+                                         {45, 46, 47, 48},                          // stones
+                                         {50, 51, 52, 53, 58, 59, 60, 61, 62, 63}}; // the heroine
+
+int roznica(const Wzor& a, const Wzor& b) {
+    int pixels = 0;
+    for (std::size_t row = 0; row < a.size(); ++row)
+        for (int shift = 0; shift < 8; shift += 2)
+            pixels += (a[row] >> shift & 3) != (b[row] >> shift & 3);
+    return pixels;
+}
+
+TEST(Zestaw, TilesOfDifferentEffectDifferInAtLeast12Of32Pixels) {
+    for (const std::string name : ZESTAWY) {
+        const Bajty znaki = readDane("OBIEKTY/ORN_EXPORT/" + name);
+        for (int a = 0; a <= OTWARTE_WYJSCIE; ++a)
+            for (int b = 0; b < a; ++b)
+                if (std::ranges::none_of(PODOBNE, [&](const auto& g) { return g.contains(a) && g.contains(b); }))
+                    EXPECT_GE(roznica(wzor(znaki, a), wzor(znaki, b)), 12) << name << " " << b << " " << a;
+    }
 }
 
 TEST(Zestaw, TilesAreDistinctAndDirectionsMirror) {
