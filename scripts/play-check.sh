@@ -1,8 +1,8 @@
 #!/bin/sh
 # play-check.sh [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory: title,
 # the recorded runs through stages 1 to 3, dying, the last stage, all 32 stages, boards without a heroine and of any
-# bytes, RESET, a machine of 64 KB. Says so and ends well where there is no emulator. --pictures renews
-# docs/obrazy/gra-*.png (needs Xvfb and ImageMagick).
+# bytes, keys, the overlay, frame rate, RESET and BASIC, larger machines and one of 64 KB. Says so and ends well where
+# there is no emulator. --pictures renews docs/obrazy/gra-*.png (needs Xvfb and ImageMagick).
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -35,7 +35,7 @@ plus() { # plus ADDRESS BYTES: the address so many bytes on
 }
 
 # record TOKENS...: a recording of input. A token is letters and a number of frames: L R U D stick, F trigger,
-# S SELECT, O OPTION, E the key ESC, - nothing.
+# T START, S SELECT, O OPTION, E the key ESC, - nothing.
 record() {
     echo "$*" | awk '
         BEGIN { print "Atari800 event recording, version: 1"; print 10387 }
@@ -44,7 +44,7 @@ record() {
             match($i, /[0-9]+/)
             for (n = substr($i, RSTART); n > 0; --n)
                 printf "%d 0 %d \n%d \n255 \n%d \n1 \n1 \n1 \n00000000 \n",
-                    ($i ~ /E/) ? 28 : -1, 7 - 2 * ($i ~ /S/) - 4 * ($i ~ /O/), stick, $i !~ /F/
+                    ($i ~ /E/) ? 28 : -1, 7 - ($i ~ /T/) - 2 * ($i ~ /S/) - 4 * ($i ~ /O/), stick, $i !~ /F/
         } }'
 }
 
@@ -147,13 +147,13 @@ check_runs() { # check_runs OPTION: PAL or NTSC
     {
         for stage in 1 2 3; do
             until_at graj_etap && until_at otworz && dump brak_masek 1 "masks$stage"
-            until_at policz_energie && dump numer_etapu 1 "stage$stage"
+            until_at policz_premie && dump numer_etapu 1 "stage$stage"
         done
         until_at graj_etap && dump numer_etapu 1 stage4
         echo QUIT
     } >"$work/commands"
     play "$PWD/$game" -xe "$1"
-    one="graj_etap otworz policz_energie"
+    one="graj_etap otworz policz_premie"
     expect "stages 1 to 3 are entered, their exits open, she goes through ($1)" "$(came_to)" "$one $one $one graj_etap"
     for stage in 1 2 3; do
         expect "stage $stage: no mask is missing" \
@@ -178,15 +178,74 @@ check_dying() { # she steps into a fire and stays there, three times
         "$(for lives in 3 2 1; do bytes "$work/lives$lives" 0 1 | tr -d '\n'; done)" 321
 }
 
-check_keys() { # a pause of half a minute, the stage anew, the end of the game
-    record "$start" R7 O5 -1500 O5 R60 S5 -120 R7 -30 E5 -200 >"$work/input"
+# Each key means the same in the greeting, in play and in a pause.
+check_keys() {
+    for phase in "greeting -60" "play R7 -20" "pause R7 O5 -20"; do
+        for key in "E ekran_konca" "T nowa_gra" "S pokaz_strate"; do
+            # shellcheck disable=SC2086
+            record "$start" ${phase#* } "${key% *}5" -30 >"$work/input"
+            { until_at graj_etap && until_at "${key#* }" && echo QUIT; } >"$work/commands"
+            play "$PWD/$game" -xe
+            expect "key ${key% *} in the ${phase%% *}" "$(came_to)" "graj_etap ${key#* }"
+        done
+        # shellcheck disable=SC2086
+        record "$start" ${phase#* } O5 -200 O5 R60 -100 >"$work/input"
+        { until_at graj_etap && until_at info_powitanie && dump pauza 1 pause && echo QUIT; } >"$work/commands"
+        play "$PWD/$game" -xe
+        expect "OPTION in the ${phase%% *}: a pause ends, and its word goes at once" \
+            "$(came_to) $(bytes "$work/pause" 0 1)" "graj_etap info_powitanie 0"
+    done
+    record "$start" R7 -20 S5 -150 >"$work/input"
+    { until_at graj_etap && until_at graj_etap && dump zycia 1 lives && echo QUIT; } >"$work/commands"
+    play "$PWD/$game" -xe
+    expect "SELECT costs a life" "$(bytes "$work/lives" 0 1)" 2
+}
+
+check_choice() { # the stage chosen on the title: held, the stick goes on choosing; the choice outlives a game
+    record -400 R120 -20 F10 -60 E5 -60 F10 -100 >"$work/input"
     {
-        until_at graj_etap && until_at takt && until_at info_powitanie && until_at takt
-        until_at graj_etap && dump zycia 1 lives && until_at ekran_konca && echo QUIT
+        until_at graj_etap && dump numer_etapu 1 chosen && until_at ekran_konca
+        until_at tytul && until_at wcisniete && dump numer_etapu 1 again && echo QUIT
     } >"$work/commands"
     play "$PWD/$game" -xe
-    expect "pause, SELECT and ESC" "$(came_to)" "graj_etap takt info_powitanie takt graj_etap ekran_konca"
-    expect "SELECT costs a life" "$(bytes "$work/lives" 0 1)" 2
+    chosen=$(bytes "$work/chosen" 0 1)
+    expect "the held stick chooses on, from stage to stage" "$((chosen > 3 && chosen < 25))" 1
+    expect "the chosen stage stays chosen" "$(bytes "$work/again" 0 1)" "$chosen"
+}
+
+check_overlay() { # in each world the two players lie over the heroine's cell and nowhere else
+    record -9000 >"$work/input"
+    {
+        until_at wcisniete
+        echo "BPC $(at graj_etap)"
+        for world in 0 1 2; do
+            stage=1
+            while [ "$(bytes "$stages/DETAP.$stage" "$ETAP_SWIAT" 1)" != $world ]; do stage=$((stage + 1)); done
+            printf 'C %s %X\nCONT %s\nGTIA\nANTIC\n' "$(at numer_etapu)" $stage "$(at graj)"
+            dump gracz0 512 "players$world" && dump dorva_x 1 "x$world" && dump dorva_y 1 "y$world"
+        done
+        dump lista_planszy 12 list && echo QUIT
+    } >"$work/commands"
+    play "$PWD/$game" -xe
+    # the board's first scan line: the picture begins at line 8, and the lines of the display list in front of it
+    top=$(bytes "$work/list" 0 12 | awk '{
+        for (i = 1; i <= NF && $i % 16 != 4; ++i) {
+            if ($i % 16 == 0) lines += int($i / 16) % 8 + 1
+            else { lines += 8; i += 2 }
+        }
+        print 8 + lines }')
+    for world in 0 1 2; do
+        x=$(bytes "$work/x$world" 0 1) y=$(bytes "$work/y$world" 0 1)
+        rows=$(od -An -v -tu1 -w1 "$work/players$world" | awk '$1 { seen[(NR - 1) % 256] = 1 }
+            END { for (i = 0; i < 256; ++i) if (i in seen) printf "%d ", i }')
+        expect "world $((world + 1)): the overlay lies on the rows of her cell" "$rows" \
+            "$(seq -s ' ' $((top + 8 * y)) $((top + 8 * y + 7))) "
+        both=$(printf '%02X' $((48 + 4 * x))) # the board's left edge is colour clock 48
+        places=$(grep -o '^HPOSP0=.. *HPOSP1=..' "$work/log" | sed -n "$((world + 1))p" | tr -s ' ')
+        expect "and in its column" "$places" "HPOSP0=$both HPOSP1=$both"
+    done
+    fetched=$(grep -o 'GRACTL=..\|DMACTL=..\|PMBASE=..' "$work/log" | sort -u | tr '\n' ' ')
+    expect "players are fetched, on each line, from their page" "$fetched" "DMACTL=3A GRACTL=02 PMBASE=B0 "
 }
 
 check_test_build() {
@@ -251,7 +310,7 @@ check_any_bytes() { # stages of 931 bytes as they come, but for the heroine: the
     done
 }
 
-check_pace() { # boards full of what takes longest: no tick may outlast its frame
+check_pace() { # check_pace OPTION, PAL or NTSC: boards full of what takes longest: no tick may outlast its frame
     for full in "36 37 38 39 3 0" "54 14 23 24 17" "18 40 41 42 24 0" "24 25 35 8 1" "43 44 45 46 19 20 0" "55 0"; do
         cp "$stages/DETAP.1" "$work/etap"
         # shellcheck disable=SC2046
@@ -262,21 +321,34 @@ check_pace() { # boards full of what takes longest: no tick may outlast its fram
         test_build "$work/etap" "$work/pelna.xex"
         record "$start" R50 D50 L90 U50 F3 R200 D60 F3 L60 U300 F10 R60 E5 L200 E5 L200 E5 -300 >"$work/input"
         { until_at ekran_konca && dump spoznione 1 late && echo QUIT; } >"$work/commands"
-        play "$work/pelna.xex" -xe -ntsc
-        expect "full frame rate on a board of tiles $full" "$(came_to) $(bytes "$work/late" 0 1)" "ekran_konca 0"
+        play "$work/pelna.xex" -xe "$1"
+        expect "full frame rate on a board of tiles $full ($1)" "$(came_to) $(bytes "$work/late" 0 1)" "ekran_konca 0"
     done
 }
 
-check_reset() {
+check_reset() { # check_reset OPTION: BASIC on or off
     record "$start" "$(run_of 1)" -600 >"$work/input"
     {
+        until_at start && echo "WRITE 6A 6A top"
         until_at graj_etap && until_at otworz
         echo "BPC $(at rysuj_tytul)" && echo WARMSTART # goes on by itself
         until_at wcisniete && dump ekran 600 ekran && echo QUIT
     } >"$work/commands"
-    play "$PWD/$game" -xe
-    expect "RESET in the middle of a stage brings the title" "$(came_to)" "graj_etap otworz rysuj_tytul wcisniete"
+    play "$PWD/$game" -xe "$1"
+    expect "RESET in the middle of a stage brings the title ($1)" "$(came_to)" \
+        "start graj_etap otworz rysuj_tytul wcisniete"
     expect "and the title is whole" "$(shown_lines)" "$(title_lines "$game")"
+    expect "the system's screen stood behind all that is loaded" "$(bytes "$work/top" 0 1)" $((0xC0))
+}
+
+check_large_machines() {
+    for machine in -320xe -rambo -576xe -1088xe; do
+        record "$start" -60 >"$work/input"
+        { until_at wcisniete && until_at graj_etap && dump plansza $board board && echo QUIT; } >"$work/commands"
+        play "$PWD/$game" "$machine"
+        expect "stage 1 is there on a larger machine ($machine)" "$(bytes "$work/board" 0 $board)" \
+            "$(bytes "$stages/DETAP.1" "$ETAP_PLANSZA" $board)"
+    done
 }
 
 check_small_machine() {
@@ -313,8 +385,8 @@ take_pictures() {
     record "$start" "$(run_of 1)" -100 "$(run_of 2)" -400 >"$work/input"
     {
         until_at wcisniete && look tytul && until_at graj
-        until_at otworz && look wyjscie && until_at policz_energie
-        until_at powitaj && until_at otworz && until_at policz_energie && echo QUIT
+        until_at otworz && look wyjscie && until_at policz_premie
+        until_at graj_etap && until_at otworz && until_at policz_premie && echo QUIT
     } >"$work/commands"
     watch "$PWD/$game"
     for name in tytul wyjscie; do keep "$name"; done
@@ -325,12 +397,13 @@ take_pictures() {
     watch "$work/test.xex"
     keep wygrana
 
-    record -9000 >"$work/input"
+    # shellcheck disable=SC2046
+    record $(seq -f 'R1 -99' 60) >"$work/input" # a move every two seconds ends each greeting
     {
         until_at wcisniete
         for stage in $(seq 32); do
-            printf 'BPC %s\nC %s %X\nCONT %s\n' "$(at powitaj)" "$(at numer_etapu)" "$stage" "$(at graj)"
-            look "etap$stage" && until_at graj_etap
+            printf 'BPC %s\nC %s %X\nCONT %s\n' "$(at graj_etap)" "$(at numer_etapu)" "$stage" "$(at graj)"
+            look "etap$stage" && until_at takt
         done
         echo QUIT
     } >"$work/commands"
@@ -346,11 +419,16 @@ check_runs -pal
 check_runs -ntsc
 check_dying
 check_keys
+check_choice
+check_overlay
 check_test_build
 check_all_stages
 check_empty_board
 check_any_bytes
-check_pace
-check_reset
+check_pace -pal
+check_pace -ntsc
+check_reset -nobasic
+check_reset -basic
+check_large_machines
 check_small_machine
 [ "$pictures" = no ] || take_pictures

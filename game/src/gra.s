@@ -65,7 +65,7 @@ graj:   lda numer_etapu
         sta numer_etapu
         jmp graj
 @przeszla:
-        jsr policz_energie
+        jsr policz_premie
         lda ostatni
         bne @wygrana
         inc numer_etapu
@@ -195,7 +195,7 @@ pokaz_strate:
         jmp czekaj_klatki
 
 ; What is left of the bonus for time turns into points, ten for each.
-policz_energie:
+policz_premie:
         lda #KOM_PREMIA
         sta komunikat
         jsr info_takt

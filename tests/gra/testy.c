@@ -298,6 +298,13 @@ static void bomby_i_mury(void) {
     takty(130);
     CHECK(pole(1, 5) == NIC && pole(1, 6) == NIC && pole(1, 9) == MUR_V && energia == 99);
 
+    uloz1(1, "D "); /* without a bomb it says so; a trigger held since before the stage says nothing */
+    spust = 0;
+    takty(9);
+    CHECK(komunikat == 0);
+    idz("-B");
+    CHECK(komunikat != 0);
+
     uloz1(1, "DB  "); /* too near */
     idz("RBR");
     takty(110);
