@@ -4,7 +4,7 @@
 # --tests: also what tests and benchmarks need. --checks: all that, and what the slower checks need.
 set -u
 
-packages="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n cc65 fonts-liberation fonts-dejavu-core"
+packages="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n cc65"
 case ${1-} in --tests | --checks) packages="$packages libgtest-dev libbenchmark-dev" ;; esac
 [ "${1-}" != --checks ] || packages="$packages clang libclang-rt-14-dev llvm clang-tidy clang-format shellcheck"
 

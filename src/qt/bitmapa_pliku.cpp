@@ -5,7 +5,10 @@
 #include <QBuffer>
 #include <QImageReader>
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <span>
 
 namespace dorva {
 namespace {
@@ -34,6 +37,19 @@ bool isWhole(const QByteArray& bytes, QSize size) {
     return little(bytes, PIXELS_OFFSET, 4) + rowBytes * size.height() <= bytes.size();
 }
 
+// One row of a picture in 32 bits; the whole picture would cost more memory than all else at the start.
+void convertRow(const QImage& image, int y, std::span<std::uint32_t> pixels) {
+    if (image.format() == QImage::Format_Indexed8) {
+        std::array<QRgb, 256> colours{};
+        std::ranges::copy(image.colorTable(), colours.begin());
+        std::transform(pixels.begin(), pixels.end(), image.constScanLine(y), pixels.begin(),
+                       [&](std::uint32_t, uchar index) { return colours[index]; });
+        return;
+    }
+    const QImage row = image.copy(0, y, int(pixels.size()), 1).convertToFormat(QImage::Format_ARGB32);
+    std::copy_n(reinterpret_cast<const std::uint32_t*>(row.constScanLine(0)), pixels.size(), pixels.begin());
+}
+
 } // namespace
 
 std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width, int height) {
@@ -56,14 +72,11 @@ std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width,
     if (image.isNull())
         return std::nullopt;
 
-    // Row by row: the whole picture in 32 bits would cost more memory than all else at the start.
     Bitmapa bitmapa{std::min(width, image.width()), std::min(height, image.height()), {}};
-    bitmapa.piksele.reserve(static_cast<std::size_t>(bitmapa.width * bitmapa.height));
-    for (int y = 0; y < bitmapa.height; ++y) {
-        const QImage part = image.copy(0, y, bitmapa.width, 1).convertToFormat(QImage::Format_ARGB32);
-        const auto* row = reinterpret_cast<const std::uint32_t*>(part.constScanLine(0));
-        bitmapa.piksele.insert(bitmapa.piksele.end(), row, row + bitmapa.width);
-    }
+    bitmapa.piksele.resize(static_cast<std::size_t>(bitmapa.width) * static_cast<std::size_t>(bitmapa.height));
+    const std::span pixels(bitmapa.piksele);
+    for (int y = 0; y < bitmapa.height; ++y)
+        convertRow(image, y, pixels.subspan(static_cast<std::size_t>(y * bitmapa.width), bitmapa.width));
     return bitmapa;
 }
 

@@ -1,7 +1,6 @@
 #include "qt/kontrolki.h"
 
 #include <QFocusEvent>
-#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
@@ -12,17 +11,14 @@
 namespace dorva {
 namespace {
 
-constexpr int FONT_PIXELS = 11;
-constexpr int FONT_STALY_PIXELS = 13, ZNAK_PIXELS = 8;
 constexpr QColor WYBRANY_KOLOR(0x8C, 0xB4, 0xE4); // of a button that is selected
 
-// One family by name: a font with a list of families looks for all its substitutes at once, and that takes
-// longer than all else at the start.
-QString firstInstalled(std::initializer_list<const char*> families) {
-    for (const char* family : families)
-        if (QFontDatabase::hasFamily(family))
-            return family;
-    return *families.begin();
+// A line one pixel wide along the inner side of a rectangle: filling is what the painter does fastest.
+void drawBorder(QPainter& painter, const QRect& r, const QColor& colour) {
+    painter.fillRect(r.left(), r.top(), r.width(), 1, colour);
+    painter.fillRect(r.left(), r.bottom(), r.width(), 1, colour);
+    painter.fillRect(r.left(), r.top(), 1, r.height(), colour);
+    painter.fillRect(r.right(), r.top(), 1, r.height(), colour);
 }
 
 bool isWindowChange(const QFocusEvent* event) {
@@ -30,32 +26,6 @@ bool isWindowChange(const QFocusEvent* event) {
 }
 
 } // namespace
-
-QFont fontOkna() {
-    static const QString family = firstInstalled({"Liberation Sans", "Arial", "DejaVu Sans"});
-    QFont font(family);
-    font.setPixelSize(FONT_PIXELS);
-    return font;
-}
-
-QFont fontFigury() {
-    QFont font = fontOkna();
-    font.setBold(true);
-    return font;
-}
-
-QFont fontStaly() {
-    static const QString family = firstInstalled({"Liberation Mono", "DejaVu Sans Mono", "Courier New"});
-    QFont font(family);
-    font.setStyleHint(QFont::Monospace);
-    font.setFixedPitch(true);
-    for (int size = FONT_STALY_PIXELS; size > 6; --size) {
-        font.setPixelSize(size);
-        if (QFontMetricsF(font).horizontalAdvance(QChar('W')) <= ZNAK_PIXELS)
-            break;
-    }
-    return font;
-}
 
 void Ramka::paintEvent(QPaintEvent*) {
     constexpr int INDENT = 8, GAP = 2;
@@ -71,10 +41,8 @@ void Ramka::paintEvent(QPaintEvent*) {
     const QFontMetrics metrics(captionFont);
     const int top = caption.isEmpty() ? 0 : metrics.height() / 2;
     const QRect line = rect().adjusted(0, top, 0, 0);
-    painter.setPen(palette().color(QPalette::Light));
-    painter.drawRect(line.adjusted(1, 1, -1, -1));
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(line.adjusted(0, 0, -2, -2));
+    drawBorder(painter, line.adjusted(1, 1, 0, 0), palette().color(QPalette::Light));
+    drawBorder(painter, line.adjusted(0, 0, -1, -1), palette().color(QPalette::Mid));
     if (caption.isEmpty())
         return;
     const QRect box(INDENT, 0, std::min(wanted, space) + 2 * GAP, metrics.height());
@@ -114,8 +82,7 @@ void Etykieta::mouseReleaseEvent(QMouseEvent* event) {
 void EtykietaObramowana::paintEvent(QPaintEvent* event) {
     Etykieta::paintEvent(event);
     QPainter painter(this);
-    painter.setPen(Qt::black);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    drawBorder(painter, rect(), Qt::black);
 }
 
 void ProbkaKoloru::paintEvent(QPaintEvent* event) {

@@ -11,14 +11,6 @@
 
 namespace dorva {
 
-// The window's font and its bold kin, by pixel size, so that texts fit their boxes on every screen.
-QFont fontOkna();
-QFont fontFigury();
-
-// The fixed-pitch font of the text boxes: eight pixels a character at most, so that every box shows its
-// full width.
-QFont fontStaly();
-
 // A frame with a thin line and its caption in it; the caption is narrowed where it would not fit.
 class Ramka : public QGroupBox {
 public:

@@ -1,5 +1,6 @@
 #include "qt/paleta_okno.h"
 
+#include "qt/czcionki.h"
 #include "qt/kontrolki.h"
 #include "qt/kursory.h"
 #include "qt/przeklad.h"

@@ -1,5 +1,6 @@
 #include "qt/wytwornia.h"
 
+#include "qt/czcionki.h"
 #include "qt/kontrolki.h"
 #include "qt/przeklad.h"
 #include "qt/widoki_znakow.h"

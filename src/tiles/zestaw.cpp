@@ -9,7 +9,7 @@ namespace {
 
 std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& path) {
     auto strip = askPicture(e.haki, path, PASEK_WIDTH, OBRAZ_SIDE);
-    return strip && strip->isWhole() ? strip : std::nullopt;
+    return strip && strip->isWhole() ? std::move(strip) : std::nullopt;
 }
 
 void cutStrip(Magazyn& zestawy, const Bitmapa& strip, int swiat) {
