@@ -110,6 +110,6 @@ for place in 82,13 84,302 420,60 874,14 874,94 872,282 872,328 738,358 374,357 8
     marks+=(-fill '#c8102e' -stroke white -strokewidth 1.5 -draw "circle $x,$y $((x + 10)),$y")
     marks+=(-stroke none -fill white -annotate "+$((x - (number > 9 ? 7 : 3)))+$((y - 8))" "$number")
 done
-convert "$room/okno.png" -font Liberation-Sans-Bold -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/opis.png"
+convert "$room/okno.png" -font src/qt/zasoby/czcionki/LiberationSans-Bold.ttf -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/opis.png"
 keep opis okno-opis 96
 ls -l "$pictures"/okno*.png
