@@ -56,7 +56,7 @@ std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width,
     const auto length = lengthOf(SYSTEM_PLIKOW, path);
     if (!length || *length > FILE_MAX_BYTES)
         return std::nullopt;
-    const auto file = readFirst(SYSTEM_PLIKOW, path, static_cast<std::size_t>(*length));
+    const auto file = readFirst(SYSTEM_PLIKOW, path, *length);
     if (!file)
         return std::nullopt;
     QByteArray bytes =
@@ -73,10 +73,10 @@ std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width,
         return std::nullopt;
 
     Bitmapa bitmapa{std::min(width, image.width()), std::min(height, image.height()), {}};
-    bitmapa.piksele.resize(static_cast<std::size_t>(bitmapa.width) * static_cast<std::size_t>(bitmapa.height));
+    bitmapa.piksele.resize(bitmapa.width * bitmapa.height);
     const std::span pixels(bitmapa.piksele);
     for (int y = 0; y < bitmapa.height; ++y)
-        convertRow(image, y, pixels.subspan(static_cast<std::size_t>(y * bitmapa.width), bitmapa.width));
+        convertRow(image, y, pixels.subspan(y * bitmapa.width, bitmapa.width));
     return bitmapa;
 }
 

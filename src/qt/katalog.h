@@ -4,37 +4,20 @@
 #include <string_view>
 #include <vector>
 
+class QWidget;
+
 namespace dorva {
-
-enum class Rodzaj {
-    Ramka,    // a frame with a caption
-    Podklad,  // a grey field without a border
-    Przycisk, // a button
-    Opcja,    // a button that stays down while selected
-    Znacznik, // a check box
-    Etykieta, // a plain label, centred
-    Figura,   // a label with a thin border, centred
-    Probka,   // a swatch: a bold figure on its colour, with a thin border
-    Nazwa,    // a label, right-aligned
-    Suwak,    // a horizontal scroll bar
-    Pole,     // a text box
-    Obraz,    // the picture of one tile
-    Plansza,  // the board
-    Wybor,    // the tile picker
-};
-
-enum class Widac { Tak, Wylaczone, Ukryte, Schowane }; // shown, shown but disabled, both off, hidden only
 
 // A control. Place in twips within its container; `index` is -1 outside control arrays.
 struct Kontrolka {
-    Rodzaj rodzaj;
+    QWidget* (*make)(const Kontrolka&, QWidget* parent); // its kind, of wytwornia.h
     std::string_view name;
     int index;
-    std::string_view container;
+    std::string_view container; // empty for the window itself
     int left, top, width, height;
     std::string_view caption;
     std::string_view tooltip;
-    Widac widac = Widac::Tak;
+    bool enabled = true, visible = true;
 };
 
 inline constexpr int TWIPS_PER_PIXEL = 15;
@@ -49,7 +32,7 @@ static_assert(OKNO_WIDTH == 897 && OKNO_HEIGHT == 617);
 // last.
 std::vector<Kontrolka> katalogOkna();
 
-// The controls that the Tab key visits, in order; for an option group its name stands for all buttons.
+// The controls that the Tab key visits, in order; the name of a control array stands for all its controls.
 std::vector<std::string_view> kolejnoscTab();
 
 } // namespace dorva

@@ -105,6 +105,16 @@ void Suwak::keyPressEvent(QKeyEvent* event) {
         QScrollBar::keyPressEvent(event);
 }
 
+void PoleEdycji::showText(const QString& wanted, unsigned requests) {
+    if (wanted != text()) {
+        const int cursor = cursorPosition();
+        setText(wanted);
+        setCursorPosition(cursor);
+    }
+    if (std::exchange(requests_, requests) != requests)
+        selectAll();
+}
+
 void PoleEdycji::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (isWindowChange(event))

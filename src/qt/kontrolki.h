@@ -77,6 +77,10 @@ public:
     using QLineEdit::QLineEdit;
     std::function<void()> onEnter, onLeave;
 
+    // Writes only another text than the box shows, so that typing keeps the cursor; selects it all where the number of
+    // requests to do so has grown.
+    void showText(const QString&, unsigned requests);
+
 protected:
     void focusInEvent(QFocusEvent*) override;
     void focusOutEvent(QFocusEvent*) override;
@@ -86,6 +90,7 @@ protected:
 
 private:
     bool enteredByMouse_ = false;
+    unsigned requests_ = 0;
 };
 
 } // namespace dorva

@@ -22,7 +22,7 @@ constexpr std::array<std::array<std::uint8_t, 5>, 10> CYFRY{{{7, 5, 5, 5, 7},
                                                              {7, 5, 7, 1, 7}}};
 
 std::uint32_t& pixel(ZnakObraz& obraz, int x, int y) {
-    return obraz[static_cast<std::size_t>(y * OBRAZ_SIDE + x)];
+    return obraz[y * OBRAZ_SIDE + x];
 }
 
 void fillRect(ZnakObraz& obraz, int left, int top, int width, int height, std::uint32_t colour) {
@@ -38,7 +38,7 @@ void drawNumber(ZnakObraz& obraz, int number, std::uint32_t colour) {
     for (std::size_t k = 0; k < digits.size(); ++k)
         for (int y = 0; y < 5; ++y)
             for (int x = 0; x < 3; ++x)
-                if (CYFRY[static_cast<std::size_t>(digits[k] - '0')][static_cast<std::size_t>(y)] >> (2 - x) & 1)
+                if (CYFRY[digits[k] - '0'][y] >> (2 - x) & 1)
                     fillRect(obraz, left + static_cast<int>(k) * PITCH + x * DOT, TOP + y * DOT, DOT, DOT, colour);
 }
 
@@ -122,11 +122,8 @@ void Obrazki::followMagazyn() {
     gotowe_ = {};
 }
 
-const Obrazek& Obrazki::operator[](ObrazRef ref) {
-    auto& gotowy = gotowe_[static_cast<std::size_t>(ref.swiat + 1) * CODES + static_cast<std::size_t>(ref.znak)];
-    if (!gotowy)
-        gotowy = std::make_unique<Obrazek>(prepared(pixelsOf(zestawy_, ref)));
-    return *gotowy;
+ObrazekPtr Obrazki::prepare(ObrazRef ref) const {
+    return std::make_shared<const Obrazek>(prepared(pixelsOf(zestawy_, ref)));
 }
 
 void blit(QImage& image, int left, int top, const Obrazek& obrazek, int side) {

@@ -19,6 +19,9 @@ struct Obrazek {
     bool opaque = false;
 };
 
+// A picture is known by where it stands: another picture is another pointer.
+using ObrazekPtr = std::shared_ptr<const Obrazek>;
+
 class Obrazki {
 public:
     explicit Obrazki(const Magazyn& zestawy) : zestawy_(zestawy) {}
@@ -26,19 +29,23 @@ public:
     // Forgets the pictures if a strip was loaded since they were made.
     void followMagazyn();
 
-    // Grows with each loaded strip.
-    [[nodiscard]] unsigned wersja() const { return wersja_; }
-
     // Transparent for a tile that no strip has filled; a placeholder for a code without a picture and for
     // the window's default state.
-    const Obrazek& operator[](ObrazRef);
+    const ObrazekPtr& operator[](ObrazRef ref) {
+        ObrazekPtr& gotowy = gotowe_[(ref.swiat + 1) * CODES + kod(ref.znak)];
+        if (!gotowy)
+            gotowy = prepare(ref);
+        return gotowy;
+    }
 
 private:
-    static constexpr std::size_t CODES = 256;
+    static constexpr int CODES = 256;
+
+    [[nodiscard]] ObrazekPtr prepare(ObrazRef) const;
 
     const Magazyn& zestawy_;
     unsigned wersja_ = 0;
-    std::array<std::unique_ptr<Obrazek>, (SWIATY_COUNT + 1) * CODES> gotowe_; // the default state comes first
+    std::array<ObrazekPtr, (SWIATY_COUNT + 1) * CODES> gotowe_; // the default state comes first
 };
 
 // Lays a picture over an opaque image at whole pixels, at its size of `side`.

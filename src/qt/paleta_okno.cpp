@@ -7,6 +7,7 @@
 #include "tiles/paleta_barw.h"
 
 #include <QPushButton>
+#include <QScreen>
 
 namespace dorva {
 namespace {
@@ -42,7 +43,10 @@ PaletaOkno::PaletaOkno(QWidget* parent)
     setObjectName("dlgPaleta");
     setWindowTitle("Paleta Atari");
     setFixedSize(CLIENT);
+    connect(this, &QDialog::finished, this, [this] { onClose(); });
+}
 
+void PaletaOkno::build() {
     auto* fraPaleta = new QWidget(this);
     fraPaleta->setObjectName("fraPaleta");
     fraPaleta->setGeometry(FRA_PALETA);
@@ -53,7 +57,7 @@ PaletaOkno::PaletaOkno(QWidget* parent)
         cell->setToolTip(toQString(kolorText(2 * i)));
         cell->setCursor(hand);
         cell->onClick = [this, i] { onPick(i); };
-        picPaleta_[static_cast<std::size_t>(i)] = cell;
+        picPaleta_[i] = cell;
     }
     const auto digit = [](int value) { return QString::number(value, 16).toUpper(); };
     for (int c = 0; c < COLUMNS; ++c)
@@ -71,15 +75,26 @@ PaletaOkno::PaletaOkno(QWidget* parent)
     cmzZamknij->setObjectName("cmzZamknij");
     cmzZamknij->setGeometry(CMZ_ZAMKNIJ);
     connect(cmzZamknij, &QPushButton::clicked, this, &QDialog::close);
-    connect(this, &QDialog::finished, this, [this] { onClose(); });
+}
+
+// To the right of the window where the screen has room, else over its left part: swatches stay in sight.
+void PaletaOkno::place() {
+    constexpr int GAP = 8;
+    const QWidget& window = *parentWidget();
+    const QRect frame = window.frameGeometry();
+    const bool room = window.screen()->availableGeometry().right() > frame.right() + width() + 2 * GAP;
+    move(room ? frame.right() + GAP : frame.right() - window.width() / 4 - width(), frame.top() + GAP);
 }
 
 void PaletaOkno::showOkno(const OknoPalety& okno) {
+    if (!picWybrany_ && !okno.otwarte)
+        return;
+    if (!picWybrany_) {
+        build();
+        place();
+    }
     for (std::size_t i = 0; i < picPaleta_.size(); ++i)
-        if (shown_[i] != okno.picPaleta[i]) {
-            shown_[i] = okno.picPaleta[i];
-            setColour(picPaleta_[i], QPalette::Window, toQColor(okno.picPaleta[i]));
-        }
+        setColour(picPaleta_[i], QPalette::Window, toQColor(okno.picPaleta[i]));
     setColour(picWybrany_, QPalette::Window, toQColor(okno.picWybrany));
     lblWybrany_->setText(toQString(okno.lblWybrany));
     if (okno.otwarte == isVisible())

@@ -1,4 +1,4 @@
-// The palette dialog beside the main window.
+// The palette dialog beside the main window. Its widgets are made when it is first opened.
 #pragma once
 
 #include "shell/okno.h"
@@ -7,7 +7,6 @@
 
 #include <array>
 #include <functional>
-#include <optional>
 
 class QLabel;
 
@@ -25,10 +24,12 @@ public:
     void showOkno(const OknoPalety&);
 
 private:
+    void build(); // when first opened
+    void place();
+
     std::array<EtykietaObramowana*, 128> picPaleta_{};
-    std::array<std::optional<Rgb>, 128> shown_; // the colours of the cells
-    QWidget* picWybrany_;
-    QLabel* lblWybrany_;
+    QWidget* picWybrany_ = nullptr;
+    QLabel* lblWybrany_ = nullptr;
 };
 
 } // namespace dorva

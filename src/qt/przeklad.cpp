@@ -55,6 +55,8 @@ QColor toQColor(Rgb c) {
 }
 
 void setColour(QWidget* widget, QPalette::ColorRole role, const QColor& colour) {
+    if (widget->palette().color(role) == colour)
+        return;
     QPalette palette = widget->palette();
     palette.setColor(role, colour);
     widget->setPalette(palette);

@@ -28,6 +28,8 @@ QString nameOfPath(const std::filesystem::path&);
 std::filesystem::path toPath(const QString&);
 
 QColor toQColor(Rgb);
+
+// Leaves a widget of this colour alone.
 void setColour(QWidget*, QPalette::ColorRole, const QColor&);
 
 } // namespace dorva

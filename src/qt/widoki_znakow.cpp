@@ -88,28 +88,26 @@ PlanszaWidget::PlanszaWidget(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void PlanszaWidget::showOkno(const Okno& okno, Obrazki& obrazki) {
-    const bool anew = image_.isNull() || wersja_ != obrazki.wersja();
-    obrazki_ = &obrazki;
-    wersja_ = obrazki.wersja();
-    for (int i = 0; i < PLANSZA_CELLS; ++i) {
-        const ObrazRef ref = okno.imgPG[static_cast<std::size_t>(i)].obraz;
-        ObrazRef& shown = refs_[static_cast<std::size_t>(i)];
-        if (anew || shown != ref) {
-            shown = ref;
-            if (!anew)
-                composeCell(i);
-        }
+void PlanszaWidget::showPlansza(const Plansza& plansza, Obrazki& obrazki) {
+    for (int cell = 0; cell < PLANSZA_CELLS; ++cell) {
+        const ObrazekPtr& obrazek = obrazki[plansza[cell].obraz];
+        if (obrazki_[cell] == obrazek)
+            continue;
+        obrazki_[cell] = obrazek;
+        if (!image_.isNull())
+            composeCell(cell);
+        update(cellRect(cell, KRATKA_SIDE));
     }
-    if (anew)
-        compose();
-    if (obrys_ == okno.obrys)
-        return;
+}
+
+void PlanszaWidget::showObrys(int cell) {
     // On a fractional scale the line may lie on the neighbours' rims.
-    for (int cell : {obrys_, okno.obrys})
-        if (cell >= 0)
-            update(cellRect(cell, KRATKA_SIDE).adjusted(-1, -1, 1, 1));
-    obrys_ = okno.obrys;
+    const int before = std::exchange(obrys_, cell);
+    if (before == cell)
+        return;
+    for (int changed : {before, cell})
+        if (changed >= 0)
+            update(cellRect(changed, KRATKA_SIDE).adjusted(-1, -1, 1, 1));
 }
 
 int PlanszaWidget::cellSide() const {
@@ -125,18 +123,16 @@ void PlanszaWidget::compose() {
 void PlanszaWidget::composeCell(int cell) {
     const int side = image_.width() / PLANSZA_COLUMNS;
     const QRect rect = cellRect(cell, side);
-    const ObrazRef ref = refs_[static_cast<std::size_t>(cell)];
     for (int y = rect.top(); y <= rect.bottom(); ++y)
         std::fill_n(reinterpret_cast<std::uint32_t*>(image_.scanLine(y)) + rect.left(), side, SZARY);
-    blit(image_, rect.left(), rect.top(), (*obrazki_)[ref], side);
-    update(cellRect(cell, KRATKA_SIDE));
+    blit(image_, rect.left(), rect.top(), *obrazki_[cell], side);
 }
 
 void PlanszaWidget::paintEvent(QPaintEvent* event) {
-    if (!obrazki_)
+    if (!obrazki_.front())
         return;
     if (image_.width() != PLANSZA_COLUMNS * cellSide())
-        compose(); // the window has come to a screen of another scale
+        compose(); // for the first time, or the window has come to a screen of another scale
     QPainter painter(this);
     if (image_.width() == width()) {
         for (const QRect& part : event->region())
@@ -176,12 +172,12 @@ WyborWidget::WyborWidget(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void WyborWidget::showOkno(const Okno& okno, Obrazki& obrazki) {
-    bool changed = image_.isNull() || wersja_ != obrazki.wersja();
-    wersja_ = obrazki.wersja();
-    for (std::size_t i = 0; i < refs_.size(); ++i) {
-        changed |= refs_[i] != okno.imgZnak[i].obraz;
-        refs_[i] = okno.imgZnak[i].obraz;
+void WyborWidget::showZnaki(const std::array<ZnakSlot, ZNAKI_COUNT>& imgZnak, Obrazki& obrazki) {
+    bool changed = false;
+    for (int slot : WYBOR_ORDER) {
+        const ObrazekPtr& obrazek = obrazki[imgZnak[slot].obraz];
+        changed |= obrazki_[slot] != obrazek;
+        obrazki_[slot] = obrazek;
     }
     if (!changed)
         return;
@@ -190,7 +186,7 @@ void WyborWidget::showOkno(const Okno& okno, Obrazki& obrazki) {
     QPainter painter(&image_);
     for (int slot : WYBOR_ORDER) {
         const QRect rect = slotRect(slot);
-        painter.drawImage(rect.topLeft() + QPoint(1, 1), imageOver(obrazki[refs_[static_cast<std::size_t>(slot)]]));
+        painter.drawImage(rect.topLeft() + QPoint(1, 1), imageOver(*obrazki_[slot]));
         drawBorder(painter, rect, QColor::fromRgb(SZARY)); // tells dark tiles apart as well as light ones
     }
     update();
@@ -210,7 +206,7 @@ int WyborWidget::slotAt(QPoint position) {
         return -1;
     const int column = std::min(position.x() / SLOT_PITCH, WYBOR_COLUMNS - 1);
     const int row = std::min(position.y() / SLOT_PITCH, 1);
-    const int slot = WYBOR_ORDER[static_cast<std::size_t>(row * WYBOR_COLUMNS + column)];
+    const int slot = WYBOR_ORDER[row * WYBOR_COLUMNS + column];
     return slotRect(slot).contains(position) ? slot : -1;
 }
 
@@ -222,8 +218,7 @@ bool WyborWidget::event(QEvent* event) {
     if (slot < 0)
         QToolTip::hideText();
     else {
-        QToolTip::showText(help->globalPos(), toQString(NAZWY_ZNAKOW[static_cast<std::size_t>(slot)]), this,
-                           slotRect(slot));
+        QToolTip::showText(help->globalPos(), toQString(NAZWY_ZNAKOW[slot]), this, slotRect(slot));
     }
     return true;
 }
@@ -247,28 +242,25 @@ ObrazWidget::ObrazWidget(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void ObrazWidget::showObraz(ObrazRef ref, Obrazki& obrazki) {
-    if (obrazki_ && ref_ == ref && wersja_ == obrazki.wersja())
+void ObrazWidget::showObraz(const ObrazekPtr& obrazek) {
+    if (obrazek_ == obrazek)
         return;
-    obrazki_ = &obrazki;
-    wersja_ = obrazki.wersja();
-    ref_ = ref;
+    obrazek_ = obrazek;
     update();
 }
 
 void ObrazWidget::paintEvent(QPaintEvent*) {
-    if (!obrazki_)
+    if (!obrazek_)
         return;
     QPainter painter(this);
-    const Obrazek& obrazek = (*obrazki_)[ref_];
     painter.fillRect(rect(), QColor::fromRgb(SZARY));
     if (width() >= SLOT_SIDE)
-        painter.drawImage(QPoint(1, 1), imageOver(obrazek));
+        painter.drawImage(QPoint(1, 1), imageOver(*obrazek_));
     else if (devicePixelRatioF() > 1) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(rect(), imageOver(obrazek));
+        painter.drawImage(rect(), imageOver(*obrazek_));
     } else
-        painter.drawImage(QPoint(0, 0), smallImageOver(obrazek));
+        painter.drawImage(QPoint(0, 0), smallImageOver(*obrazek_));
     drawBorder(painter, rect(), Qt::black);
 }
 

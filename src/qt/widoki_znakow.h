@@ -22,7 +22,8 @@ public:
     // every cell on the way from the last pointer position is reported.
     std::function<void(int cell, int button)> onPress, onMove;
 
-    void showOkno(const Okno&, Obrazki&);
+    void showPlansza(const Plansza&, Obrazki&);
+    void showObrys(int cell); // -1 for none
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -34,11 +35,9 @@ private:
     void compose();
     void composeCell(int cell);
 
-    Obrazki* obrazki_ = nullptr;
-    unsigned wersja_ = 0;
-    std::array<ObrazRef, PLANSZA_CELLS> refs_{};
+    std::array<ObrazekPtr, PLANSZA_CELLS> obrazki_;
     int obrys_ = -1;
-    QImage image_;
+    QImage image_;   // composed of them when first painted
     QPoint pointer_; // in cells; may lie outside the board during a drag
 };
 
@@ -50,7 +49,7 @@ public:
     // A click on a slot: pressed and released within it.
     std::function<void(int slot)> onClick;
 
-    void showOkno(const Okno&, Obrazki&);
+    void showZnaki(const std::array<ZnakSlot, ZNAKI_COUNT>&, Obrazki&);
 
     // The rectangle of a visible slot, its border included; empty for a hidden one.
     [[nodiscard]] static QRect slotRect(int slot);
@@ -64,8 +63,7 @@ protected:
 private:
     [[nodiscard]] static int slotAt(QPoint); // -1 for none
 
-    unsigned wersja_ = 0;
-    std::array<ObrazRef, ZNAKI_COUNT> refs_{};
+    std::array<ObrazekPtr, ZNAKI_COUNT> obrazki_;
     QImage image_;
     int pressed_ = -1;
 };
@@ -75,15 +73,13 @@ private:
 class ObrazWidget : public QWidget {
 public:
     explicit ObrazWidget(QWidget* parent);
-    void showObraz(ObrazRef, Obrazki&);
+    void showObraz(const ObrazekPtr&);
 
 protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    Obrazki* obrazki_ = nullptr;
-    unsigned wersja_ = 0;
-    ObrazRef ref_{};
+    ObrazekPtr obrazek_;
 };
 
 } // namespace dorva

@@ -1,13 +1,28 @@
-// From a row of the catalogue to its widget.
+// Makes the widget that a row of the catalogue asks for, with its caption; place and name are the caller's.
 #pragma once
-
-#include "qt/katalog.h"
 
 class QWidget;
 
 namespace dorva {
 
-// Makes the widget that a row of the catalogue asks for, with its caption; place and name are the caller's.
-QWidget* makeWidget(const Kontrolka&, QWidget* parent);
+struct Kontrolka;
 
+namespace wytwornia {
+
+QWidget* ramka(const Kontrolka&, QWidget* parent);    // a frame with a caption
+QWidget* podklad(const Kontrolka&, QWidget* parent);  // a grey field without a border
+QWidget* przycisk(const Kontrolka&, QWidget* parent); // a button
+QWidget* opcja(const Kontrolka&, QWidget* parent);    // a button that stays down while selected
+QWidget* znacznik(const Kontrolka&, QWidget* parent); // a check box
+QWidget* etykieta(const Kontrolka&, QWidget* parent); // a plain label, centred
+QWidget* nazwa(const Kontrolka&, QWidget* parent);    // a label, right-aligned
+QWidget* figura(const Kontrolka&, QWidget* parent);   // a label with a thin border, centred
+QWidget* probka(const Kontrolka&, QWidget* parent);   // a swatch: a bold figure on its colour, with a thin border
+QWidget* suwak(const Kontrolka&, QWidget* parent);    // a horizontal scroll bar
+QWidget* pole(const Kontrolka&, QWidget* parent);     // a text box
+QWidget* obraz(const Kontrolka&, QWidget* parent);    // the picture of one tile
+QWidget* plansza(const Kontrolka&, QWidget* parent);  // the board
+QWidget* wybor(const Kontrolka&, QWidget* parent);    // the tile picker
+
+} // namespace wytwornia
 } // namespace dorva

@@ -16,6 +16,9 @@ struct Pole {
     PoleTekstu& (*box)(Okno&);
     std::size_t width;
     Forma forma;
+
+    // The box in a record that is only read.
+    [[nodiscard]] const PoleTekstu& in(const Okno& okno) const { return box(const_cast<Okno&>(okno)); }
 };
 
 inline constexpr std::array<Pole, 5> POLA{{

@@ -1,6 +1,9 @@
 // The whole window against a list of what a user has to find, where and under which words.
 #include "stanowisko.h"
 
+#include "qt/budowa_okna.h"
+#include "qt/wytwornia.h"
+
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -170,6 +173,20 @@ TEST_F(Katalog, TabVisitsTheControlsInOrder) {
                              "txtAutorGry(0)", "txtAutorGry(1)", "txtAutorGry(2)",  "cmdLoad",  "cmdLoadArch",
                              "cmdTest",        "cmdSave",        "cmdSaveArch",     "cmdCreate"};
     EXPECT_EQ(visited.join(" ").toStdString(), wanted.join(" ").toStdString()); // stage 1 of the desk lies in world 1
+}
+
+// Container, binding, tab stop and kind alike: what is not in the catalogue is told by its name.
+TEST_F(Katalog, AMisspeltNameEndsTheProgram) {
+    QWidget window;
+    const KontrolkiOkna kontrolki(katalogOkna(), &window);
+    const auto end = ::testing::ExitedWithCode(1);
+    EXPECT_EXIT(KontrolkiOkna({{wytwornia::ramka, "fraA", -1, "fraPloe", 0, 0, 0, 0, "", ""}}, &window), end,
+                "fraPloe");
+    EXPECT_EXIT((void)kontrolki.get<QPushButton>("cmdLaod"), end, "cmdLaod");
+    EXPECT_EXIT((void)kontrolki.get<QPushButton>("optPPM", 2), end, "optPPM.2");
+    EXPECT_EXIT((void)kontrolki.get<QLineEdit>("cmdLoad"), end, "cmdLoad");
+    EXPECT_EXIT((void)kontrolki.getAll<QPushButton>("txtAutorGry"), end, "txtAutorGry.0");
+    EXPECT_EXIT(kontrolki.setTabOrder({"cmdLoad", "txtNzawa"}), end, "txtNzawa");
 }
 
 } // namespace

@@ -1,0 +1,44 @@
+#include "qt/budowa_okna.h"
+
+#include "qt/przeklad.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace dorva {
+namespace {
+
+QString nameOf(std::string_view name, int index) {
+    return index < 0 ? toQString(name) : QString("%1(%2)").arg(toQString(name)).arg(index);
+}
+
+} // namespace
+
+KontrolkiOkna::KontrolkiOkna(const std::vector<Kontrolka>& katalog, QWidget* window) {
+    for (const Kontrolka& k : katalog) {
+        QWidget* widget = k.make(k, k.container.empty() ? window : get<QWidget>(k.container));
+        widget->setObjectName(nameOf(k.name, k.index));
+        widget->setGeometry(pixels(k.left), pixels(k.top), pixels(k.width), pixels(k.height));
+        widget->setToolTip(toQString(k.tooltip));
+        widget->setEnabled(k.enabled);
+        widget->setVisible(k.visible);
+        widgets_[{k.name, k.index}] = widget;
+    }
+}
+
+void KontrolkiOkna::setTabOrder(const std::vector<std::string_view>& names) const {
+    QWidget* last = nullptr;
+    for (std::string_view name : names)
+        for (QWidget* widget : getAll<QWidget>(name)) {
+            if (last)
+                QWidget::setTabOrder(last, widget);
+            last = widget;
+        }
+}
+
+void KontrolkiOkna::endWithoutControl(std::string_view name, int index) {
+    std::fprintf(stderr, "Planszownik: w oknie nie ma takiej kontrolki: %s\n", qUtf8Printable(nameOf(name, index)));
+    std::_Exit(EXIT_FAILURE);
+}
+
+} // namespace dorva

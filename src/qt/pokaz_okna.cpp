@@ -1,0 +1,111 @@
+#include "qt/pokaz_okna.h"
+
+#include "qt/budowa_okna.h"
+#include "qt/kontrolki.h"
+#include "qt/paleta_okno.h"
+#include "qt/przeklad.h"
+#include "qt/widoki_znakow.h"
+#include "stage/pola.h"
+
+#include <QCheckBox>
+#include <QSignalBlocker>
+
+namespace dorva {
+namespace {
+
+// Where the record keeps the selected option of a group.
+struct GrupaOpcji {
+    std::string_view name;
+    int Okno::*selected;
+};
+constexpr GrupaOpcji GRUPY[]{{"optEtapNR", &Okno::optEtapNR},
+                             {"optObiektyNR", &Okno::optObiektyNR},
+                             {"optPPM", &Okno::optPPM},
+                             {"optNN", &Okno::optNN}};
+
+constexpr Qt::CheckState STANY[]{Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};
+
+} // namespace
+
+PokazOkna::PokazOkna(QWidget& window, const KontrolkiOkna& kontrolki, PaletaOkno& dlgPaleta, const Magazyn& zestawy)
+    : obrazki_(zestawy), window_(window), dlgPaleta_(dlgPaleta), imgPG_(kontrolki.get<PlanszaWidget>("imgPG")),
+      imgZnak_(kontrolki.get<WyborWidget>("imgZnak")), imgBufor_(kontrolki.get<ObrazWidget>("imgBufor")),
+      imgInfo_(kontrolki.getAll<ObrazWidget>("imgInfo")), lblInfo_(kontrolki.getAll<Etykieta>("lblInfo")),
+      lblKodBufor_(kontrolki.getAll<Etykieta>("lblKodBufor")), lblKolor_(kontrolki.getAll<Etykieta>("lblKolor")),
+      hscMonet_(kontrolki.get<QScrollBar>("hscMonet")), chkOstatni_(kontrolki.get<QCheckBox>("chkOstatni")),
+      chkZachowajKolory_(kontrolki.get<QCheckBox>("chkZachowajKolory")),
+      txtAutor_(kontrolki.get<PoleEdycji>("txtAutor")) {
+    for (const GrupaOpcji& grupa : GRUPY)
+        opcje_.push_back(kontrolki.getAll<QPushButton>(grupa.name));
+    for (const Pole& pole : POLA)
+        pola_.push_back(kontrolki.get<PoleEdycji>(pole.name, pole.index));
+}
+
+void PokazOkna::show(const Okno& okno) {
+    window_.setWindowTitle(toQString(okno.caption));
+    showObrazy(okno);
+    showOpcje(okno);
+    showFigury(okno);
+    showKolory(okno);
+    showPola(okno);
+    dlgPaleta_.showOkno(okno.dlgPaleta);
+}
+
+void PokazOkna::showObrazy(const Okno& okno) {
+    obrazki_.followMagazyn();
+    imgPG_->showPlansza(okno.imgPG, obrazki_);
+    imgPG_->showObrys(okno.obrys);
+    imgZnak_->showZnaki(okno.imgZnak, obrazki_);
+    imgBufor_->showObraz(obrazki_[okno.imgBufor.obraz]);
+    for (std::size_t i = 0; i < imgInfo_.size(); ++i)
+        imgInfo_[i]->showObraz(obrazki_[okno.imgInfo[i]]);
+}
+
+void PokazOkna::showOpcje(const Okno& okno) {
+    for (std::size_t group = 0; group < opcje_.size(); ++group) {
+        QPushButton* selected = opcje_[group][okno.*GRUPY[group].selected];
+        if (selected->isChecked())
+            continue;
+        selected->setChecked(true);
+        // the Tab key enters a group at its selected button
+        for (QPushButton* button : opcje_[group])
+            button->setFocusPolicy(button == selected ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+    chkOstatni_->setTristate(okno.chkOstatni == 2);
+    chkOstatni_->setCheckState(STANY[okno.chkOstatni]);
+    chkOstatni_->setEnabled(okno.chkOstatniEnabled);
+    chkZachowajKolory_->setChecked(okno.chkZachowajKolory);
+}
+
+void PokazOkna::showFigury(const Okno& okno) {
+    const QColor usual = window_.palette().color(QPalette::WindowText), red(Qt::red);
+    for (int i = 0; i < info::COUNT; ++i) {
+        const InfoFigura& figura = okno.lblInfo[i];
+        lblInfo_[i]->setText(toQString(infoCaption(static_cast<info::Figura>(i), figura.liczba)));
+        setColour(lblInfo_[i], QPalette::WindowText, figura.czerwona ? red : usual);
+    }
+    for (std::size_t i = 0; i < lblKodBufor_.size(); ++i)
+        lblKodBufor_[i]->setText(toQString(okno.lblKodBufor[i]));
+    const QSignalBlocker quiet(hscMonet_);
+    hscMonet_->setValue(okno.hscMonet);
+}
+
+void PokazOkna::showKolory(const Okno& okno) {
+    const QColor white(Qt::white), lightRed(255, 192, 192);
+    for (std::size_t i = 0; i < lblKolor_.size(); ++i) {
+        const KolorSlot& slot = okno.lblKolor[i];
+        lblKolor_[i]->setText(QString::number(slot.value));
+        setColour(lblKolor_[i], QPalette::Window, toQColor(slot.tlo));
+        setColour(lblKolor_[i], QPalette::WindowText, slot.wybrany ? lightRed : white);
+    }
+}
+
+void PokazOkna::showPola(const Okno& okno) {
+    for (std::size_t i = 0; i < pola_.size(); ++i) {
+        const PoleTekstu& pole = POLA[i].in(okno);
+        pola_[i]->showText(toQString(pole.tekst), pole.zaznaczenia);
+    }
+    txtAutor_->setEnabled(okno.txtAutorEnabled);
+}
+
+} // namespace dorva

@@ -1,0 +1,55 @@
+// Shows the record: brings the widgets to what it holds. What they show now is known to the widgets alone; each
+// takes a value that it has already at next to no cost.
+#pragma once
+
+#include "qt/obrazki.h"
+#include "shell/okno.h"
+
+#include <vector>
+
+class QCheckBox;
+class QPushButton;
+class QScrollBar;
+class QWidget;
+
+namespace dorva {
+
+class Etykieta;
+class KontrolkiOkna;
+class ObrazWidget;
+class PaletaOkno;
+class PlanszaWidget;
+class PoleEdycji;
+class WyborWidget;
+
+class PokazOkna {
+public:
+    // The store has to outlive it.
+    PokazOkna(QWidget& window, const KontrolkiOkna&, PaletaOkno&, const Magazyn& zestawy);
+
+    void show(const Okno&);
+
+private:
+    void showObrazy(const Okno&);
+    void showOpcje(const Okno&);
+    void showFigury(const Okno&);
+    void showKolory(const Okno&);
+    void showPola(const Okno&);
+
+    Obrazki obrazki_;
+    QWidget& window_;
+    PaletaOkno& dlgPaleta_;
+
+    PlanszaWidget* imgPG_;
+    WyborWidget* imgZnak_;
+    ObrazWidget* imgBufor_;
+    std::vector<ObrazWidget*> imgInfo_;
+    std::vector<Etykieta*> lblInfo_, lblKodBufor_, lblKolor_;
+    QScrollBar* hscMonet_;
+    QCheckBox *chkOstatni_, *chkZachowajKolory_;
+    std::vector<std::vector<QPushButton*>> opcje_; // by group
+    std::vector<PoleEdycji*> pola_;
+    PoleEdycji* txtAutor_;
+};
+
+} // namespace dorva
