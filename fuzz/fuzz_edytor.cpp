@@ -13,6 +13,8 @@
 #include "tiles/paleta.h"
 #include "tiles/zestaw.h"
 
+#include <iterator>
+
 using namespace dorva;
 using fuzz::pamiec;
 using fuzz::Strumien;

@@ -1,6 +1,8 @@
 #include "pulpit.h"
 #include "stage/archiwum.h"
 
+#include <algorithm>
+
 namespace dorva::test {
 namespace {
 

@@ -2,6 +2,8 @@
 #include "board/plansza.h"
 #include "pulpit.h"
 
+#include <utility>
+
 namespace dorva::test {
 namespace {
 

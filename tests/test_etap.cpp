@@ -1,6 +1,8 @@
 #include "pulpit.h"
 
+#include <algorithm>
 #include <random>
+#include <utility>
 
 namespace dorva::test {
 namespace {

@@ -2,6 +2,9 @@
 #include "output/obraz_gry.h"
 #include "pulpit.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace dorva::test {
 namespace {
 

@@ -4,6 +4,9 @@
 #include "stage/archiwum.h"
 #include "stage/pola.h"
 
+#include <stdexcept>
+#include <utility>
+
 namespace dorva::test {
 namespace {
 

@@ -4,7 +4,9 @@
 #include "pulpit.h"
 #include "stage/archiwum.h"
 
+#include <algorithm>
 #include <csignal>
+#include <iostream>
 #include <random>
 #include <sys/wait.h>
 

@@ -4,6 +4,7 @@
 #include "stage/tekst.h"
 #include "tiles/obraz.h"
 
+#include <utility>
 #include <vector>
 
 namespace dorva {

@@ -3,6 +3,7 @@
 #include "stage/etap_image.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace dorva {
 namespace {

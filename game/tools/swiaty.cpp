@@ -7,6 +7,7 @@
 #include "etapy.h"
 
 #include <algorithm>
+#include <exception>
 #include <functional>
 #include <iostream>
 #include <map>

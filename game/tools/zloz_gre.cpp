@@ -6,6 +6,7 @@
 #include "stage/etap_image.h"
 #include "zrodlo.h"
 
+#include <exception>
 #include <iostream>
 
 using namespace dorva;

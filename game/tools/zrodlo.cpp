@@ -1,8 +1,10 @@
 #include "zrodlo.h"
 
+#include <algorithm>
 #include <charconv>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 namespace dorva {
 namespace {

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include <algorithm>
 #include <utility>
 
 namespace dorva {

@@ -3,6 +3,7 @@
 #include <QColor>
 
 #include <algorithm>
+#include <string>
 
 namespace dorva {
 namespace {

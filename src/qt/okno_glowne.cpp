@@ -6,6 +6,8 @@
 
 #include <QCloseEvent>
 
+#include <utility>
+
 namespace dorva {
 
 OknoGlowne::OknoGlowne(Edytor& e)

@@ -5,6 +5,8 @@
 #include "tiles/kolory.h"
 #include "tiles/zestaw.h"
 
+#include <utility>
+
 namespace dorva {
 namespace {
 

@@ -9,6 +9,8 @@
 #include "system/pliki.h"
 #include "tiles/zestaw.h"
 
+#include <utility>
+
 namespace dorva {
 namespace {
 

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <set>
+#include <string>
+#include <utility>
 
 namespace dorva {
 namespace {

@@ -4,6 +4,8 @@
 #include "system/pliki.h"
 #include "tiles/kolory.h"
 
+#include <utility>
+
 namespace dorva {
 namespace {
 

@@ -3,6 +3,9 @@
 
 #include <sys/stat.h>
 
+#include <tuple>
+#include <utility>
+
 namespace dorva::test {
 namespace {
 

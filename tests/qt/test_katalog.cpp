@@ -9,6 +9,9 @@
 #include <QLabel>
 #include <QScrollBar>
 
+#include <algorithm>
+#include <tuple>
+
 namespace dorva::test {
 namespace {
 

@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 
+#include <algorithm>
+
 namespace dorva::test {
 namespace {
 
