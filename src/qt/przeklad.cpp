@@ -3,12 +3,22 @@
 #include <QFile>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace dorva {
 namespace {
 
 constexpr char16_t SYMBOLE_STEROWANIA = 0x2400; // pictures of the control codes
 constexpr char16_t SYMBOL_DEL = 0x2421;
 constexpr Bajt KOD_DEL = 127;
+
+// What a box shows for a byte.
+QChar signOf(char c) {
+    const auto code = static_cast<Bajt>(c);
+    if (code < ' ')
+        return static_cast<char16_t>(SYMBOLE_STEROWANIA + code);
+    return code == KOD_DEL ? SYMBOL_DEL : toUnicode(code);
+}
 
 } // namespace
 
@@ -17,15 +27,8 @@ QString toQString(std::string_view utf8) {
 }
 
 QString toQString(const Tekst& tekst) {
-    QString result;
-    result.reserve(static_cast<qsizetype>(tekst.size()));
-    for (char c : tekst.znaki) {
-        const auto code = static_cast<Bajt>(c);
-        if (code < ' ')
-            result += QChar(static_cast<char16_t>(SYMBOLE_STEROWANIA + code));
-        else
-            result += QChar(code == KOD_DEL ? SYMBOL_DEL : toUnicode(code));
-    }
+    QString result(static_cast<qsizetype>(tekst.size()), Qt::Uninitialized);
+    std::transform(tekst.znaki.begin(), tekst.znaki.end(), result.begin(), signOf);
     return result;
 }
 
