@@ -17,13 +17,13 @@ namespace dorva::test {
 
 namespace fs = std::filesystem;
 
-// Windows has them, but mostly no right to them.
-inline constexpr bool HAVE_LINKS = fs::path::preferred_separator == '/';
+// Symbolic links for everyone, and names of any characters but one.
+inline constexpr bool POSIX = fs::path::preferred_separator == '/';
 
 // A new folder, in memory where the system has a place for that.
 inline fs::path makeFolder() {
     const fs::path memory = "/dev/shm";
-    const fs::path place = HAVE_LINKS && fs::exists(memory) ? memory : fs::temp_directory_path();
+    const fs::path place = POSIX && fs::exists(memory) ? memory : fs::temp_directory_path();
     std::random_device random;
     for (;;)
         if (const fs::path folder = place / ("dorva-" + std::to_string(random())); fs::create_directory(folder))
@@ -121,8 +121,10 @@ protected:
     [[nodiscard]] fs::path etap(int number) const { return base / "ETAPY" / ("DETAP." + std::to_string(number)); }
     Znak& cell(int row, int column) { return e.okno.imgPG[static_cast<std::size_t>(row * 40 + column)].znak; }
     [[nodiscard]] std::vector<std::string> namesIn(const char* folder) const {
-        const auto names = listNames(SYSTEM_PLIKOW, base / folder, "");
-        return {names.begin(), names.end()};
+        std::vector<std::string> names;
+        for (const fs::path& name : listNames(SYSTEM_PLIKOW, base / folder, ""))
+            names.push_back(name.string());
+        return names;
     }
 
     fs::path root, base;

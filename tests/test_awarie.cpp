@@ -56,7 +56,7 @@ void makeStage(const fs::path& base) {
 
 void makeLink(const fs::path& base) {
     writeFile(base / "../cel", {1, 2, 3});
-    if (HAVE_LINKS)
+    if (POSIX)
         fs::create_symlink("cel", base / "../wybrany");
     else
         fs::rename(base / "../cel", base / "../wybrany");
@@ -66,7 +66,7 @@ void startNew(Edytor& e) {
     Form_Load(e, fs::path(e.KatalogBazowy), "1.0.2");
 }
 
-const std::string CEL = HAVE_LINKS ? "cel" : "wybrany"; // what the dialog's choice leads to
+const std::string CEL = POSIX ? "cel" : "wybrany"; // what the dialog's choice leads to
 const std::string ZASTAPIC(komunikaty::ZASTAPIC.text);
 
 const std::vector<Scenariusz> SCENARIUSZE{

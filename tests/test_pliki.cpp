@@ -1,42 +1,10 @@
 #include "pulpit.h"
 #include "system/system_plikow.h"
 
-#include <sys/stat.h>
-
 namespace dorva::test {
 namespace {
 
 class Pliki : public Pulpit {};
-
-TEST_F(Pliki, WriteKeepsModeAndLinks) {
-    const auto file = root / "plik", link = root / "dowiazanie";
-    writeFile(file, {1, 2, 3});
-    fs::permissions(file, fs::perms(0640));
-    fs::create_symlink("plik", link);
-    ASSERT_TRUE(writeWhole(SYSTEM_PLIKOW, link, Bajty{9}));
-    EXPECT_TRUE(fs::is_symlink(link));
-    EXPECT_EQ(readFile(file), Bajty{9});
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
-}
-
-TEST_F(Pliki, WriteRefusesWhatCouldNotBeOpened) {
-    fs::create_directory(root / "katalog");
-    ASSERT_EQ(::mkfifo((root / "potok").c_str(), 0600), 0);
-    fs::create_symlink("petla", root / "petla");
-    for (const char* name : {"katalog", "potok", "petla", "brak/plik"})
-        EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, root / name, Bajty{1})) << name;
-    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 4U) << "no temporary file is left";
-    EXPECT_TRUE(fs::is_fifo(root / "potok"));
-}
-
-TEST_F(Pliki, ReadNeverHangsAndCreatesTheMissing) {
-    ASSERT_EQ(::mkfifo((root / "potok").c_str(), 0600), 0);
-    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root / "potok", 1));
-    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, "/dev/zero", 1));
-    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root, 1));
-    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root / "nowy", 1));
-    EXPECT_EQ(lengthOf(SYSTEM_PLIKOW, root / "nowy"), 0U);
-}
 
 // One call that fails, by name.
 template <class Call> SystemPlikow without(Call call) {
@@ -59,21 +27,6 @@ TEST_F(Pliki, WhatIsNotOnDiskIsNotWritten) {
         EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{2}));
     EXPECT_EQ(readFile(root / "plik"), Bajty{1});
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 2U);
-}
-
-TEST_F(Pliki, FileSystemsWithoutModeBitsOrHardLinks) {
-    const auto system = without([](SystemPlikow& s) {
-        s.setMode = [](Uchwyt, unsigned) { return Wynik::Odmowa; };
-        s.link = answer<Wynik::Odmowa>;
-    });
-    ::umask(022);
-    writeFile(root / "plik", {1});
-    ASSERT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{2}, {}));
-    EXPECT_EQ(readFile(root / "plik.kopia"), Bajty{1});
-    fs::permissions(root / "plik", fs::perms(0600));
-    EXPECT_TRUE(writeWhole(system, root / "plik", Bajty{3}));
-    EXPECT_EQ(readFile(root / "plik"), Bajty{3});
-    EXPECT_EQ(fs::status(root / "plik").permissions(), fs::perms(0600)) << "a private file never becomes a public one";
 }
 
 TEST_F(Pliki, ListingThatBreaksOffGivesNoNames) {
@@ -156,31 +109,6 @@ TEST_F(Pliki, InPlaceWhereTheFolderRefusesNewNames) {
     EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{5})) << "the second name would change along";
     EXPECT_EQ(readFile(root / "plik"), (Bajty{1, 2, 3, 4}));
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 3U);
-}
-
-TEST_F(Pliki, ExistenceAndSameness) {
-    writeFile(root / "plik", {1});
-    writeFile(root / "inny", {1});
-    fs::create_symlink("plik", root / "link");
-    EXPECT_TRUE(fileExists(SYSTEM_PLIKOW, root / "link"));
-    EXPECT_FALSE(fileExists(SYSTEM_PLIKOW, root / "brak"));
-    EXPECT_FALSE(fileExists(SYSTEM_PLIKOW, root / "plik" / "pod plikiem"));
-    EXPECT_TRUE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / "link"));
-    for (const char* name : {"inny", "brak", "plik/pod plikiem", "/dev/null"})
-        EXPECT_FALSE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / name)) << name;
-    fs::create_symlink("petla", root / "petla");
-    EXPECT_TRUE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / "petla")) << "can't be told";
-}
-
-TEST_F(Pliki, StartSweepsLeftoversOfTheDeadAlone) {
-    for (const char* name : {"dorva-999999999.dp-tmp", "dorva-.dp-tmp"})
-        writeFile(base / "ETAPY" / name, {1});
-    writeFile(base / "PLIKI" / ("dorva-" + std::to_string(::getpid()) + ".dp-tmp"), {1});
-    writeFile(base / "ETAPY/dorva-1.dp-tmp", {1}); // process 1 always lives
-    writeFile(base / "ETAPY/moje.dp-tmp", {1});
-    start();
-    EXPECT_EQ(namesIn("ETAPY").size(), 34U);
-    EXPECT_EQ(namesIn("PLIKI"), (std::vector<std::string>{"DP1.DTA", "DP2.DTA"}));
 }
 
 } // namespace

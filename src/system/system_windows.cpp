@@ -71,6 +71,10 @@ Wynik open(const fs::path& path, Otwarcie otwarcie, Uchwyt& file) {
                              : otwarcie == Otwarcie::Utworzenie ? OPEN_ALWAYS
                              : otwarcie == Otwarcie::OdNowa     ? TRUNCATE_EXISTING
                                                                 : OPEN_EXISTING;
+    // Told by the flag itself: who may do everything would be let in all the same.
+    const ::DWORD attributes = ::GetFileAttributesW(path.c_str());
+    if (access == GENERIC_WRITE && attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+        return Wynik::Odmowa;
     return patiently([&] { return openAs(path, access, creation, FILE_ATTRIBUTE_NORMAL, file); }, false);
 }
 

@@ -1,0 +1,58 @@
+#!/bin/sh
+# Builds Qt for Windows, once, from Debian's own source package and into the user's cache. Only what the window
+# (core, gui, widgets) and its tests (testlib) need; shared libraries. Some half an hour on two cores.
+# --where: only prints the folder, whether anything is in it or not.
+set -eu
+
+version=6.4.2
+cache=${XDG_CACHE_HOME:-$HOME/.cache}/dorva-planszownik
+target=$cache/qt-windows-$version
+case ${1-} in
+--where) echo "$target" && exit ;;
+esac
+[ ! -f "$target/ready" ] || exit 0
+
+work=$cache/qt-windows-build
+rm -rf "$work" "$target"
+mkdir -p "$work/lists/partial" "$work/archives/partial"
+as_root=
+[ "$(id -u)" = 0 ] || as_root=sudo
+
+# The source package comes from the mirror that this system uses, through a list of its own.
+$as_root apt-get update -qq
+apt-get indextargets --format 'deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $(REPO_URI) $(RELEASE) $(COMPONENT)' \
+    'Identifier: Packages' 'Origin: Debian' 'Component: main' >"$work/sources.list"
+own_list="-o Dir::Etc::SourceList=$work/sources.list -o Dir::Etc::SourceParts=- -o Dir::State::Lists=$work/lists
+    -o Dir::Cache=$work -o Dir::Cache::Archives=$work/archives -o APT::Sandbox::User="
+cd "$work"
+# shellcheck disable=SC2086
+apt-get $own_list update -qq
+# shellcheck disable=SC2086
+apt-get $own_list source -qq qt6-base/bookworm
+source=$(echo qt6-base-$version*/)
+
+off=
+for feature in network sql dbus xml concurrent printsupport opengl vulkan icu zstd glib system_zlib pkg_config tabletevent \
+    jpeg gif ico textmarkdownreader textmarkdownwriter textodfwriter; do
+    off="$off -DFEATURE_$feature=OFF"
+done
+# shellcheck disable=SC2086
+cmake -G Ninja -S "$source" -B build -Wno-dev \
+    -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_SYSTEM_PROCESSOR=x86_64 \
+    -DCMAKE_C_COMPILER=x86_64-w64-mingw32-gcc-posix -DCMAKE_CXX_COMPILER=x86_64-w64-mingw32-g++-posix \
+    -DCMAKE_RC_COMPILER=x86_64-w64-mingw32-windres \
+    -DCMAKE_FIND_ROOT_PATH=/usr/x86_64-w64-mingw32 \
+    -DCMAKE_FIND_ROOT_PATH_MODE_PROGRAM=NEVER -DCMAKE_FIND_ROOT_PATH_MODE_LIBRARY=ONLY \
+    -DCMAKE_FIND_ROOT_PATH_MODE_INCLUDE=ONLY -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=ONLY \
+    -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
+    -DCMAKE_INSTALL_PREFIX="$target" -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON \
+    -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF \
+    -DFEATURE_system_png=OFF -DFEATURE_system_pcre2=OFF -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_freetype=OFF \
+    $off
+cmake --build build -j2
+cmake --install build --strip
+mkdir -p "$target/licences"
+cp "$source"/LICENSES/* "$target/licences/"
+cd "$cache"
+rm -rf "$work"
+touch "$target/ready"

@@ -1,0 +1,100 @@
+#include "system/wzorzec.h"
+
+#include "system/pliki.h"
+#include "system/system_plikow.h"
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+namespace dorva {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view SPIS = ".ulozone"; // a line for every content ever laid
+
+std::optional<Bajty> contentOf(const SystemPlikow& system, const fs::path& path) {
+    const auto length = lengthOf(system, path);
+    return length ? readFirst(system, path, static_cast<std::size_t>(*length)) : std::nullopt;
+}
+
+// A content's line: a checksum (FNV-1a), its length and the file's name.
+std::string lineOf(std::string_view name, const Bajty& bytes) {
+    std::uint64_t sum = 0xCBF29CE484222325;
+    for (const Bajt byte : bytes)
+        sum = (sum ^ byte) * 0x100000001B3;
+    return std::to_string(sum) + ' ' + std::to_string(bytes.size()) + ' ' + std::string(name);
+}
+
+class Spis {
+public:
+    Spis(const SystemPlikow& system, fs::path path) : system_(system), path_(std::move(path)) {
+        const Bajty text = contentOf(system_, path_).value_or(Bajty());
+        for (auto at = text.begin(); at != text.end();) {
+            const auto end = std::find(at, text.end(), '\n');
+            lines_.emplace(at, end);
+            at = end == text.end() ? end : end + 1;
+        }
+        stored_ = lines_.size();
+    }
+    [[nodiscard]] bool knows(const std::string& line) const { return lines_.contains(line); }
+    void add(const std::string& line) { lines_.insert(line); }
+    [[nodiscard]] bool store() const {
+        if (lines_.size() == stored_)
+            return true;
+        Bajty text;
+        for (const std::string& line : lines_) {
+            text.insert(text.end(), line.begin(), line.end());
+            text.push_back('\n');
+        }
+        return writeWhole(system_, path_, text);
+    }
+
+private:
+    const SystemPlikow& system_;
+    fs::path path_;
+    std::set<std::string> lines_;
+    std::size_t stored_ = 0;
+};
+
+// The files of a tree, by their names within it.
+std::vector<fs::path> filesIn(const fs::path& tree) {
+    std::vector<fs::path> names;
+    std::error_code error;
+    for (fs::recursive_directory_iterator at(tree, error), end; !error && at != end; at.increment(error))
+        if (std::error_code unknown; at->is_regular_file(unknown))
+            names.push_back(at->path().lexically_relative(tree));
+    return names;
+}
+
+bool put(const SystemPlikow& system, const fs::path& path, const Bajty& bytes) {
+    std::error_code error;
+    fs::create_directories(path.parent_path(), error);
+    return writeWhole(system, path, bytes);
+}
+
+} // namespace
+
+bool layOut(const SystemPlikow& system, const fs::path& wzorzec, const fs::path& folder) {
+    Spis spis(system, folder / SPIS);
+    bool allLaid = true;
+    for (const fs::path& name : filesIn(wzorzec)) {
+        const auto fresh = contentOf(system, wzorzec / name);
+        const auto old = contentOf(system, folder / name);
+        if (!fresh || (!old && fileExists(system, folder / name)))
+            continue;
+        const std::u8string u8 = name.generic_u8string();
+        const std::string text(u8.begin(), u8.end());
+        const bool isOwners = old && !old->empty() && *old != *fresh && !spis.knows(lineOf(text, *old));
+        if (isOwners)
+            continue;
+        if (old == fresh || put(system, folder / name, *fresh))
+            spis.add(lineOf(text, *fresh));
+        else
+            allLaid = false;
+    }
+    return spis.store() && allLaid;
+}
+
+} // namespace dorva

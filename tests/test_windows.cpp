@@ -1,0 +1,80 @@
+// What only Windows does to files: holders, the read-only flag, device names, long paths, wide names.
+#include "pulpit.h"
+#include "system/proces.h"
+#include "system/system_plikow.h"
+
+#include <array>
+#include <thread>
+#include <windows.h>
+
+namespace dorva::test {
+namespace {
+
+// What another program that holds a file lets others do.
+constexpr std::array<::DWORD, 3> SHARES{0, FILE_SHARE_READ, FILE_SHARE_READ | FILE_SHARE_WRITE};
+
+class Windows : public Pulpit {
+protected:
+    static ::HANDLE hold(const fs::path& path, ::DWORD share) {
+        return ::CreateFileW(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr);
+    }
+    void expectUntouched() {
+        EXPECT_EQ(readFile(etap(1)), sampleEtap(1));
+        EXPECT_EQ(namesIn("ETAPY").size(), 32U);
+    }
+};
+
+TEST_F(Windows, AHolderOfAMomentIsWaitedFor) {
+    for (::DWORD share : SHARES) {
+        ::HANDLE held = hold(etap(1), share);
+        std::thread holder([held] {
+            ::Sleep(60);
+            ::CloseHandle(held);
+        });
+        EXPECT_TRUE(writeWhole(SYSTEM_PLIKOW, etap(1), Bajty{9})) << share;
+        holder.join();
+        EXPECT_EQ(readFile(etap(1)), Bajty{9});
+    }
+}
+
+TEST_F(Windows, AHolderForGoodAndAReadOnlyFileAreRefusals) {
+    for (::DWORD share : SHARES) {
+        ::HANDLE held = hold(etap(1), share);
+        EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, etap(1), Bajty{9})) << share;
+        ::CloseHandle(held);
+        expectUntouched();
+    }
+    ::SetFileAttributesW(etap(1).c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, etap(1), Bajty{9}));
+    ::SetFileAttributesW(etap(1).c_str(), FILE_ATTRIBUTE_NORMAL);
+    expectUntouched();
+}
+
+TEST_F(Windows, DevicesFoldersAndImpossibleNamesAreRefused) {
+    for (const wchar_t* name : {L"NUL", L"CON", L"ETAPY", L"brak\\plik", L"a?b", L"a:b:c"}) {
+        EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, base / name, Bajty{1})) << fs::path(name);
+        EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, base / name, 1)) << fs::path(name);
+    }
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, base, "").size(), 3U);
+}
+
+TEST_F(Windows, LongPathsWorkOrFailAsAWhole) {
+    fs::path folder = base;
+    while (folder.native().size() < 400)
+        folder /= L"łódź i jeszcze kawałek drogi";
+    const fs::path file = folder / L"DETAP.1";
+    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, file, 1));
+    EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, file, Bajty{1})) << "its folder is missing";
+    EXPECT_FALSE(fileExists(SYSTEM_PLIKOW, file));
+    EXPECT_TRUE(listNames(SYSTEM_PLIKOW, folder, "").empty());
+}
+
+TEST_F(Windows, ProcessesAreKnownByNumber) {
+    EXPECT_TRUE(isRunning(ownNumber()));
+    EXPECT_FALSE(isRunning(0));
+    EXPECT_FALSE(isRunning(0xFFFFFFF0));
+    EXPECT_EQ(ownExecutable().filename(), "dorva_tests.exe");
+}
+
+} // namespace
+} // namespace dorva::test
