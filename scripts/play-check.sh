@@ -397,8 +397,7 @@ take_pictures() {
     watch "$work/test.xex"
     keep wygrana
 
-    # shellcheck disable=SC2046
-    record $(seq -f 'R1 -99' 60) >"$work/input" # a move every two seconds ends each greeting
+    record "$(for _ in $(seq 60); do echo R1 -99; done)" >"$work/input" # a move every two seconds ends each greeting
     {
         until_at wcisniete
         for stage in $(seq 32); do

@@ -19,7 +19,7 @@ dorva_y: .res 1
 zegar:   .res 1         ; number of her latest step, 1..TROP and then 1 again
 kier:    .res 1         ; where she looks
 cel_kod: .res 1         ; the code of the tile that she steps at
-co_robi:     .res 2         ; what it does
+co_robi: .res 2         ; what it does
 na_plansze: .res 1      ; a code on its way to the board
 odstep:  .res 1         ; ticks until she can make another step
 powtorka: .res 1        ; ticks until a direction that is held makes another step
@@ -45,7 +45,7 @@ gdzie_lo: .res TROP     ; the cells of her last steps, by the number of the step
 gdzie_hi: .res TROP
 
 .segment "RODATA"
-bity_drazka:  .byte %0100, %1000, %0001, %0010           ; left, right, up, down
+bity_drazka:  .byte %0100, %1000, %0001, %0010          ; left, right, up, down
 obraz_kroku:  .byte IDZIE_LEWO, IDZIE_PRAWO, IDZIE_GORA, IDZIE_DOL
 .segment "CODE"
 

@@ -8,9 +8,10 @@
 
 PIERWSZA_LINIA = 36                     ; scan line of the board's first row
 LEWY_BRZEG = 48                         ; colour clock of its first column
-SUKNIA    = $5A
-BIEL      = $0E                         ; while she flickers
-CERA      = $2C
+SUKNIA    = $DE                         ; bright on the ground of every world
+CERA      = $26
+SUKNIA_MIGA = $5A                       ; while she flickers
+CERA_MIGA = $0E
 WYS       = 8
 
 ; Players at single-line resolution. ANTIC would find the missiles at the end of the board; none are on show.
@@ -71,12 +72,12 @@ pokaz_nakladke:
 mrugnij_nakladka:
         lda RTCLOK+2
         and #8
-        beq @biel
+        beq @miga
         ldx #SUKNIA
         ldy #CERA
         bne @barwy
-@biel:  ldx #BIEL
-        ldy #BIEL
+@miga:  ldx #SUKNIA_MIGA
+        ldy #CERA_MIGA
 @barwy: stx PCOLR0
         sty PCOLR0+1
         rts
@@ -119,7 +120,7 @@ rysuj_nakladke:
         lda ochrona
         and #4
         beq :+
-        ldx #BIEL
+        ldx #SUKNIA_MIGA
 :       stx PCOLR0
         lda dorva
         sta wsk_nakladki

@@ -23,7 +23,7 @@ kolumna: .res 1         ; the column of the cell whose turn it is
 kod:     .res 1         ; its code
 budzet:  .res 1
 rzedy:   .res 1
-czyn:     .res 2
+czyn:    .res 2
 kier_tropiciela: .res 1
 rana_patrolu: .res 1    ; what a patrol's touch takes
 strona:  .res 1

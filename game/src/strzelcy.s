@@ -19,8 +19,8 @@ kier_strzalu: .res 1
 rana_pocisku: .res 1
 pocisk: .res 1
 kroki_pocisku: .res 1
-okres:  .res 1         ; turns from one shot to the next
-widzi:  .res 1
+okres:   .res 1         ; turns from one shot to the next
+widzi:   .res 1
 
 .segment "CODE"
 

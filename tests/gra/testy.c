@@ -191,6 +191,11 @@ static void branie(void) {
     uloz1(1, "DEM"); /* closed before the goal, opened behind the back */
     idz("R");
     CHECK(wynik == 0 && tu(1, 1) && komunikat != 0);
+    CHECK(premia == 99); /* the bonus for time: one less every 75 ticks, and never less than none */
+    takty(75 * 2);
+    CHECK(premia == 97);
+    takty(75u * 100);
+    CHECK(premia == 0 && wynik == 0);
     uloz1(0, "DE"); /* no goal: open at once */
     idz("R");
     CHECK(wynik == ETAP_PRZESZLA);
