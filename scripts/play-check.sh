@@ -2,7 +2,7 @@
 # play-check.sh [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory: title,
 # the recorded runs through stages 1 to 3, dying, the last stage, all 32 stages, boards without a heroine and of any
 # bytes, keys, the overlay, frame rate, RESET and BASIC, larger machines and one of 64 KB. Says so and ends well where
-# there is no emulator. --pictures renews docs/obrazy/gra-*.png (needs Xvfb and ImageMagick).
+# there is no emulator. --pictures renews docs/obrazy/gra-*.png and etap-*.png (needs Xvfb and ImageMagick).
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -379,6 +379,13 @@ take_pictures() {
         echo "pictures: skipped, no Xvfb or ImageMagick"
         return
     fi
+    for picture in docs/obrazy/etap-??.png; do # boards as the editor shows them, in their stages' colours
+        stage=$(echo "$picture" | sed 's/.*etap-0*\([0-9]*\).png/\1/')
+        world=$(($(bytes "$stages/DETAP.$stage" "$ETAP_SWIAT" 1) + 1))
+        "$build/game/tools/swiaty" plansza "game/art/swiat$world.txt" "$stages/DETAP.$stage" "$work/board.bmp"
+        convert "$work/board.bmp" -strip "PNG8:$picture"
+        echo "picture: $picture"
+    done
     open_display "$work" 1024 768
     mkdir -p docs/obrazy
 
