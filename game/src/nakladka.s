@@ -10,8 +10,8 @@ PIERWSZA_LINIA = 36                     ; scan line of the board's first row
 LEWY_BRZEG = 48                         ; colour clock of its first column
 SUKNIA    = $DE                         ; bright on the ground of every world
 CERA      = $26
-SUKNIA_MIGA = $5A                       ; while she flickers
-CERA_MIGA = $0E
+ZRANIONA  = $5A                         ; the dress while she flickers
+BIEL      = $0E                         ; all of her, as she blinks before her first move
 WYS       = 8
 
 ; Players at single-line resolution. ANTIC would find the missiles at the end of the board; none are on show.
@@ -71,13 +71,13 @@ pokaz_nakladke:
 ; Blinks, so that nobody has to look for her: one frame of it.
 mrugnij_nakladka:
         lda RTCLOK+2
-        and #8
-        beq @miga
+        and #24                         ; a quarter of the time
+        beq @biel
         ldx #SUKNIA
         ldy #CERA
         bne @barwy
-@miga:  ldx #SUKNIA_MIGA
-        ldy #CERA_MIGA
+@biel:  ldx #BIEL
+        ldy #BIEL
 @barwy: stx PCOLR0
         sty PCOLR0+1
         rts
@@ -120,7 +120,7 @@ rysuj_nakladke:
         lda ochrona
         and #4
         beq :+
-        ldx #SUKNIA_MIGA
+        ldx #ZRANIONA
 :       stx PCOLR0
         lda dorva
         sta wsk_nakladki
