@@ -1,7 +1,9 @@
 #include "qt/aplikacja.h"
 #include "qt/okno_glowne.h"
-#include "qt/sygnaly.h"
+#include "qt/przeklad.h"
+#include "qt/sesja.h"
 #include "shell/start.h"
+#include "system/proces.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -28,10 +30,8 @@ QtMessageHandler installStartHandler() {
 
 // The folder of the executable, symbolic links resolved.
 std::filesystem::path ownFolder() {
-    std::error_code error;
-    const auto executable = std::filesystem::read_symlink("/proc/self/exe", error);
-    return error ? std::filesystem::path(QCoreApplication::applicationDirPath().toStdString())
-                 : executable.parent_path();
+    const auto executable = dorva::ownExecutable();
+    return executable.empty() ? dorva::toPath(QCoreApplication::applicationDirPath()) : executable.parent_path();
 }
 
 QIcon ownIcon() {
@@ -55,11 +55,13 @@ int main(int argc, char** argv) {
     dorva::setUpApplication(application);
     QApplication::setWindowIcon(ownIcon());
 
+    const auto folder = ownFolder();
+    dorva::prepareFolder(folder);
     dorva::Edytor edytor;
     dorva::OknoGlowne okno(edytor);
-    dorva::Form_Load(edytor, ownFolder(), DORVA_VERSION);
+    dorva::Form_Load(edytor, folder, DORVA_VERSION);
     okno.showRecord();
-    dorva::closeOnSignals(okno);
+    dorva::storeAtSessionEnd(okno);
     centre(okno);
     okno.show();
     return QApplication::exec();

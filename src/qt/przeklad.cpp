@@ -46,11 +46,11 @@ Tekst fromQString(const QString& text) {
 }
 
 QString nameOfPath(const std::filesystem::path& path) {
-    return QFile::decodeName(QByteArray::fromStdString(path.string()));
+    return QFile(path).fileName();
 }
 
 std::filesystem::path toPath(const QString& name) {
-    return QFile::encodeName(name).toStdString();
+    return QFile(name).filesystemFileName();
 }
 
 QColor toQColor(Rgb c) {

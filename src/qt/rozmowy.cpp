@@ -1,13 +1,13 @@
 #include "qt/rozmowy.h"
 
 #include "qt/przeklad.h"
-#include "system/pliki.h"
+#include "qt/sesja.h"
 
-#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QProcess>
 #include <QPushButton>
+
+#include <memory>
 
 namespace dorva {
 namespace {
@@ -40,6 +40,11 @@ QString startFolder(const fs::path& start) {
     return nameOfPath(fs::is_directory(start, error) ? start : start.parent_path());
 }
 
+struct EndDialog {
+    void operator()(QFileDialog* dialog) const { endFileDialog(dialog); }
+};
+using Dialog = std::unique_ptr<QFileDialog, EndDialog>;
+
 std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, const QString& accept) {
     constexpr QSize SIZE(760, 460); // of Qt's own dialog: dates are read in full
     dialog.resize(SIZE);
@@ -56,11 +61,6 @@ std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, co
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return toPath(dialog.selectedFiles().constFirst());
-}
-
-bool hasInterpreterLine(const fs::path& program) {
-    const auto start = readFirst(SYSTEM_PLIKOW, program, 2);
-    return start && (*start)[0] == '#' && (*start)[1] == '!';
 }
 
 } // namespace
@@ -82,30 +82,17 @@ bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
 }
 
 std::optional<fs::path> askOpen(QWidget* parent, const DialogPliku& question) {
-    QFileDialog dialog(parent, "Otwieranie");
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    return ask(dialog, question, "Otwórz");
+    const Dialog dialog(new QFileDialog(parent, "Otwieranie"));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    return ask(*dialog, question, "Otwórz");
 }
 
 std::optional<fs::path> askSave(QWidget* parent, const DialogPliku& question) {
-    QFileDialog dialog(parent, "Zapisywanie jako");
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    return ask(dialog, question, "Zapisz");
-}
-
-void startDetached(const fs::path& program) {
-    if (!lengthOf(SYSTEM_PLIKOW, program))
-        return;
-    const bool script = program.extension() == ".BAT" && !hasInterpreterLine(program);
-    const QString name = nameOfPath(program);
-    QProcess process;
-    process.setProgram(script ? "sh" : name);
-    process.setArguments(script ? QStringList{name} : QStringList{});
-    process.setWorkingDirectory(QDir::currentPath());
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.startDetached();
+    const Dialog dialog(new QFileDialog(parent, "Zapisywanie jako"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    return ask(*dialog, question, "Zapisz");
 }
 
 } // namespace dorva

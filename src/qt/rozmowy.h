@@ -1,4 +1,4 @@
-// What the editor asks of the desktop: message boxes, file dialogs, programs to start.
+// What the editor asks of the desktop: message boxes and file dialogs.
 #pragma once
 
 #include "system/haki.h"
@@ -13,9 +13,5 @@ bool showMessageBox(QWidget* parent, const Komunikat&);
 // File dialogs: the desktop's own where there is one. Nothing where the user cancelled.
 std::optional<std::filesystem::path> askOpen(QWidget* parent, const DialogPliku&);
 std::optional<std::filesystem::path> askSave(QWidget* parent, const DialogPliku&);
-
-// Starts a program beside the editor, in the current directory. A .BAT file without a "#!" line is run
-// by sh. Returns at once; what can't be started isn't.
-void startDetached(const std::filesystem::path& program);
 
 } // namespace dorva

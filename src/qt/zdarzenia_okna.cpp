@@ -8,6 +8,7 @@
 #include "qt/budowa_okna.h"
 #include "qt/kontrolki.h"
 #include "qt/paleta_okno.h"
+#include "qt/programy.h"
 #include "qt/przeklad.h"
 #include "qt/rozmowy.h"
 #include "qt/widoki_znakow.h"
@@ -130,7 +131,7 @@ void bindHooks(Haki& haki, QWidget* window, const std::function<void()>& show) {
         show();
         return askSave(window, dialog);
     };
-    haki.startProgram = [](const std::filesystem::path& program, OknoProgramu) { startDetached(program); };
+    haki.startProgram = startProgram;
     haki.loadPicture = loadBitmapa;
 }
 

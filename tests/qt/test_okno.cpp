@@ -1,6 +1,5 @@
 #include "stanowisko.h"
 
-#include "qt/sygnaly.h"
 #include "tiles/kolory.h"
 
 #include <QCheckBox>
@@ -8,8 +7,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QScrollBar>
-
-#include <csignal>
 
 namespace dorva::test {
 namespace {
@@ -183,17 +180,6 @@ TEST_F(OknoTest, StartingAndClosingChangesNoFile) {
         EXPECT_EQ(readFile(etap(number)), before[static_cast<std::size_t>(number - 1)]);
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), Bajty(60, 'X'));
     EXPECT_EQ(namesIn("ETAPY").size(), 32U);
-}
-
-TEST_F(OknoTest, ASignalToEndStoresTheWork) {
-    open();
-    closeOnSignals(*okno);
-    e.okno.imgPG[410].znak = KLUCZ;
-    ASSERT_EQ(::raise(SIGTERM), 0);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !okno->isVisible(); }));
-    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 410], 13);
-    for (int signal : {SIGTERM, SIGINT, SIGHUP})
-        std::signal(signal, SIG_DFL);
 }
 
 TEST_F(OknoTest, WithoutTileSetsTheDefaultStateIsShown) {

@@ -80,28 +80,5 @@ TEST_F(Rozmowy, ClearingAsksAndStays) {
     EXPECT_EQ(find<QLineEdit>("txtNazwa")->text(), QString(32, ' '));
 }
 
-// The launcher of the working folder, with an emulator that notes how it was called.
-TEST_F(Rozmowy, TheLauncherRunsTheEmulatorBesideTheEditor) {
-    open();
-    fs::copy_file(DORVA_LAUNCHER, base / "PLIKI/DP3.BAT");
-    const std::string emulator = "#!/bin/sh\n{ pwd; echo \"$@\"; } > \"" + (root / "wywolanie").string() + "\"\n";
-    writeFile(root / "atari800", Bajty(emulator.begin(), emulator.end()));
-    fs::permissions(root / "atari800", fs::perms::owner_all);
-    const QByteArray path = qgetenv("PATH");
-    qputenv("PATH", QByteArray::fromStdString(root.string()) + ":" + path);
-
-    whenAskedPress("Tak");
-    click("cmdTest");
-    EXPECT_EQ(said, QStringList("Dorva Planszownik|Został utworzony plik XEX z testowanym etapem.\n"
-                                "Uruchomić plik na emulatorze Atari?"));
-    const std::string called = fs::canonical(base).string() + "\n-xe -nobasic -run PLIKI/TEST.XEX\n";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(root / "wywolanie").size() == called.size(); }));
-    EXPECT_EQ(readFile(root / "wywolanie"), Bajty(called.begin(), called.end()));
-    qputenv("PATH", path);
-
-    startDetached(base / "PLIKI/BRAK.BAT"); // nothing happens, nothing is created
-    EXPECT_FALSE(fs::exists(base / "PLIKI/BRAK.BAT"));
-}
-
 } // namespace
 } // namespace dorva::test

@@ -1,5 +1,6 @@
-#include "qt/sygnaly.h"
+#include "qt/sesja.h"
 
+#include <QFileDialog>
 #include <QSocketNotifier>
 #include <QWidget>
 
@@ -20,7 +21,15 @@ void onSignal(int) {
 
 } // namespace
 
-void closeOnSignals(QWidget& window) {
+// start.sh did it.
+void prepareFolder(const std::filesystem::path&) {}
+
+// What it would like to keep goes to /dev/null (setUpApplication).
+void endFileDialog(QFileDialog* dialog) {
+    delete dialog;
+}
+
+void storeAtSessionEnd(QWidget& window) {
     if (ends[0] < 0 && ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
         return;
     auto* notifier = new QSocketNotifier(ends[1], QSocketNotifier::Read, &window);

@@ -1,0 +1,79 @@
+// Programs beside the editor and the end of a session, on Windows.
+#include "stanowisko.h"
+
+#include "qt/programy.h"
+#include "qt/sesja.h"
+
+#include <windows.h>
+
+namespace dorva::test {
+namespace {
+
+class SesjaWindows : public Stanowisko {
+protected:
+    void SetUp() override {
+        Stanowisko::SetUp();
+        fs::rename(base, root / "Moja łódź & spółka"); // what a user may call a folder
+        base = root / "Moja łódź & spółka";
+        fs::copy_file(DORVA_LAUNCHER, base / "PLIKI/DP3.BAT");
+    }
+
+    // Lets the launcher run after a test build; what the stand-in for the emulator notes in `folder`.
+    std::string launchedIn(const fs::path& folder) {
+        const fs::path note = folder / "wywolanie";
+        fs::remove(note);
+        whenAskedPress("Tak");
+        click("cmdTest");
+        (void)QTest::qWaitFor([&] { return readFile(note).ends_with('\n'); }, 10000);
+        return readFile(note);
+    }
+    static std::string readFile(const fs::path& path) {
+        const Bajty bytes = test::readFile(path);
+        return {bytes.begin(), bytes.end()};
+    }
+};
+
+TEST_F(SesjaWindows, TheLauncherFindsTheEmulatorInThePathAndRatherInItsFolder) {
+    open();
+    const auto here = base.u8string();
+    const std::string called = std::string(here.begin(), here.end()) + "\n-xe -nobasic -run PLIKI\\TEST.XEX\n";
+    const fs::path elsewhere = root / "Programy (x86)";
+    const fs::path beside = base / "PLIKI/atari800";
+    for (const fs::path& folder : {elsewhere, beside}) {
+        fs::create_directory(folder);
+        fs::copy_file(DORVA_EMULATOR, folder / "atari800.exe");
+    }
+    const QString path = qEnvironmentVariable("PATH");
+    ::SetEnvironmentVariableW(L"PATH", (elsewhere.native() + L';' + path.toStdWString()).c_str());
+    EXPECT_EQ(launchedIn(beside), called);
+    EXPECT_FALSE(fs::exists(elsewhere / "wywolanie"));
+    fs::remove_all(beside);
+    EXPECT_EQ(launchedIn(elsewhere), called);
+    ::SetEnvironmentVariableW(L"PATH", path.toStdWString().c_str());
+}
+
+TEST_F(SesjaWindows, ProgramsRunInTheCurrentFolder) {
+    fs::current_path(root);
+    const fs::path orn = base / "OBIEKTY/ORN.exe";
+    fs::copy_file(DORVA_EMULATOR, orn);
+    startProgram(orn, OknoProgramu::Normal);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(base / "OBIEKTY/wywolanie").ends_with('\n'); }, 10000));
+    const auto here = root.u8string();
+    EXPECT_EQ(readFile(base / "OBIEKTY/wywolanie"), std::string(here.begin(), here.end()) + "\n");
+    startProgram(base / "PLIKI/BRAK.BAT", OknoProgramu::Hidden); // nothing happens, nothing is created
+    EXPECT_FALSE(fs::exists(base / "PLIKI/BRAK.BAT"));
+}
+
+TEST_F(SesjaWindows, TheEndOfASessionStoresTheWork) {
+    open();
+    storeAtSessionEnd(*okno);
+    e.okno.imgPG[410].znak = KLUCZ;
+    const auto window = reinterpret_cast<::HWND>(okno->winId());
+    EXPECT_TRUE(::SendMessageW(window, WM_QUERYENDSESSION, 0, 0));
+    EXPECT_EQ(test::readFile(etap(1))[uklad::PLANSZA + 410], 13);
+    EXPECT_TRUE(okno->isVisible()) << "the end may still be called off";
+    ::SendMessageW(window, WM_ENDSESSION, FALSE, 0);
+}
+
+} // namespace
+} // namespace dorva::test
