@@ -1,7 +1,8 @@
 /* The player of the stages, in the real rules:
      gracz graj STAGE RUN     plays a recorded run; ends with 0 if she goes through the exit
      gracz szukaj STAGE RUN   follows the plan of a run with care and prints the run anew
-     gracz smialek STAGE RUN  follows the plan without any fear, three lives long: prints lives lost and "tak" or "nie"
+     gracz smialek STAGE RUN  follows the plan without any fear, three lives long: prints lives lost, "tak" or "nie",
+   energy left
 
    STAGE is a stage file, RUN a text of two parts. Its first line is the plan, the rest its recording. Both consist of
    letters with a count: `R12` is twelve steps to the right (L R U D), `F1` the trigger, `-3` waits three steps long. A
@@ -17,10 +18,11 @@
 #include <string.h>
 #include <unistd.h>
 
-enum { PROBY = 6, KROKOW = 1500, DOTKNIECIE = 2, DALEKO = 0xFFFF, NIE = 255 };
+enum { PROBY = 6, KROKOW = 1500, CIERPLIWOSC = 150, DOTKNIECIE = 2, DALEKO = 0xFFFF, NIE = 255 };
 enum { RUCHOME = 61 };                            /* creatures and smoke: in the way now, gone tomorrow */
 enum { CZEKA = 4, SPUST = 5, WSZYSTKO = 0xFFFE }; /* CZEKA and SPUST follow the four directions */
-enum { POMYSLY = 40, RUCHY = 3, SMIERC = 1000 };
+enum { POMYSLY = 32, CZEKANIA = 6, RUCHY = 3, SMIERC = 9000 };
+enum { DAWNIEJ = 4, CO_ILE = 10, POWROTY = 60 };
 
 /* What a cell costs to enter, by tile; NIE: not at all. Doors and the exit depend on more. */
 static const byte ceny[64] = {4,  4,   120, 4,   4,   NIE, NIE, NIE, 12,  NIE, NIE, 24,  4,   4,   4,   NIE,
@@ -34,10 +36,13 @@ static const char litery[] = "LRUD-F";
 static const byte stan_drazka[4] = {15 - KIJ_LEWO, 15 - KIJ_PRAWO, 15 - KIJ_GORA, 15 - KIJ_DOL};
 
 static byte rekord[ETAP_BAJTY];
-static char tekst[8192];          /* the run as read; its plan */
+static char tekst[6000];          /* the run as read; its plan */
 static char* plan;                /* what is still to be done of it */
 static char przebieg[KROKOW + 8]; /* a letter a step */
 static unsigned dlugosc;
+static unsigned ostatni_postep; /* the step of it that last brought something */
+static unsigned postep;
+static byte rany; /* energy lost otherwise than by wading, since it was set to 0 */
 static byte smialek;
 static unsigned los_stan;
 
@@ -48,34 +53,42 @@ static byte w_kolejce[POLA];
 static unsigned kolejka[1024];
 static byte droga[POLA]; /* the way to the goal, its last step first */
 static unsigned kroki_drogi;
+static byte droga_stad[POLA]; /* the same as it was before any idea */
+static unsigned kroki_stad;
 
 /* The rules as they were at a moment. */
-static struct {
-    byte plansza[POLA], pod[POLA], stan[POLA], zapach[POLA], zp[256], bss[512];
-    unsigned dlugosc;
-} chwila;
+struct chwila {
+    byte plansza[POLA], pod[POLA], stan[POLA], zapach[POLA], zp[128], bss[512];
+    unsigned dlugosc, los_stan;
+};
+static struct chwila teraz;            /* before she tries out ideas */
+static struct chwila dawniej[DAWNIEJ]; /* moments to return to after a wound, the latest is the last */
+static byte ile_dawniej;
+static byte powroty; /* how often she may still return in this try */
 
 /* What to do before going on: up to three moves of a kind, each a number of steps long. */
 static byte ruch[POMYSLY][RUCHY], ile[POMYSLY][RUCHY];
 
-static void zapisz(void) {
-    memcpy(chwila.plansza, plansza, POLA);
-    memcpy(chwila.pod, pod, POLA);
-    memcpy(chwila.stan, stan, POLA);
-    memcpy(chwila.zapach, zapach, POLA);
-    memcpy(chwila.zp, zp_poczatek, zp_koniec - zp_poczatek);
-    memcpy(chwila.bss, bss_poczatek, bss_koniec - bss_poczatek);
-    chwila.dlugosc = dlugosc;
+static void zapisz(struct chwila* c) {
+    memcpy(c->plansza, plansza, POLA);
+    memcpy(c->pod, pod, POLA);
+    memcpy(c->stan, stan, POLA);
+    memcpy(c->zapach, zapach, POLA);
+    memcpy(c->zp, zp_poczatek, zp_koniec - zp_poczatek);
+    memcpy(c->bss, bss_poczatek, bss_koniec - bss_poczatek);
+    c->dlugosc = dlugosc;
+    c->los_stan = los_stan;
 }
 
-static void przywroc(void) {
-    memcpy(plansza, chwila.plansza, POLA);
-    memcpy(pod, chwila.pod, POLA);
-    memcpy(stan, chwila.stan, POLA);
-    memcpy(zapach, chwila.zapach, POLA);
-    memcpy(zp_poczatek, chwila.zp, zp_koniec - zp_poczatek);
-    memcpy(bss_poczatek, chwila.bss, bss_koniec - bss_poczatek);
-    dlugosc = chwila.dlugosc;
+static void przywroc(const struct chwila* c) {
+    memcpy(plansza, c->plansza, POLA);
+    memcpy(pod, c->pod, POLA);
+    memcpy(stan, c->stan, POLA);
+    memcpy(zapach, c->zapach, POLA);
+    memcpy(zp_poczatek, c->zp, zp_koniec - zp_poczatek);
+    memcpy(bss_poczatek, c->bss, bss_koniec - bss_poczatek);
+    dlugosc = c->dlugosc;
+    los_stan = c->los_stan;
 }
 
 static byte los(void) {
@@ -97,7 +110,7 @@ static byte jest_stworem(byte z) {
 
 /* One step of time: the stick is tapped, or the trigger, or nothing. */
 static void krok(byte co) {
-    byte i;
+    byte i, bylo;
     if (dlugosc < KROKOW)
         przebieg[dlugosc++] = litery[co];
     drazek = co < CZEKA ? stan_drazka[co] : 15;
@@ -107,7 +120,10 @@ static void krok(byte co) {
             drazek = 15;
             spust = 1;
         }
+        bylo = energia;
         takt();
+        if (energia + 4 < bylo)
+            rany += bylo - energia;
     }
 }
 
@@ -234,7 +250,7 @@ static void wymysl(void) {
     byte i, k;
     memset(ile, 0, sizeof(ile));
     for (i = 1; i < POMYSLY; ++i) {
-        if (i < 6) {
+        if (i < CZEKANIA) {
             ruch[i][0] = CZEKA;
             ile[i][0] = i < 4 ? i : i * 2;
             continue;
@@ -249,44 +265,60 @@ static void wymysl(void) {
     }
 }
 
-static void zacznij(byte pomysl) {
+/* What an idea does first, and the way from there. 0: there is none. */
+static byte zacznij(byte pomysl, unsigned cel) {
     byte k, n;
     for (k = 0; k < RUCHY; ++k)
         for (n = ile[pomysl][k]; n && !wynik; --n)
             krok(ruch[pomysl][k]);
+    if (pomysl >= CZEKANIA && !wynik)
+        return znajdz_droge(cel);
+    memcpy(droga, droga_stad, kroki_stad);
+    kroki_drogi = kroki_stad;
+    return kroki_drogi != 0;
 }
 
-/* What an idea costs: energy within the next steps, or her life. */
+/* What an idea costs: wounds, her life, the way that is left. The longer nothing gets done, the less she minds a wound.
+ */
 static unsigned sprawdz(byte pomysl, unsigned cel, const char* ciag, byte daleko) {
-    const byte bylo = energia;
+    const unsigned zwloka = dlugosc - ostatni_postep;
     byte n;
-    zacznij(pomysl);
-    if (ciag)
+    rany = 0;
+    if (!zacznij(pomysl, cel) && !ciag)
+        kroki_drogi = 100;
+    else if (ciag)
         for (n = 0; n < daleko && ciag[n] && !wynik; ++n)
             krok(strchr(litery, ciag[n]) - litery);
-    else if (!wynik && !znajdz_droge(cel))
-        return energia < bylo ? 5 + bylo - energia : 5;
     else
         idz(daleko);
+    if (wynik == ETAP_PRZESZLA)
+        return 0;
     if (wynik == DORVA_GINIE)
         return SMIERC;
-    return energia < bylo ? bylo - energia : 0;
+    return kroki_drogi + (zwloka < 40 ? rany * 8 : zwloka < 90 ? rany * 2 : rany >> 2);
 }
 
-/* The idea that hurts least. Steps of a sequence may be put off, but she doesn't leave their place. */
+/* The idea that costs least; one that doesn't hurt is good enough, if things get done at all. Steps of a sequence may
+   be put off, but she doesn't leave their place. */
 static byte wybierz(unsigned cel, const char* ciag, byte daleko) {
-    const byte pomysly = ciag ? 6 : POMYSLY;
+    const byte pomysly = ciag ? CZEKANIA : POMYSLY;
     byte i, najlepszy = 0;
     unsigned strata, najmniej = DALEKO;
     wymysl();
-    zapisz();
-    for (i = 0; i < pomysly && najmniej; ++i) {
+    if (!ciag)
+        znajdz_droge(cel);
+    kroki_stad = kroki_drogi;
+    memcpy(droga_stad, droga, kroki_stad);
+    zapisz(&teraz);
+    for (i = 0; i < pomysly; ++i) {
         strata = sprawdz(i, cel, ciag, daleko);
         if (strata < najmniej) {
             najmniej = strata;
             najlepszy = i;
         }
-        przywroc();
+        przywroc(&teraz);
+        if (!rany && najmniej < SMIERC && (!i || dlugosc - ostatni_postep < 40))
+            break;
     }
     return najlepszy;
 }
@@ -302,33 +334,69 @@ static byte cos_sie_rusza(void) {
     return 0;
 }
 
+/* Whether the try still makes sense: it gets something done every now and then. */
+static byte jest_sens(void) {
+    const unsigned teraz = (brak_masek << 8) + (klucze << 6) + energia + (unsigned)plan;
+    if (teraz != postep) {
+        postep = teraz;
+        ostatni_postep = dlugosc;
+    }
+    return !wynik && dlugosc < KROKOW && dlugosc - ostatni_postep < CIERPLIWOSC;
+}
+
+/* Remembers this moment; after a wound she returns to an earlier one, as far as it goes, and tries something else. */
+static void rozwaz(void) {
+    if (rany && ile_dawniej && powroty > (wynik ? 0 : POWROTY / 2)) {
+        --powroty;
+        przywroc(dawniej);
+        ostatni_postep = dlugosc;
+        los_stan += powroty * 257u;
+        ile_dawniej = 1;
+        return;
+    }
+    if (rany)
+        ile_dawniej = 0;
+    else if (ile_dawniej && dlugosc < dawniej[ile_dawniej - 1].dlugosc + CO_ILE)
+        return;
+    if (ile_dawniej == DAWNIEJ)
+        memmove(dawniej, dawniej + 1, --ile_dawniej * sizeof(struct chwila));
+    zapisz(&dawniej[ile_dawniej++]);
+}
+
 /* Goes to a cell or takes what it can get. */
 static void dojdz(unsigned cel, byte daleko) {
     unsigned skad_idzie;
-    while (!wynik && dlugosc < KROKOW) {
-        if (tu() == cel)
+    byte jest, pomysl;
+    ile_dawniej = 0;
+    for (rany = 0;; rany = 0) {
+        if (!smialek && wynik != ETAP_PRZESZLA)
+            rozwaz();
+        if (tu() == cel || !jest_sens())
             return;
-        if (!smialek && cos_sie_rusza())
-            zacznij(wybierz(cel, 0, daleko));
-        if (wynik)
-            return;
-        if (!znajdz_droge(cel)) {
+        if (smialek || !cos_sie_rusza())
+            jest = znajdz_droge(cel);
+        else {
+            pomysl = wybierz(cel, 0, daleko);
+            rany = 0;
+            jest = zacznij(pomysl, cel);
+        }
+        if (!jest) {
             if (cel == WSZYSTKO && (*plan || !cos_sie_rusza()))
                 return;
             krok(CZEKA);
             continue;
         }
         skad_idzie = tu();
-        idz(smialek ? 1 : 2);
+        idz(smialek ? 1 : daleko / 2);
         if (cel != WSZYSTKO && !kroki_drogi && tu() != skad_idzie) /* there, or leapt from there */
             return;
     }
 }
 
 static void wykonaj(const char* ciag, byte daleko) {
-    for (; *ciag && !wynik && dlugosc < KROKOW; ++ciag) {
-        if (!smialek && cos_sie_rusza())
-            zacznij(wybierz(0, ciag, daleko));
+    for (; *ciag && jest_sens(); ++ciag) {
+        if (!smialek && strchr(litery, *ciag) < litery + CZEKA && cos_sie_rusza())
+            zacznij(wybierz(0, ciag, daleko), 0);
         krok(strchr(litery, *ciag) - litery);
     }
 }
@@ -349,7 +417,8 @@ static byte sprobuj(byte proba) {
     byte k;
     memcpy(plansza, rekord + ETAP_PLANSZA, POLA);
     cel_masek = rekord[ETAP_CEL];
-    dlugosc = 0;
+    dlugosc = ostatni_postep = 0;
+    powroty = POWROTY;
     los_stan = 1 + proba * 7919u;
     spust = 1;
     if (!start())
@@ -357,7 +426,7 @@ static byte sprobuj(byte proba) {
     for (n = 0; n < proba * 5; ++n)
         krok(CZEKA);
     plan = tekst;
-    while (!wynik && dlugosc < KROKOW) {
+    while (jest_sens()) {
         for (k = 0;;) { /* steps in a row belong together */
             while (*plan == ' ')
                 ++plan;
@@ -402,8 +471,8 @@ static byte szukaj(void) {
             wypisz();
             return 0;
         }
-        printf("; try %u: result %u after %u steps at %u,%u, masks %u, energy %u, plan %s\n", i, wynik, dlugosc,
-               dorva_x, dorva_y, brak_masek, energia, plan);
+        fprintf(stderr, "try %u: result %u after %u steps at %u,%u, masks %u, energy %u, plan %s\n", i, wynik, dlugosc,
+                dorva_x, dorva_y, brak_masek, energia, plan);
     }
     return 1;
 }
@@ -415,7 +484,7 @@ static byte badz_smialy(void) {
     for (stracone = 0; stracone < 3; ++stracone)
         if (sprobuj(stracone))
             break;
-    printf("%u %s\n", stracone, stracone < 3 ? "tak" : "nie");
+    printf("%u %s %u\n", stracone, stracone < 3 ? "tak" : "nie", energia);
     return 0;
 }
 
