@@ -1,14 +1,19 @@
 // A model of the whole editor: the bytes drive its operations on files in memory, any file call of which
 // may fail, and after each the invariants hold.
 #include "board/bufor.h"
+#include "board/census.h"
 #include "board/plansza.h"
-#include "niezmienniki.h"
 #include "output/obraz_gry.h"
 #include "output/szablon.h"
 #include "pamiec.h"
+#include "sciezki.h"
 #include "shell/start.h"
+#include "sprawdz.h"
 #include "stage/archiwum.h"
+#include "stage/autor_gry.h"
+#include "stage/etap.h"
 #include "stage/pola.h"
+#include "stage/zbior_etapow.h"
 #include "tiles/kolory.h"
 #include "tiles/paleta.h"
 #include "tiles/zestaw.h"
@@ -16,10 +21,25 @@
 #include <iterator>
 
 using namespace dorva;
-using fuzz::pamiec;
-using fuzz::Strumien;
+using test::pamiec, test::Pliki;
 
 namespace {
+
+// The given bytes, from the first to the last; zeros when they are used up.
+struct Strumien {
+    std::span<const Bajt> left;
+
+    std::span<const Bajt> take(std::size_t count) {
+        const auto taken = left.first(std::min(count, left.size()));
+        left = left.subspan(taken.size());
+        return taken;
+    }
+    int byte() {
+        const auto taken = take(1);
+        return taken.empty() ? 0 : taken[0];
+    }
+    int below(int limit) { return (byte() << 8 | byte()) % limit; }
+};
 
 Strumien* input; // the hooks answer from it
 
@@ -34,7 +54,7 @@ std::optional<std::filesystem::path> anyPath() {
 
 Edytor freshEditor() {
     Edytor e;
-    e.system = fuzz::systemPamieci();
+    e.system = test::systemPamieci();
     e.KatalogBazowy = "/p";
     e.haki.messageBox = [](const Komunikat&) { return input->byte() % 4 != 0; };
     e.haki.openDialog = e.haki.saveDialog = [](const DialogPliku&) { return anyPath(); };
@@ -42,12 +62,22 @@ Edytor freshEditor() {
     return e;
 }
 
-void plant(Edytor& e) {
-    const int number = input->byte() % ETAPY_COUNT + 1;
-    const std::size_t length = input->byte() < 200 ? ETAP_SIZE_BYTES : static_cast<std::size_t>(input->below(1863));
-    Bajty bytes = input->filled(length / 8);
-    bytes.resize(length, 1);
-    pamiec.put(etapPath(e, number).string(), bytes);
+// Puts a file where the editor looks for one: of the length that it has there, or of another.
+void plant(Edytor&) {
+    const std::string etap = "/p/ETAPY/" + sciezki::nazwaEtapu(input->byte() % ETAPY_COUNT + 1);
+    const std::pair<std::string, std::size_t> places[] = {{etap, ETAP_SIZE_BYTES},
+                                                          {"/wolny0", ARCHIWUM_SIZE_BYTES},
+                                                          {"/p/PLIKI/DP1.DTA", AUTOR_GRY_SIZE_BYTES},
+                                                          {"/p/PLIKI/PALETY/Bitwor.act", PALETA_SIZE_BYTES},
+                                                          {"/p/" + std::string(sciezki::KOLORY[1]), KOLORY_SIZE_BYTES}};
+    const auto& [path, length] = places[static_cast<std::size_t>(input->byte()) % std::size(places)];
+    const std::size_t size = input->byte() < 200 ? length : static_cast<std::size_t>(input->below(1863));
+    const auto given = input->take(size / 8);
+    Bajty bytes;
+    while (!given.empty() && bytes.size() + given.size() <= size)
+        bytes.insert(bytes.end(), given.begin(), given.end());
+    bytes.resize(size, 1);
+    pamiec.put(path, bytes);
 }
 
 using Operacja = void (*)(Edytor&);
@@ -59,10 +89,10 @@ constexpr Operacja OPERACJE[] = {
     [](Edytor& e) { SelectNN(e, input->byte() % 2); },
     [](Edytor& e) { (void)SelectObiektyNR(e, input->byte() % 4); },
     [](Edytor& e) {
-        const Pole pole = static_cast<Pole>(input->byte() % 5);
+        const Pole& pole = POLA[static_cast<std::size_t>(input->byte()) % POLA.size()];
         txt_Change(e, pole, Tekst::fromBytes(input->take(static_cast<std::size_t>(input->byte() % 80))));
     },
-    [](Edytor& e) { txt_LostFocus(e, static_cast<Pole>(input->byte() % 5)); },
+    [](Edytor& e) { txt_LostFocus(e, POLA[static_cast<std::size_t>(input->byte()) % POLA.size()]); },
     [](Edytor& e) { (void)SetMonet(e, input->byte()); },
     [](Edytor& e) { lblInfo_Click(e, input->byte() % 11); },
     [](Edytor& e) { PickKolor(e, input->byte() % SLOTY_COUNT); },
@@ -77,23 +107,19 @@ constexpr Operacja OPERACJE[] = {
     cmdCreate_Click,
     cmdTest_Click,
     cmdResetKolory_Click,
+    cmdReload_Click,
+    LoadPaleta,
+    [](Edytor& e) {
+        e = freshEditor();
+        Form_Load(e, "/p", "1.0.2");
+    },
     Form_QueryUnload,
     plant,
-    [](Edytor&) { pamiec.failAt = input->byte() + 1; },
+    [](Edytor&) { pamiec.awaria = {.at = input->byte() + 1}; },
 };
 
-using Stan = std::map<std::string, Bajty>;
-
-// The stage files; a content that leaves them must be the editor's own or stay as a copy.
-Stan stageFiles() {
-    Stan files;
-    for (const auto& [name, bytes] : pamiec.pliki)
-        if (name.starts_with("/p/ETAPY/"))
-            files[name] = *bytes;
-    return files;
-}
-
-void checkFiles(const Stan& before, const Stan& after) {
+// A content that leaves a stage file must be the editor's own or stay as a copy.
+void checkFiles(const Pliki& before, const Pliki& after) {
     for (const auto& [name, bytes] : after) {
         const auto old = before.find(name);
         const bool changed = old == before.end() || old->second != bytes;
@@ -107,30 +133,54 @@ void checkFiles(const Stan& before, const Stan& after) {
         SPRAWDZ(after.contains(name) || name.ends_with(".dp-tmp"));
 }
 
+// Packs the stage, then unpacks and packs it once more: 931 bytes that stay, an edge of its three codes.
+void checkPack(Edytor e) {
+    PackEtap(e);
+    SPRAWDZ(e.image.size() == ETAP_SIZE_BYTES);
+    const Bajty first = e.image;
+    SPRAWDZ(UnpackEtap(e));
+    PackEtap(e);
+    SPRAWDZ(e.image == first);
+    const int wall = kod(KodKrawedzi(e.okno));
+    for (int i = 0; i < PLANSZA_CELLS; ++i) {
+        const int code = first[uklad::PLANSZA + static_cast<std::size_t>(i)];
+        SPRAWDZ(code != kod(DORVA_INV) && (!isEdge(i) || code == 0 || code == 5 || code == 6 || code == wall));
+    }
+    SPRAWDZ(e.okno.lblInfo[info::CEL_MASEK].liczba == e.okno.hscMonet);
+    for (info::Figura unikat : {info::DORVA, info::WYJSCIE, info::MASZYNY, info::POCHODNIA}) {
+        const Znak z = ZNAKI_INFO[unikat];
+        const bool stands =
+            std::ranges::any_of(e.okno.imgPG, [&](const auto& cell) { return kod(cell.znak) % INV == kod(z); });
+        SPRAWDZ(e.okno.imgZnak[static_cast<std::size_t>(kod(z))].enabled == !stands &&
+                !(stands && e.okno.imgBufor.znak == z));
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const Edytor fresh = freshEditor();
-    static const auto szablon = std::make_shared<Bajty>(GRA_SIZE_BYTES, Bajt{7});
+    static const auto szablon = std::make_shared<test::Plik>(test::Plik{Bajty(GRA_SIZE_BYTES, 7), {}, ""});
     Strumien stream{{data, size}};
     input = &stream;
     pamiec = {};
-    pamiec.pliki["/p/PLIKI/DP2.DTA"] = szablon;
+    pamiec.nazwy["/p/PLIKI/DP2.DTA"] = szablon;
+    for (const char* name : {"A.ND", "B.ND", "C.ND"})
+        pamiec.put(std::string("/p/OBIEKTY/ORN_EXPORT/") + name, {});
     Edytor e = fresh;
-    (void)readEtap(e, 1);
-    for (int steps = 0; !stream.empty() && steps < 200; ++steps) {
+    (void)readOrCreateBiezacyEtap(e);
+    for (int steps = 0; !stream.left.empty() && steps < 200; ++steps) {
         const auto operation = OPERACJE[static_cast<std::size_t>(stream.byte()) % std::size(OPERACJE)];
-        const Stan before = stageFiles();
+        const Pliki before = pamiec.files("/p/ETAPY/");
         operation(e);
-        if (operation != +plant)
-            checkFiles(before, stageFiles());
+        if (operation != plant)
+            checkFiles(before, pamiec.files("/p/ETAPY/"));
         SPRAWDZ(e.NumerEtapu >= 1 && e.NumerEtapu <= ETAPY_COUNT);
         SPRAWDZ(e.okno.optEtapNR == e.NumerEtapu - 1);
         SPRAWDZ(e.okno.chkOstatniEnabled == (e.NumerEtapu != ETAPY_COUNT));
         SPRAWDZ(e.okno.lblKodBufor[0] == std::to_string(kod(e.okno.imgBufor.znak)));
         SPRAWDZ(e.okno.txtAutor.tekst.size() <= AUTOR_WIDTH && !e.okno.txtAutor.tekst.znaki.empty());
     }
-    Edytor twin = e;
-    fuzz::checkPack(twin);
+    checkPack(e);
     return 0;
 }

@@ -1,6 +1,6 @@
 // A tile strip through the window's own picture hook, then cut into its 128 tiles.
-#include "bajty.h"
 #include "qt/bitmapa_pliku.h"
+#include "sprawdz.h"
 #include "tiles/magazyn.h"
 
 #include <sys/mman.h>

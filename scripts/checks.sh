@@ -4,7 +4,7 @@
 # shellcheck disable=SC2317 # the steps are called by their names
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit
-steps=(format shell floors sanitizers failures coverage findings fuzz documents package play)
+steps=(format shell floors sanitizers coverage findings fuzz documents package play)
 for step; do
     [[ " ${steps[*]} " == *" $step "* ]] || { echo "checks: no step $step; there are: ${steps[*]}" >&2; exit 2; }
 done
@@ -57,13 +57,6 @@ sanitizers() {
 }
 summary_sanitizers() { grep 'tests passed' "$1"; }
 
-# Every error at every file call, and a thousand kills.
-failures() {
-    cmake --preset release && cmake --build --preset release --target dorva_tests &&
-        build/release/tests/dorva_tests --gtest_also_run_disabled_tests --gtest_filter='*DISABLED_*'
-}
-summary_failures() { echo "$(grep -c '  OK ' "$1") tests, $(grep -o '[0-9]* kills' "$1")"; }
-
 # The logic and its tests without Qt, and the branches of the source that they reach.
 coverage() {
     local build=build/coverage pure=(src/stage src/board src/tiles src/output)
@@ -88,12 +81,12 @@ findings() {
 }
 
 fuzz() {
-    local names=(tytul barwy etap archiwum edytor) name
+    local names=(edytor) name
     ! window_built || names+=(pasek)
     fuzzers "${names[@]/#/fuzz_}" || return
     for name in "${names[@]}"; do
         mkdir -p "build/fuzz/korpus/$name"
-        "build/fuzz/fuzz/fuzz_$name" -max_total_time=10 -max_len=4096 -verbosity=0 -print_final_stats=1 \
+        "build/fuzz/fuzz/fuzz_$name" -max_total_time=30 -max_len=4096 -verbosity=0 -print_final_stats=1 \
             -artifact_prefix="$logs/$name-" "build/fuzz/korpus/$name" "fuzz/ziarna/$name" || return
     done
 }

@@ -3,14 +3,15 @@
 
 #include "edytor.h"
 #include "output/szablon.h"
+#include "pamiec.h"
 #include "shell/start.h"
+#include "stage/autor_gry.h"
 #include "stage/etap.h"
 #include "stage/zbior_etapow.h"
 
 #include <deque>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <map>
 #include <random>
 
 namespace dorva::test {
@@ -75,19 +76,37 @@ inline const Bajty& sampleSzablon() {
     return szablon;
 }
 
+// What the base folder of every desk holds.
+inline Pliki sampleTree() {
+    Pliki files{{"PLIKI/DP1.DTA", Bajty(AUTOR_GRY_SIZE_BYTES, 'X')},
+                {"PLIKI/DP2.DTA", sampleSzablon()},
+                {"OBIEKTY/ORN_EXPORT/FNT01.ORN.ND", {}},
+                {"OBIEKTY/ORN_EXPORT/FNT11.ORN.ND", {}},
+                {"OBIEKTY/ORN_EXPORT/FNT21.ORN.ND", {}}};
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        files["ETAPY/DETAP." + std::to_string(number)] = sampleEtap(number);
+    return files;
+}
+
+// An archive of the sample stages in reverse order, with title lines of its own.
+inline Bajty sampleArchiwum() {
+    Bajty archive(AUTOR_GRY_SIZE_BYTES, 'A');
+    for (int number = 1; number <= ETAPY_COUNT; ++number) {
+        const Bajty image = sampleEtap(33 - number);
+        archive.insert(archive.end(), image.begin(), image.end());
+    }
+    return archive;
+}
+
 class Pulpit : public ::testing::Test {
 protected:
     void SetUp() override {
         root = makeFolder();
         base = root / "praca";
-        for (const char* folder : {"ETAPY", "PLIKI", "OBIEKTY/ORN_EXPORT"})
-            fs::create_directories(base / folder);
-        for (int number = 1; number <= ETAPY_COUNT; ++number)
-            writeFile(etap(number), sampleEtap(number));
-        writeFile(base / "PLIKI/DP1.DTA", Bajty(60, 'X'));
-        writeFile(base / "PLIKI/DP2.DTA", sampleSzablon());
-        for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"})
-            writeFile(base / "OBIEKTY/ORN_EXPORT" / name, {});
+        for (const auto& [name, bytes] : sampleTree()) {
+            fs::create_directories((base / name).parent_path());
+            writeFile(base / name, bytes);
+        }
         attach(e);
     }
 
@@ -99,6 +118,7 @@ protected:
     }
 
     void attach(Edytor& edytor) {
+        edytor.system = dysk;
         edytor.haki.messageBox = [this](const Komunikat& k) {
             shown.emplace_back(k.text);
             const bool answer = answers.empty() || answers.front();
@@ -118,6 +138,11 @@ protected:
     }
 
     void start() { Form_Load(e, base, "1.0.2"); }
+    void restart() {
+        e = Edytor{};
+        attach(e);
+        start();
+    }
     [[nodiscard]] fs::path etap(int number) const { return base / "ETAPY" / ("DETAP." + std::to_string(number)); }
     Znak& cell(int row, int column) { return e.okno.imgPG[static_cast<std::size_t>(row * 40 + column)].znak; }
     [[nodiscard]] std::vector<std::string> namesIn(const char* folder) const {
@@ -127,6 +152,7 @@ protected:
         return names;
     }
 
+    const SystemPlikow* dysk = &SYSTEM_PLIKOW;
     fs::path root, base;
     Edytor e;
     std::vector<std::string> shown;        // texts of the message boxes
@@ -135,6 +161,26 @@ protected:
     std::optional<fs::path> chosen;        // in the file dialogs
     std::vector<fs::path> started;         // programs
     std::map<std::string, Bitmapa> strips; // pictures by file name
+};
+
+// A path on the disk in memory.
+inline std::string at(const std::string& name) {
+    return (fs::absolute("/") / name).generic_string();
+}
+
+// The same desk on a disk in memory.
+class PulpitWPamieci : public Pulpit {
+protected:
+    void SetUp() override {
+        dysk = systemPamieci();
+        root = at("");
+        base = at("praca");
+        pamiec = {};
+        for (const auto& [name, bytes] : sampleTree())
+            pamiec.put(at("praca/" + name), bytes);
+        attach(e);
+    }
+    void TearDown() override {}
 };
 
 } // namespace dorva::test

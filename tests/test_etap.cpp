@@ -1,42 +1,11 @@
 #include "pulpit.h"
 
-#include <algorithm>
-#include <random>
 #include <utility>
 
 namespace dorva::test {
 namespace {
 
 class Etap : public Pulpit {};
-
-TEST_F(Etap, UnpackThenPackGivesTheSameBytes) {
-    std::mt19937 random(1);
-    for (int round = 0; round < 200; ++round) {
-        Bajty image(ETAP_SIZE_BYTES);
-        for (Bajt& b : image)
-            b = static_cast<Bajt>(random());
-        std::fill_n(image.begin(), 16, Bajt{0});
-        std::fill_n(image.begin() + 28, 4, Bajt{0});
-        for (int i = 0; i < PLANSZA_CELLS; ++i) {
-            Bajt& b = image[uklad::PLANSZA + static_cast<std::size_t>(i)];
-            if (isEdge(i))
-                b = std::array<Bajt, 3>{0, 5, 6}[b % 3];
-            else if (b == 191)
-                b = 63;
-        }
-        image[uklad::CEL_MASEK] = static_cast<Bajt>(1 + image[uklad::CEL_MASEK] % 99);
-        image[uklad::OSTATNI] %= 3;
-        image[uklad::SWIAT] %= 3;
-        // Not every byte is a stored text; what the coding makes of it is one.
-        const Bajty texts = EncodeTekst(DecodeTekst(std::span(image).subspan(uklad::NAZWA)));
-        const Bajty stored = EncodeTekst(DecodeTekst(texts));
-        std::copy(stored.begin(), stored.end(), image.begin() + uklad::NAZWA);
-        e.image = image;
-        ASSERT_TRUE(UnpackEtap(e));
-        PackEtap(e);
-        ASSERT_EQ(e.image, image);
-    }
-}
 
 TEST_F(Etap, EdgeRuleKeepsOnlyPlainWallsAndNothing) {
     start();
@@ -103,16 +72,6 @@ TEST_F(Etap, BlockedColoursStayAndTravelAlong) {
     const Bajty stored = readFile(etap(5));
     for (std::size_t i = 0; i < SLOTY_COUNT; ++i)
         EXPECT_EQ(stored[uklad::KOLORY + i], colours[i].value);
-}
-
-TEST_F(Etap, ShortBoxesAreFilledFullOnesStay) {
-    start();
-    e.okno.txtNazwa.tekst = ascii("ala");
-    e.okno.txtAutor.tekst = ascii(std::string(64, 'q'));
-    PackEtap(e);
-    EXPECT_EQ(e.image.size(), ETAP_SIZE_BYTES);
-    EXPECT_EQ(e.image[uklad::NAZWA + 15], 33);
-    EXPECT_EQ(e.okno.txtAutor.tekst.znaki, std::string(64, 'q'));
 }
 
 } // namespace

@@ -50,9 +50,7 @@ TEST_F(Start, TooFewTileSetNamesEndStartUpButLoseNothing) {
             if (name.find("kopia") != std::string::npos)
                 fs::remove(base / "ETAPY" / name);
         writeFile(etap(1), sampleEtap(1));
-        e = Edytor{};
-        attach(e);
-        start();
+        restart();
         const bool complete = names >= 2;
         EXPECT_EQ(e.okno.optObiektyNR, complete ? 1 : 0) << names;
         SelectEtapNR(e, 1);
@@ -63,9 +61,7 @@ TEST_F(Start, TooFewTileSetNamesEndStartUpButLoseNothing) {
 TEST_F(Start, TitleLinesOfOtherLengths) {
     for (std::size_t size : {0U, 19U, 20U, 41U, 59U, 60U, 61U}) {
         writeFile(base / "PLIKI/DP1.DTA", Bajty(size, 'Q'));
-        e = Edytor{};
-        attach(e);
-        start();
+        restart();
         for (std::size_t i = 0; i < 3; ++i)
             EXPECT_EQ(e.okno.txtAutorGry[i].tekst.znaki, std::string(20, size >= 20 * (i + 1) ? 'Q' : ' ')) << size;
         Form_QueryUnload(e);

@@ -1,18 +1,15 @@
 // Every damage of a stage file: each bit of it flipped, each length up to twice its own.
-#include "awaria.h"
 #include "pulpit.h"
 
 namespace dorva::test {
 namespace {
 
-class Uszkodzenia : public Pulpit {
+class Uszkodzenia : public PulpitWPamieci {
 protected:
     void SetUp() override {
-        Pulpit::SetUp();
-        awaria = {};
-        e.system = zawodnySystem(); // nothing fails; only the flushing is left out
+        PulpitWPamieci::SetUp();
         start();
-        chosen = root / "obcy";
+        chosen = at("obcy");
         first = sampleEtap(1);
     }
 
@@ -44,16 +41,20 @@ protected:
 
     // Goes to the damaged stage 2 and back.
     void visit(const Bajty& damaged) {
-        fs::remove(base / "ETAPY/DETAP.2.kopia");
-        writeFile(etap(2), damaged);
+        pamiec.nazwy.erase(at("praca/ETAPY/DETAP.2.kopia"));
+        pamiec.put(at("praca/ETAPY/DETAP.2"), damaged);
         SelectEtapNR(e, 1);
         ASSERT_EQ(e.NumerEtapu, 2);
-        ASSERT_EQ(readFile(etap(1)), first);
+        ASSERT_EQ(stored("ETAPY/DETAP.1"), first);
         SelectEtapNR(e, 0);
         ASSERT_EQ(e.image, first);
     }
 
-    Bajty kopia() { return readFile(base / "ETAPY/DETAP.2.kopia"); }
+    static Bajty stored(const std::string& name) {
+        const auto plik = pamiec.find(at("praca/" + name));
+        return plik ? plik->bytes : Bajty();
+    }
+    static Bajty kopia() { return stored("ETAPY/DETAP.2.kopia"); }
 
     Bajty first;
 };
@@ -65,16 +66,16 @@ TEST_F(Uszkodzenia, EveryFlippedBitIsTakenOverOrKept) {
         damaged[bit / 8] ^= static_cast<Bajt>(1U << bit % 8);
         ASSERT_NO_FATAL_FAILURE(visit(damaged)) << bit;
         if (isValid(damaged))
-            ASSERT_EQ(readFile(etap(2)), normalised(damaged)) << bit;
+            ASSERT_EQ(stored("ETAPY/DETAP.2"), normalised(damaged)) << bit;
         else
             ASSERT_EQ(kopia(), damaged) << bit;
 
-        writeFile(*chosen, damaged);
+        pamiec.put(at("obcy"), damaged);
         cmdLoad_Click(e);
         PackEtap(e);
         ASSERT_EQ(e.image == normalised(damaged), isValid(damaged)) << bit;
         refused += isValid(damaged) ? 0 : 1;
-        writeFile(*chosen, first);
+        pamiec.put(at("obcy"), first);
         cmdLoad_Click(e);
     }
     EXPECT_EQ(refused, 15);
@@ -87,14 +88,14 @@ TEST_F(Uszkodzenia, EveryOtherLengthIsKept) {
         damaged.resize(length, 9);
         ASSERT_NO_FATAL_FAILURE(visit(damaged)) << length;
         ASSERT_EQ(kopia(), length == ETAP_SIZE_BYTES ? Bajty() : damaged) << length;
-        ASSERT_EQ(readFile(etap(2)), length < ETAP_SIZE_BYTES ? first : sampleEtap(2)) << length;
+        ASSERT_EQ(stored("ETAPY/DETAP.2"), length < ETAP_SIZE_BYTES ? first : sampleEtap(2)) << length;
 
-        writeFile(*chosen, damaged);
+        pamiec.put(at("obcy"), damaged);
         shown.clear();
         cmdLoad_Click(e);
         ASSERT_EQ(shown.size(), length == ETAP_SIZE_BYTES ? 0U : 1U) << length;
-        ASSERT_EQ(readFile(*chosen), damaged);
-        writeFile(*chosen, first);
+        ASSERT_EQ(pamiec.files().at(at("obcy")), damaged);
+        pamiec.put(at("obcy"), first);
         cmdLoad_Click(e);
     }
 }
