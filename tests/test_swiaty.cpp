@@ -100,8 +100,9 @@ TEST(Zestaw, TilesOfDifferentEffectDifferInAtLeast12Of32Pixels) {
         const Bajty znaki = readDane("OBIEKTY/ORN_EXPORT/" + name);
         for (int a = 0; a <= OTWARTE_WYJSCIE; ++a)
             for (int b = 0; b < a; ++b)
-                if (std::ranges::none_of(PODOBNE, [&](const auto& g) { return g.contains(a) && g.contains(b); }))
+                if (std::ranges::none_of(PODOBNE, [&](const auto& g) { return g.contains(a) && g.contains(b); })) {
                     EXPECT_GE(roznica(wzor(znaki, a), wzor(znaki, b)), 12) << name << " " << b << " " << a;
+                }
     }
 }
 
