@@ -1,5 +1,11 @@
 #include "qt/kontrolki.h"
 
+#include "qt/czcionki.h"
+#include "qt/obramowanie.h"
+#include "qt/przeklad.h"
+
+#include <QButtonGroup>
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QFontMetrics>
 #include <QMouseEvent>
@@ -14,12 +20,10 @@ namespace {
 
 constexpr QColor WYBRANY_KOLOR(0x8C, 0xB4, 0xE4); // of a button that is selected
 
-// A line one pixel wide along the inner side of a rectangle: filling is what the painter does fastest.
-void drawBorder(QPainter& painter, const QRect& r, const QColor& colour) {
-    painter.fillRect(r.left(), r.top(), r.width(), 1, colour);
-    painter.fillRect(r.left(), r.bottom(), r.width(), 1, colour);
-    painter.fillRect(r.left(), r.top(), 1, r.height(), colour);
-    painter.fillRect(r.right(), r.top(), 1, r.height(), colour);
+// Of the fields that texts stand on, in a light palette; of the texts themselves in a dark one.
+QColor lightest(const QPalette& palette) {
+    const QColor field = palette.color(QPalette::Base), text = palette.color(QPalette::Text);
+    return field.lightness() > text.lightness() ? field : text;
 }
 
 bool isWindowChange(const QFocusEvent* event) {
@@ -69,6 +73,15 @@ void Przycisk::paintEvent(QPaintEvent*) {
                           isEnabled(), caption, QPalette::ButtonText);
 }
 
+void Przycisk::keyPressEvent(QKeyEvent* event) {
+    const bool isArrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+    QAbstractButton* selected = group() ? group()->checkedButton() : nullptr;
+    if (!isArrow || !selected || selected == this)
+        return QPushButton::keyPressEvent(event);
+    selected->setFocus();
+    QCoreApplication::sendEvent(selected, event);
+}
+
 void Etykieta::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->button() == Qt::LeftButton;
 }
@@ -86,66 +99,165 @@ void EtykietaObramowana::paintEvent(QPaintEvent* event) {
     drawBorder(painter, rect(), Qt::black);
 }
 
-void ProbkaKoloru::paintEvent(QPaintEvent* event) {
-    constexpr QColor OUTLINE(0, 0, 0, 140);
-    const QPoint AROUND[]{{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
-    QPainter painter(this);
-    painter.setPen(OUTLINE);
-    for (QPoint offset : AROUND)
-        painter.drawText(contentsRect().translated(offset), Qt::AlignCenter, text());
-    painter.end();
-    EtykietaObramowana::paintEvent(event);
+void Figura::showFigura(const QString& text, bool czerwona) {
+    setText(text);
+    if (std::exchange(czerwona_, czerwona) == czerwona)
+        return;
+    QPalette colours; // the system's own, but for a warning
+    if (czerwona) {
+        colours.setColor(QPalette::WindowText, QColor(255, 0, 0));
+        colours.setColor(QPalette::Window, lightest(palette()));
+    }
+    setPalette(colours);
+    setFont(czerwona ? fontFigury() : fontOkna());
 }
 
-void Suwak::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Left)
-        triggerAction(SliderSingleStepSub);
-    else if (event->key() == Qt::Key_Right)
-        triggerAction(SliderSingleStepAdd);
-    else
-        QScrollBar::keyPressEvent(event);
+void ProbkaKoloru::showKolor(int value, const QColor& kolor, bool wybrany) {
+    constexpr QColor WHITE(255, 255, 255), PALE(255, 192, 192);
+    setText(QString::number(value));
+    setColour(this, QPalette::Window, kolor);
+    setColour(this, QPalette::WindowText, wybrany ? PALE : WHITE);
+    if (std::exchange(wybrana_, wybrany) != wybrany)
+        update();
+}
+
+void ProbkaKoloru::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setPen(Qt::black);
+    for (int x : {-1, 0, 1})
+        for (int y : {-1, 0, 1})
+            painter.drawText(contentsRect().translated(x, y), Qt::AlignCenter, text());
+    painter.end();
+    EtykietaObramowana::paintEvent(event);
+    if (!wybrana_)
+        return;
+    painter.begin(this);
+    drawBorder(painter, rect().adjusted(1, 1, -1, -1), Qt::white);
+    drawBorder(painter, rect().adjusted(2, 2, -2, -2), Qt::black);
+}
+
+Suwak::Suwak(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
+    setInvertedControls(false);
+}
+
+// The arrows share the line between them.
+QRect Suwak::arrowRect(SliderAction action) const {
+    const int half = width() / 2;
+    return action == SliderSingleStepSub ? QRect(0, 0, half + 1, height()) : QRect(half, 0, width() - half, height());
+}
+
+void Suwak::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    for (SliderAction action : {SliderSingleStepSub, SliderSingleStepAdd}) {
+        const bool less = action == SliderSingleStepSub;
+        QStyleOptionButton option;
+        option.initFrom(this);
+        option.rect = arrowRect(action);
+        option.state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
+        option.state |= pressed_ == action ? QStyle::State_Sunken : QStyle::State_Raised;
+        style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter, this);
+        if (value() == (less ? minimum() : maximum()))
+            option.state &= ~QStyle::State_Enabled;
+        option.rect = option.rect.marginsRemoved({3, 3, 3, 3});
+        style()->drawPrimitive(less ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight, &option, &painter,
+                               this);
+    }
+    if (hasFocus())
+        drawBorder(painter, rect(), palette().color(QPalette::Highlight));
+}
+
+void Suwak::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    pressed_ = arrowRect(SliderSingleStepSub).contains(event->pos()) ? SliderSingleStepSub : SliderSingleStepAdd;
+    triggerAction(pressed_);
+    setRepeatAction(pressed_);
+    update();
+}
+
+void Suwak::mouseReleaseEvent(QMouseEvent*) {
+    pressed_ = SliderNoAction;
+    setRepeatAction(SliderNoAction);
+    update();
+}
+
+PoleEdycji::PoleEdycji(QWidget* parent) : QLineEdit(parent) {
+    connect(this, &QLineEdit::textEdited, this, &PoleEdycji::reportEdit);
 }
 
 void PoleEdycji::showText(const QString& wanted, unsigned requests) {
+    if (composing_)
+        return;
     if (wanted != text()) {
-        const int cursor = cursorPosition();
+        // a character of two code units is shown as one
+        const auto before = text().left(cursorPosition()).toUcs4().size();
         setText(wanted);
-        setCursorPosition(cursor);
+        setCursorPosition(static_cast<int>(before));
     }
     if (std::exchange(requests_, requests) != requests)
         selectAll();
 }
 
-void PoleEdycji::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    if (isWindowChange(event))
-        return;
-    enteredByMouse_ = event->reason() == Qt::MouseFocusReason;
+void PoleEdycji::reportEdit() {
+    if (!composing_ && onEdit)
+        onEdit(text());
+}
+
+void PoleEdycji::enter() {
+    entered_ = true;
     if (onEnter)
         onEnter();
 }
 
-void PoleEdycji::focusOutEvent(QFocusEvent* event) {
-    QLineEdit::focusOutEvent(event);
-    if (!isWindowChange(event) && onLeave)
+void PoleEdycji::leave() {
+    if (std::exchange(entered_, false) && onLeave)
         onLeave();
 }
 
-// The press that enters the box would put the cursor in its place and so undo the selection.
+void PoleEdycji::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (isWindowChange(event) && entered_)
+        return;
+    if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
+        sinceMouseEntry_.start();
+    enter();
+}
+
+void PoleEdycji::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (std::exchange(composing_, false))
+        reportEdit();
+    if (!isWindowChange(event))
+        leave();
+}
+
+// While a composition goes on, the text around it is not complete: a box that it has emptied is not refilled.
+void PoleEdycji::inputMethodEvent(QInputMethodEvent* event) {
+    const bool ends = std::exchange(composing_, !event->preeditString().isEmpty()) && !composing_;
+    QLineEdit::inputMethodEvent(event);
+    if (ends)
+        reportEdit();
+}
+
+// The press that enters the box would put the cursor in its place and so undo the selection. It comes with the focus,
+// or just before or after it where it makes the window the active one, too.
 void PoleEdycji::mousePressEvent(QMouseEvent* event) {
-    if (!enteredByMouse_)
+    constexpr int SAME_PRESS_MS = 100;
+    const bool enters = !entered_ || (sinceMouseEntry_.isValid() && sinceMouseEntry_.elapsed() < SAME_PRESS_MS);
+    sinceMouseEntry_.invalidate();
+    pressEnters_ = enters && event->button() != Qt::RightButton;
+    if (!pressEnters_)
         QLineEdit::mousePressEvent(event);
 }
 
 void PoleEdycji::mouseMoveEvent(QMouseEvent* event) {
-    if (!enteredByMouse_)
+    if (!pressEnters_)
         QLineEdit::mouseMoveEvent(event);
 }
 
 void PoleEdycji::mouseReleaseEvent(QMouseEvent* event) {
-    if (!enteredByMouse_)
+    if (!std::exchange(pressEnters_, false))
         QLineEdit::mouseReleaseEvent(event);
-    enteredByMouse_ = false;
 }
 
 } // namespace dorva

@@ -1,6 +1,7 @@
 // The small widgets of the window that Qt does not have just so.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,13 +21,15 @@ protected:
     void paintEvent(QPaintEvent*) override;
 };
 
-// A button that wraps a long caption, and that shows plainly when it is the selected one of its group.
+// A button that wraps a long caption, and that shows plainly when it is the selected one of its group. The arrow keys
+// of a group go from the selected one, wherever a press has left the focus.
 class Przycisk : public QPushButton {
 public:
     using QPushButton::QPushButton;
 
 protected:
     void paintEvent(QPaintEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
 };
 
 // A label that can be clicked: pressed and released within itself.
@@ -52,44 +55,80 @@ protected:
     void paintEvent(QPaintEvent*) override;
 };
 
-// A swatch: its figure has a dark outline, so that white is read on light colours too.
+// A figure of the panel. A red one is bold and stands on the lightest ground of the palette.
+class Figura : public EtykietaObramowana {
+public:
+    using EtykietaObramowana::EtykietaObramowana;
+    void showFigura(const QString& text, bool czerwona);
+
+private:
+    bool czerwona_ = false;
+};
+
+// A swatch: its figure has a dark outline, so that white is read on light colours too. The one being edited has a pale
+// figure and a frame.
 class ProbkaKoloru : public EtykietaObramowana {
 public:
     using EtykietaObramowana::EtykietaObramowana;
+    void showKolor(int value, const QColor& kolor, bool wybrany);
 
 protected:
     void paintEvent(QPaintEvent*) override;
+
+private:
+    bool wybrana_ = false;
 };
 
-// A horizontal scroll bar whose Left key goes left: a bar of its own does the opposite.
+// A horizontal scroll bar too short for a thumb: two arrows side by side. A key or a turn of the wheel goes the way it
+// points; up is more.
 class Suwak : public QScrollBar {
 public:
-    explicit Suwak(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {}
+    explicit Suwak(QWidget* parent);
 
 protected:
-    void keyPressEvent(QKeyEvent*) override;
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override {}
+    void mouseReleaseEvent(QMouseEvent*) override;
+    void contextMenuEvent(QContextMenuEvent*) override {}
+
+private:
+    [[nodiscard]] QRect arrowRect(SliderAction) const;
+
+    SliderAction pressed_ = SliderNoAction;
 };
 
-// A text box that selects its whole text when it is entered, by key or by mouse, and tells when it is
-// entered and left. A change of the active window is neither.
+// A text box that selects its whole text when it is entered, by key or by mouse, and tells when it is entered, changed
+// by the user, and left. Another program's window is no place to leave it for.
 class PoleEdycji : public QLineEdit {
 public:
-    using QLineEdit::QLineEdit;
+    explicit PoleEdycji(QWidget* parent);
     std::function<void()> onEnter, onLeave;
+    std::function<void(const QString& typed)> onEdit;
 
     // Writes only another text than the box shows, so that typing keeps the cursor; selects it all where the number of
     // requests to do so has grown.
     void showText(const QString&, unsigned requests);
 
+    // Where the focus goes to another window of the program.
+    void leave();
+
 protected:
     void focusInEvent(QFocusEvent*) override;
     void focusOutEvent(QFocusEvent*) override;
+    void inputMethodEvent(QInputMethodEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
 
 private:
-    bool enteredByMouse_ = false;
+    void enter();
+    void reportEdit();
+
+    bool entered_ = false;
+    QElapsedTimer sinceMouseEntry_;
+    bool pressEnters_ = false; // the press that is going on
+    bool composing_ = false;   // an input method holds what is typed
     unsigned requests_ = 0;
 };
 

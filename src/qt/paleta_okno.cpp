@@ -6,8 +6,12 @@
 #include "qt/przeklad.h"
 #include "tiles/paleta_barw.h"
 
+#include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
+#include <QWindow>
+
+#include <utility>
 
 namespace dorva {
 namespace {
@@ -44,6 +48,11 @@ PaletaOkno::PaletaOkno(QWidget* parent)
     setWindowTitle("Paleta Atari");
     setFixedSize(CLIENT);
     connect(this, &QDialog::finished, this, [this] { onClose(); });
+    // To a style, a tool window and its parent are active together; the keyboard belongs to one of them.
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
+        if (window && window == windowHandle())
+            onKeyboard();
+    });
 }
 
 void PaletaOkno::build() {
@@ -97,11 +106,16 @@ void PaletaOkno::showOkno(const OknoPalety& okno) {
         setColour(picPaleta_[i], QPalette::Window, toQColor(okno.picPaleta[i]));
     setColour(picWybrany_, QPalette::Window, toQColor(okno.picWybrany));
     lblWybrany_->setText(toQString(okno.lblWybrany));
-    if (okno.otwarte == isVisible())
-        return;
-    setVisible(okno.otwarte);
     if (!okno.otwarte)
-        return;
+        setVisible(false);
+    else if (std::exchange(otwarcia_, okno.otwarcia) != okno.otwarcia)
+        bringUp();
+}
+
+// It may be there already, behind another window or minimised.
+void PaletaOkno::bringUp() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
     raise();
     activateWindow();
 }

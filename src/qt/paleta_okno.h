@@ -19,14 +19,17 @@ public:
     explicit PaletaOkno(QWidget* parent);
 
     std::function<void(int index)> onPick;
-    std::function<void()> onClose; // by whatever means
+    std::function<void()> onClose;    // by whatever means
+    std::function<void()> onKeyboard; // it takes the keyboard
 
     void showOkno(const OknoPalety&);
 
 private:
     void build(); // when first opened
     void place();
+    void bringUp();
 
+    unsigned otwarcia_ = 0; // as often as it was brought up
     std::array<EtykietaObramowana*, 128> picPaleta_{};
     QWidget* picWybrany_ = nullptr;
     QLabel* lblWybrany_ = nullptr;

@@ -30,8 +30,8 @@ constexpr Qt::CheckState STANY[]{Qt::Unchecked, Qt::Checked, Qt::PartiallyChecke
 PokazOkna::PokazOkna(QWidget& window, const KontrolkiOkna& kontrolki, PaletaOkno& dlgPaleta, const Magazyn& zestawy)
     : obrazki_(zestawy), window_(window), dlgPaleta_(dlgPaleta), imgPG_(kontrolki.get<PlanszaWidget>("imgPG")),
       imgZnak_(kontrolki.get<WyborWidget>("imgZnak")), imgBufor_(kontrolki.get<ObrazWidget>("imgBufor")),
-      imgInfo_(kontrolki.getAll<ObrazWidget>("imgInfo")), lblInfo_(kontrolki.getAll<Etykieta>("lblInfo")),
-      lblKodBufor_(kontrolki.getAll<Etykieta>("lblKodBufor")), lblKolor_(kontrolki.getAll<Etykieta>("lblKolor")),
+      imgInfo_(kontrolki.getAll<ObrazWidget>("imgInfo")), lblInfo_(kontrolki.getAll<Figura>("lblInfo")),
+      lblKodBufor_(kontrolki.getAll<Etykieta>("lblKodBufor")), lblKolor_(kontrolki.getAll<ProbkaKoloru>("lblKolor")),
       hscMonet_(kontrolki.get<QScrollBar>("hscMonet")), chkOstatni_(kontrolki.get<QCheckBox>("chkOstatni")),
       chkZachowajKolory_(kontrolki.get<QCheckBox>("chkZachowajKolory")),
       txtAutor_(kontrolki.get<PoleEdycji>("txtAutor")) {
@@ -56,6 +56,7 @@ void PokazOkna::showObrazy(const Okno& okno) {
     imgPG_->showPlansza(okno.imgPG, obrazki_);
     imgPG_->showObrys(okno.obrys);
     imgZnak_->showZnaki(okno.imgZnak, obrazki_);
+    imgZnak_->showBufor(okno.imgBufor.znak);
     imgBufor_->showObraz(obrazki_[okno.imgBufor.obraz]);
     for (std::size_t i = 0; i < imgInfo_.size(); ++i)
         imgInfo_[i]->showObraz(obrazki_[okno.imgInfo[i]]);
@@ -78,11 +79,9 @@ void PokazOkna::showOpcje(const Okno& okno) {
 }
 
 void PokazOkna::showFigury(const Okno& okno) {
-    const QColor usual = window_.palette().color(QPalette::WindowText), red(Qt::red);
     for (int i = 0; i < info::COUNT; ++i) {
         const InfoFigura& figura = okno.lblInfo[i];
-        lblInfo_[i]->setText(toQString(infoCaption(static_cast<info::Figura>(i), figura.liczba)));
-        setColour(lblInfo_[i], QPalette::WindowText, figura.czerwona ? red : usual);
+        lblInfo_[i]->showFigura(toQString(infoCaption(static_cast<info::Figura>(i), figura.liczba)), figura.czerwona);
     }
     for (std::size_t i = 0; i < lblKodBufor_.size(); ++i)
         lblKodBufor_[i]->setText(toQString(okno.lblKodBufor[i]));
@@ -91,12 +90,9 @@ void PokazOkna::showFigury(const Okno& okno) {
 }
 
 void PokazOkna::showKolory(const Okno& okno) {
-    const QColor white(Qt::white), lightRed(255, 192, 192);
     for (std::size_t i = 0; i < lblKolor_.size(); ++i) {
         const KolorSlot& slot = okno.lblKolor[i];
-        lblKolor_[i]->setText(QString::number(slot.value));
-        setColour(lblKolor_[i], QPalette::Window, toQColor(slot.tlo));
-        setColour(lblKolor_[i], QPalette::WindowText, slot.wybrany ? lightRed : white);
+        lblKolor_[i]->showKolor(slot.value, toQColor(slot.tlo), slot.wybrany);
     }
 }
 

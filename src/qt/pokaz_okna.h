@@ -15,11 +15,13 @@ class QWidget;
 namespace dorva {
 
 class Etykieta;
+class Figura;
 class KontrolkiOkna;
 class ObrazWidget;
 class PaletaOkno;
 class PlanszaWidget;
 class PoleEdycji;
+class ProbkaKoloru;
 class WyborWidget;
 
 class PokazOkna {
@@ -44,7 +46,9 @@ private:
     WyborWidget* imgZnak_;
     ObrazWidget* imgBufor_;
     std::vector<ObrazWidget*> imgInfo_;
-    std::vector<Etykieta*> lblInfo_, lblKodBufor_, lblKolor_;
+    std::vector<Figura*> lblInfo_;
+    std::vector<Etykieta*> lblKodBufor_;
+    std::vector<ProbkaKoloru*> lblKolor_;
     QScrollBar* hscMonet_;
     QCheckBox *chkOstatni_, *chkZachowajKolory_;
     std::vector<std::vector<QPushButton*>> opcje_; // by group

@@ -32,16 +32,16 @@ QString toQString(const Tekst& tekst) {
     return result;
 }
 
-Tekst fromQString(const QString& text) {
-    Tekst result;
-    for (char32_t c : text.toUcs4()) {
-        if (c >= SYMBOLE_STEROWANIA && c < SYMBOLE_STEROWANIA + ' ')
-            result.znaki += static_cast<char>(c - SYMBOLE_STEROWANIA);
-        else if (c < ' ' || c == KOD_DEL)
-            result.znaki += ' ';
-        else
-            result.znaki += static_cast<char>(c == SYMBOL_DEL ? KOD_DEL : fromUnicode(c));
-    }
+Tekst fromEdited(const QString& edited, const Tekst& before) {
+    const QString shown = toQString(before);
+    const auto common = std::min(edited.size(), shown.size());
+    const auto prefix = std::mismatch(edited.begin(), edited.begin() + common, shown.begin()).first - edited.begin();
+    const auto rest = common - prefix;
+    const auto suffix = std::mismatch(edited.rbegin(), edited.rbegin() + rest, shown.rbegin()).first - edited.rbegin();
+    Tekst result{before.znaki.substr(0, static_cast<std::size_t>(prefix))};
+    for (char32_t c : edited.mid(prefix, edited.size() - prefix - suffix).toUcs4())
+        result.znaki += static_cast<char>(c < ' ' || c == KOD_DEL ? Bajt{' '} : fromUnicode(c));
+    result.znaki += before.znaki.substr(before.size() - static_cast<std::size_t>(suffix));
     return result;
 }
 

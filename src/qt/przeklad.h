@@ -18,10 +18,13 @@ namespace dorva {
 // Captions and messages.
 QString toQString(std::string_view utf8);
 
-// The window's text for bytes of the code page. A control code is shown by its symbol, so that a box
-// always holds as many characters as the text. What a user types or pastes has none: they become spaces.
+// The window's text for bytes of the code page. A control code, which only a file can hold, is shown by its symbol, so
+// that a box always holds as many characters as the text.
 QString toQString(const Tekst&);
-Tekst fromQString(const QString&);
+
+// The text for what a box shows after the user has changed it: what was there already keeps its bytes; what was typed
+// or pasted has no control codes, they become spaces.
+Tekst fromEdited(const QString& edited, const Tekst& before);
 
 // Paths as the file system spells them.
 QString nameOfPath(const std::filesystem::path&);

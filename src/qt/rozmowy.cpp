@@ -1,5 +1,6 @@
 #include "qt/rozmowy.h"
 
+#include "qt/lista_plikow.h"
 #include "qt/przeklad.h"
 #include "qt/sesja.h"
 
@@ -46,16 +47,17 @@ struct EndDialog {
 using Dialog = std::unique_ptr<QFileDialog, EndDialog>;
 
 std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, const QString& accept) {
-    constexpr QSize SIZE(760, 460); // of Qt's own dialog: dates are read in full
+    constexpr QSize SIZE(760, 460);
     dialog.resize(SIZE);
+    showLista(dialog);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(nameFilters(question.filter));
     dialog.setDirectory(startFolder(question.start));
     dialog.setLabelText(QFileDialog::Accept, accept);
-    dialog.setLabelText(QFileDialog::Reject, "Anuluj");
-    dialog.setLabelText(QFileDialog::LookIn, "Szukaj w:");
-    dialog.setLabelText(QFileDialog::FileName, "Nazwa pliku:");
-    dialog.setLabelText(QFileDialog::FileType, "Pliki typu:");
+    dialog.setLabelText(QFileDialog::Reject, "&Anuluj");
+    dialog.setLabelText(QFileDialog::LookIn, "&Szukaj w:");
+    dialog.setLabelText(QFileDialog::FileName, "&Nazwa pliku:");
+    dialog.setLabelText(QFileDialog::FileType, "Pliki &typu:");
     if (!question.name.empty())
         dialog.selectFile(toQString(question.name));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
@@ -70,10 +72,10 @@ bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
                     QMessageBox::NoButton, parent);
     box.setTextFormat(Qt::PlainText);
     const bool yesNo = komunikat.przyciski == Przyciski::YesNo;
-    QPushButton* accept = box.addButton(yesNo ? "Tak" : "OK", QMessageBox::AcceptRole);
+    QPushButton* accept = box.addButton(yesNo ? "&Tak" : "&OK", QMessageBox::AcceptRole);
     QPushButton* last = accept;
     if (komunikat.przyciski != Przyciski::Ok)
-        last = box.addButton(yesNo ? "Nie" : "Anuluj", QMessageBox::RejectRole);
+        last = box.addButton(yesNo ? "&Nie" : "&Anuluj", QMessageBox::RejectRole);
     // What can't be undone must not hang on a key pressed too often.
     box.setDefaultButton(komunikat.ikona == Ikona::Warning ? last : accept);
     box.setEscapeButton(last);
@@ -84,7 +86,7 @@ bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
 std::optional<fs::path> askOpen(QWidget* parent, const DialogPliku& question) {
     const Dialog dialog(new QFileDialog(parent, "Otwieranie"));
     dialog->setFileMode(QFileDialog::ExistingFile);
-    return ask(*dialog, question, "Otwórz");
+    return ask(*dialog, question, "&Otwórz");
 }
 
 std::optional<fs::path> askSave(QWidget* parent, const DialogPliku& question) {
@@ -92,7 +94,7 @@ std::optional<fs::path> askSave(QWidget* parent, const DialogPliku& question) {
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
-    return ask(*dialog, question, "Zapisz");
+    return ask(*dialog, question, "&Zapisz");
 }
 
 } // namespace dorva

@@ -2,6 +2,7 @@
 
 #include "board/plansza.h"
 #include "qt/kursory.h"
+#include "qt/obramowanie.h"
 #include "qt/przeklad.h"
 
 #include <QHelpEvent>
@@ -17,6 +18,7 @@
 namespace dorva {
 namespace {
 
+constexpr QColor SEPARATOR(0, 0, 0); // between slots
 constexpr int SLOT_PITCH = OBRAZ_SIDE, SLOT_SIDE = OBRAZ_SIDE + 2;
 
 int buttonsOf(Qt::MouseButtons buttons) {
@@ -67,9 +69,10 @@ void drawObrys(QPainter& painter, QRect rect) {
     painter.drawRect(rect);
 }
 
-void drawBorder(QPainter& painter, QRect rect, QColor colour) {
-    painter.setPen(colour);
-    painter.drawRect(rect.adjusted(0, 0, -1, -1));
+// A frame of a slot, with a dark line within, so that it is seen on any tile.
+void drawFrame(QPainter& painter, QRect rect, const QColor& colour, int thickness) {
+    drawBorder(painter, rect, colour, thickness);
+    drawBorder(painter, rect.adjusted(thickness, thickness, -thickness, -thickness), Qt::black);
 }
 
 // The large picture as an image, without a copy.
@@ -171,6 +174,7 @@ void PlanszaWidget::mouseMoveEvent(QMouseEvent* event) {
 
 WyborWidget::WyborWidget(QWidget* parent) : QWidget(parent) {
     setCursor(kursorWyboru());
+    setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -181,6 +185,7 @@ void WyborWidget::showZnaki(const std::array<ZnakSlot, ZNAKI_COUNT>& imgZnak, Ob
         changed |= obrazki_[slot] != obrazek;
         obrazki_[slot] = obrazek;
     }
+    imgZnak_ = imgZnak;
     if (!changed)
         return;
     image_ = QImage(size(), QImage::Format_RGB32);
@@ -189,9 +194,24 @@ void WyborWidget::showZnaki(const std::array<ZnakSlot, ZNAKI_COUNT>& imgZnak, Ob
     for (int slot : WYBOR_ORDER) {
         const QRect rect = slotRect(slot);
         painter.drawImage(rect.topLeft() + QPoint(1, 1), imageOver(*obrazki_[slot]));
-        drawBorder(painter, rect, QColor::fromRgb(SZARY)); // tells dark tiles apart as well as light ones
+        drawBorder(painter, rect, SEPARATOR);
     }
     update();
+}
+
+void WyborWidget::showBufor(Znak znak) {
+    const auto* found = std::find_if(WYBOR_ORDER.begin(), WYBOR_ORDER.end(),
+                                     [&](int slot) { return imgZnak_[slot].enabled && imgZnak_[slot].znak == znak; });
+    moveFrame(inBufor_, found == WYBOR_ORDER.end() ? -1 : *found);
+}
+
+// On a fractional scale a line may lie on the neighbours' rims.
+void WyborWidget::moveFrame(int& slot, int to) {
+    const int before = std::exchange(slot, to);
+    if (before == to)
+        return;
+    for (int changed : {before, to})
+        update(slotRect(changed).adjusted(-1, -1, 1, 1));
 }
 
 QRect WyborWidget::slotRect(int slot) {
@@ -226,7 +246,21 @@ bool WyborWidget::event(QEvent* event) {
 }
 
 void WyborWidget::paintEvent(QPaintEvent*) {
-    QPainter(this).drawImage(rect(), image_);
+    constexpr QColor IN_BUFOR(255, 224, 64), UNDER_POINTER(255, 255, 255);
+    QPainter painter(this);
+    painter.drawImage(rect(), image_);
+    if (inBufor_ >= 0)
+        drawFrame(painter, slotRect(inBufor_), IN_BUFOR, 2);
+    if (underPointer_ >= 0 && imgZnak_[underPointer_].enabled)
+        drawFrame(painter, slotRect(underPointer_), UNDER_POINTER, 1);
+}
+
+void WyborWidget::mouseMoveEvent(QMouseEvent* event) {
+    moveFrame(underPointer_, slotAt(event->pos()));
+}
+
+void WyborWidget::leaveEvent(QEvent*) {
+    moveFrame(underPointer_, -1);
 }
 
 void WyborWidget::mousePressEvent(QMouseEvent* event) {

@@ -41,7 +41,8 @@ private:
     QPoint pointer_; // in cells; may lie outside the board during a drag
 };
 
-// The two visible rows of the tile picker in one widget.
+// The two visible rows of the tile picker in one widget. A frame tells the slot under the pointer, another one the slot
+// whose tile is in the buffer; a disabled slot has none.
 class WyborWidget : public QWidget {
 public:
     explicit WyborWidget(QWidget* parent);
@@ -50,6 +51,7 @@ public:
     std::function<void(int slot)> onClick;
 
     void showZnaki(const std::array<ZnakSlot, ZNAKI_COUNT>&, Obrazki&);
+    void showBufor(Znak);
 
     // The rectangle of a visible slot, its border included; empty for a hidden one.
     [[nodiscard]] static QRect slotRect(int slot);
@@ -59,13 +61,17 @@ protected:
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void leaveEvent(QEvent*) override;
 
 private:
     [[nodiscard]] static int slotAt(QPoint); // -1 for none
+    void moveFrame(int& slot, int to);
 
     std::array<ObrazekPtr, ZNAKI_COUNT> obrazki_;
+    std::array<ZnakSlot, ZNAKI_COUNT> imgZnak_;
     QImage image_;
-    int pressed_ = -1;
+    int pressed_ = -1, underPointer_ = -1, inBufor_ = -1; // slots
 };
 
 // The picture of one tile with a thin border: 32 x 32 within 34 x 34 pixels, or 16 x 16 with the border

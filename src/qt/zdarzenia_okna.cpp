@@ -79,9 +79,9 @@ void bindPola(const KontrolkiOkna& kontrolki, const Wykonanie& run) {
         box->setMaxLength(static_cast<int>(pole.width));
         box->onEnter = [run, &pole] { run([&](Edytor& e) { txt_GotFocus(e, pole); }); };
         box->onLeave = [run, &pole] { run([&](Edytor& e) { txt_LostFocus(e, pole); }); };
-        QObject::connect(box, &QLineEdit::textEdited, box, [run, &pole](const QString& typed) {
-            run([&](Edytor& e) { txt_Change(e, pole, fromQString(typed)); });
-        });
+        box->onEdit = [run, &pole](const QString& edited) {
+            run([&](Edytor& e) { txt_Change(e, pole, fromEdited(edited, pole.in(e.okno).tekst)); });
+        };
     }
 }
 
@@ -116,6 +116,10 @@ void bindEvents(const KontrolkiOkna& kontrolki, PaletaOkno& dlgPaleta, const Wyk
     bindZnaki(kontrolki, run);
     dlgPaleta.onPick = [run](int index) { run([=](Edytor& e) { picPaleta_Click(e, index); }); };
     dlgPaleta.onClose = [run] { run(closePaleta); };
+    dlgPaleta.onKeyboard = [window = dlgPaleta.parentWidget()] {
+        if (auto* box = dynamic_cast<PoleEdycji*>(window->focusWidget()))
+            box->leave();
+    };
 }
 
 void bindHooks(Haki& haki, QWidget* window, const std::function<void()>& show) {

@@ -52,9 +52,11 @@ struct KolorSlot {
     bool operator==(const KolorSlot&) const = default;
 };
 
-// The palette dialog: 128 cells of the even colour values, and the preview.
+// The palette dialog: 128 cells of the even colour values, and the preview. `otwarcia` counts how often it was asked
+// for.
 struct OknoPalety {
     bool otwarte = false;
+    unsigned otwarcia = 0;
     std::array<Rgb, 128> picPaleta{};
     Rgb picWybrany{};
     std::string lblWybrany = "0";

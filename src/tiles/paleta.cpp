@@ -39,6 +39,7 @@ void OpenPaleta(Edytor& e) {
         okno.picPaleta[i] = e.Paleta[2 * i];
     showWybrany(e);
     okno.otwarte = true;
+    ++okno.otwarcia;
 }
 
 void picPaleta_Click(Edytor& e, int index) {

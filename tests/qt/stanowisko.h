@@ -85,7 +85,7 @@ protected:
         whenAsked<QMessageBox>([this, caption](QMessageBox* box) {
             said.append(box->windowTitle() + "|" + box->text());
             for (QAbstractButton* button : box->buttons())
-                if (button->text() == caption)
+                if (button->text().remove('&') == caption)
                     return button->click();
             ADD_FAILURE() << "no button " << caption.toStdString();
             box->reject();

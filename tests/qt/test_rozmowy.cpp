@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QStandardPaths>
+#include <QTreeView>
 
 namespace dorva::test {
 namespace {
@@ -58,6 +59,28 @@ TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
         QFile::exists(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/QtProject.conf"));
 }
 
+TEST_F(Rozmowy, FilesAreListedByNumberInPolish) {
+    open();
+    e.OstatniaSciezka = base / "ETAPY";
+    whenAsked<QFileDialog>([](QFileDialog* dialog) {
+        const auto* list = dialog->findChild<QTreeView*>("treeView");
+        const auto text = [&](int row, int column) {
+            return list->model()->index(row, column, list->rootIndex()).data().toString();
+        };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return text(31, 1) != ""; }));
+        EXPECT_EQ(text(1, 0), "DETAP.2");
+        EXPECT_EQ(text(9, 0), "DETAP.10");
+        EXPECT_EQ(text(9, 1), "931 B");
+        EXPECT_EQ(text(9, 3).left(10), QDate::currentDate().toString("dd.MM.yyyy"));
+        EXPECT_TRUE(list->isColumnHidden(2));
+        EXPECT_EQ(list->model()->headerData(3, Qt::Horizontal), "Data zmiany");
+        QTest::keyClick(dialog, Qt::Key_A, Qt::AltModifier);
+        EXPECT_FALSE(dialog->isVisible());
+        dialog->reject();
+    });
+    click("cmdLoad");
+}
+
 TEST_F(Rozmowy, AnExistingFileIsReplacedOnlyWhenAsked) {
     open();
     const fs::path archive = root / "gra.dpa";
@@ -74,7 +97,7 @@ TEST_F(Rozmowy, ClearingAsksAndStays) {
     whenAskedPress("Nie");
     click("cmdCzysc");
     EXPECT_EQ(cellOf(45), znak(45));
-    whenAskedPress("Tak");
+    whenAsked<QMessageBox>([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_T); });
     QTest::keyClick(find("cmdCzysc"), Qt::Key_Return);
     EXPECT_EQ(cellOf(45), ZIEMIA);
     EXPECT_EQ(find<QLineEdit>("txtNazwa")->text(), QString(32, ' '));

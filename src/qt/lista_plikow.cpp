@@ -1,0 +1,89 @@
+#include "qt/lista_plikow.h"
+
+#include <QDateTime>
+#include <QFileDialog>
+#include <QFileSystemModel>
+#include <QHeaderView>
+#include <QLocale>
+#include <QTreeView>
+
+namespace dorva {
+namespace {
+
+enum Kolumna { NAZWA, ROZMIAR, RODZAJ, DATA, KOLUMNY_COUNT };
+constexpr const char* NAGLOWKI[KOLUMNY_COUNT]{"Nazwa", "Rozmiar", "Rodzaj", "Data zmiany"};
+
+// The run of digits at a place, leading zeros left out.
+QStringView numberAt(const QString& name, qsizetype& at) {
+    const qsizetype first = at;
+    while (at < name.size() && name[at].isDigit())
+        ++at;
+    QStringView digits = QStringView(name).mid(first, at - first);
+    while (digits.size() > 1 && digits.front() == '0')
+        digits = digits.mid(1);
+    return digits;
+}
+
+} // namespace
+
+bool isNameBefore(const QString& left, const QString& right) {
+    qsizetype l = 0, r = 0;
+    while (l < left.size() && r < right.size()) {
+        if (left[l].isDigit() && right[r].isDigit()) {
+            const QStringView a = numberAt(left, l), b = numberAt(right, r);
+            if (a.size() != b.size())
+                return a.size() < b.size();
+            if (a != b)
+                return a < b;
+        } else if (const QChar a = left[l++].toCaseFolded(), b = right[r++].toCaseFolded(); a != b)
+            return a < b;
+    }
+    return left.size() - l < right.size() - r;
+}
+
+QVariant ListaPlikow::data(const QModelIndex& index, int role) const {
+    const auto* files = qobject_cast<QFileSystemModel*>(sourceModel());
+    const QModelIndex file = mapToSource(index);
+    if (!files || role != Qt::DisplayRole || !file.isValid())
+        return QSortFilterProxyModel::data(index, role);
+    const QLocale polish(QLocale::Polish);
+    if (index.column() == ROZMIAR)
+        return files->isDir(file) ? QString() : polish.formattedDataSize(files->size(file));
+    if (index.column() == DATA)
+        return files->lastModified(file).toString("dd.MM.yyyy HH:mm");
+    return QSortFilterProxyModel::data(index, role);
+}
+
+QVariant ListaPlikow::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 && section < KOLUMNY_COUNT)
+        return QString(NAGLOWKI[section]);
+    return QSortFilterProxyModel::headerData(section, orientation, role);
+}
+
+bool ListaPlikow::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+    const auto* files = qobject_cast<QFileSystemModel*>(sourceModel());
+    if (!files)
+        return QSortFilterProxyModel::lessThan(left, right);
+    if (files->isDir(left) != files->isDir(right))
+        return files->isDir(left) == (sortOrder() == Qt::AscendingOrder);
+    if (left.column() == ROZMIAR && files->size(left) != files->size(right))
+        return files->size(left) < files->size(right);
+    if (left.column() == DATA && files->lastModified(left) != files->lastModified(right))
+        return files->lastModified(left) < files->lastModified(right);
+    return isNameBefore(files->fileName(left), files->fileName(right));
+}
+
+void showLista(QFileDialog& dialog) {
+    dialog.setViewMode(QFileDialog::Detail);
+    dialog.setProxyModel(new ListaPlikow(&dialog));
+    const auto* tree = dialog.findChild<QTreeView*>("treeView");
+    if (!tree)
+        return;
+    QHeaderView* header = tree->header();
+    header->setSectionHidden(RODZAJ, true);
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(NAZWA, QHeaderView::Stretch);
+}
+
+} // namespace dorva

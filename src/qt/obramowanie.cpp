@@ -1,0 +1,14 @@
+#include "qt/obramowanie.h"
+
+#include <QPainter>
+
+namespace dorva {
+
+void drawBorder(QPainter& painter, const QRect& r, const QColor& colour, int thickness) {
+    painter.fillRect(r.left(), r.top(), r.width(), thickness, colour);
+    painter.fillRect(r.left(), r.bottom() + 1 - thickness, r.width(), thickness, colour);
+    painter.fillRect(r.left(), r.top(), thickness, r.height(), colour);
+    painter.fillRect(r.right() + 1 - thickness, r.top(), thickness, r.height(), colour);
+}
+
+} // namespace dorva

@@ -1,0 +1,139 @@
+// The window's own controls under hand, key and wheel.
+#include "stanowisko.h"
+
+#include <QClipboard>
+#include <QDialog>
+#include <QInputMethodEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+namespace dorva::test {
+namespace {
+
+class Kontrolki : public Stanowisko {
+protected:
+    void SetUp() override {
+        Stanowisko::SetUp();
+        open();
+        nazwa = find<QLineEdit>("txtNazwa");
+    }
+    void compose(const QString& preedit, const QString& commit) const {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(commit);
+        QApplication::sendEvent(nazwa, &event);
+    }
+    QLineEdit* nazwa = nullptr;
+};
+
+TEST_F(Kontrolki, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
+    auto* bar = find<QScrollBar>("hscMonet");
+    const auto after = [&](auto act) {
+        bar->setValue(50);
+        act();
+        return bar->value() - 50;
+    };
+    for (auto [key, way] : {std::pair(Qt::Key_Right, 1),
+                            {Qt::Key_Up, 1},
+                            {Qt::Key_PageUp, 1},
+                            {Qt::Key_Left, -1},
+                            {Qt::Key_Down, -1},
+                            {Qt::Key_PageDown, -1}})
+        EXPECT_EQ(after([&] { QTest::keyClick(bar, key); }), way) << key;
+    for (int way : {1, -1})
+        EXPECT_EQ(after([&] {
+                      QWheelEvent event(QPointF(9, 9), bar->mapToGlobal(QPointF(9, 9)), {}, QPoint(0, 120 * way),
+                                        Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                      QApplication::sendEvent(bar, &event);
+                  }),
+                  way);
+    for (int x = 1; x < bar->width() - 1; ++x) // no place in between where a thumb could be dragged
+        EXPECT_EQ(after([&] {
+                      QTest::mousePress(bar, Qt::LeftButton, {}, {x, 8});
+                      QTest::mouseMove(bar, {x + 1, 8});
+                      QTest::mouseRelease(bar, Qt::LeftButton, {}, {x + 1, 8});
+                  }),
+                  x <= bar->width() / 2 ? -1 : 1)
+            << x;
+    bar->setFocus();
+    const QImage focused = bar->grab().toImage();
+    nazwa->setFocus();
+    EXPECT_NE(bar->grab().toImage(), focused);
+}
+
+TEST_F(Kontrolki, ARightClickIntoABoxLeavesTheNextClickAlone) {
+    QTest::mousePress(nazwa, Qt::RightButton); // its release goes to the menu
+    const QString text = nazwa->text();
+    QTest::mouseClick(nazwa, Qt::LeftButton);
+    QTest::keyClicks(nazwa, "x");
+    EXPECT_EQ(nazwa->text(), text);
+}
+
+TEST_F(Kontrolki, WhatIsPastedHoldsNoControlCodesWhatAFileHeldStays) {
+    e.okno.txtNazwa.tekst.znaki = "A\nB";
+    okno->showRecord();
+    nazwa->setFocus();
+    nazwa->setCursorPosition(2);
+    QApplication::clipboard()->setText(QString::fromUtf8("␊\n😀"));
+    nazwa->paste();
+    EXPECT_EQ(e.okno.txtNazwa.tekst.znaki, "A\n? ?B");
+    EXPECT_EQ(nazwa->cursorPosition(), 5); // the last one counts as one
+}
+
+TEST_F(Kontrolki, ACompositionInAnEmptiedBoxGoesOn) {
+    click("txtNazwa");
+    compose(QString::fromUtf8("´"), {});
+    EXPECT_EQ(nazwa->text(), "");
+    compose({}, QString::fromUtf8("ó"));
+    EXPECT_EQ(e.okno.txtNazwa.tekst.znaki, "\xF3");
+    nazwa->selectAll();
+    compose("x", {});
+    compose({}, {}); // given up
+    EXPECT_EQ(nazwa->selectedText(), QString(32, ' '));
+}
+
+TEST_F(Kontrolki, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
+    click("txtNazwa");
+    QTest::keyClicks(nazwa, "ala");
+    for (QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
+        QFocusEvent event(type, Qt::ActiveWindowFocusReason);
+        QApplication::sendEvent(nazwa, &event);
+    }
+    EXPECT_EQ(nazwa->text(), "ala");
+    EXPECT_EQ(nazwa->selectedText(), "");
+    click("lblKolor(4)");
+    auto* dialog = find<QDialog>("dlgPaleta");
+    const auto hasKeyboard = [](QWidget* window) {
+        return QTest::qWaitFor([=] { return QGuiApplication::focusWindow() == window->windowHandle(); });
+    };
+    ASSERT_TRUE(hasKeyboard(dialog));
+    EXPECT_EQ(nazwa->text(), QString(15, ' ') + "ALA" + QString(14, ' '));
+
+    dialog->showMinimized();
+    click("lblKolor(5)");
+    EXPECT_FALSE(dialog->isMinimized());
+    dialog->close();
+    okno->activateWindow();
+    ASSERT_TRUE(hasKeyboard(okno.get()));
+    EXPECT_EQ(nazwa->selectedText().size(), 32);
+}
+
+TEST_F(Kontrolki, ArrowKeysGoFromTheSelectedOption) {
+    const auto down = [this] { QTest::keyClick(okno->focusWidget(), Qt::Key_Down); };
+    QTest::mousePress(find("optEtapNR(4)"), Qt::LeftButton); // and dragged off it
+    QTest::mouseRelease(find("optEtapNR(4)"), Qt::LeftButton, {}, {-50, 5});
+    down();
+    EXPECT_EQ(e.NumerEtapu, 2);
+    fs::remove(etap(2));
+    fs::create_directory(etap(2));
+    whenAskedPress("OK");
+    down(); // refused
+    EXPECT_EQ(e.NumerEtapu, 2);
+    fs::remove(etap(2));
+    okno->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
+    down();
+    EXPECT_EQ(e.NumerEtapu, 3);
+}
+
+} // namespace
+} // namespace dorva::test
