@@ -3,7 +3,7 @@
 # Pliki, które zmieniono, zostają nietknięte.
 cd "$(dirname "$0")" || exit 1
 
-pokaz() { # a message that is seen, also where no terminal is open
+pokaz() { # a message that is seen, also where no terminal is open; in letters that every X font has
     for okno in "zenity --warning --title=Planszownik --text" "kdialog --title Planszownik --sorry" "xmessage -center"; do
         # shellcheck disable=SC2086
         command -v "${okno%% *}" >/dev/null 2>&1 && $okno "$1" && return
@@ -12,7 +12,7 @@ pokaz() { # a message that is seen, also where no terminal is open
 }
 
 if ! wzorzec/uloz.sh . wzorzec/planszownik wzorzec/dane; then
-    pokaz "Nie można zapisywać w folderze $PWD. Rozpakuj Planszownik tam, gdzie możesz tworzyć pliki."
+    pokaz "Brak prawa do zapisu w folderze $PWD. Rozpakuj Planszownik w swoim folderze domowym."
     exit 1
 fi
 brak=$(ldd ./planszownik 2>/dev/null | grep 'not found')
