@@ -24,6 +24,10 @@ QStringView numberAt(const QString& name, qsizetype& at) {
     return digits;
 }
 
+QString sizeText(qint64 size) {
+    return size < 1000 ? QString("%1 B").arg(size) : QLocale(QLocale::Polish).formattedDataSize(size, 1);
+}
+
 } // namespace
 
 bool isNameBefore(const QString& left, const QString& right) {
@@ -46,9 +50,8 @@ QVariant ListaPlikow::data(const QModelIndex& index, int role) const {
     const QModelIndex file = mapToSource(index);
     if (!files || role != Qt::DisplayRole || !file.isValid())
         return QSortFilterProxyModel::data(index, role);
-    const QLocale polish(QLocale::Polish);
     if (index.column() == ROZMIAR)
-        return files->isDir(file) ? QString() : polish.formattedDataSize(files->size(file));
+        return files->isDir(file) ? QString() : sizeText(files->size(file));
     if (index.column() == DATA)
         return files->lastModified(file).toString("dd.MM.yyyy HH:mm");
     return QSortFilterProxyModel::data(index, role);

@@ -74,6 +74,7 @@ TEST_F(Rozmowy, FilesAreListedByNumberInPolish) {
         EXPECT_EQ(text(9, 3).left(10), QDate::currentDate().toString("dd.MM.yyyy"));
         EXPECT_TRUE(list->isColumnHidden(2));
         EXPECT_EQ(list->model()->headerData(3, Qt::Horizontal), "Data zmiany");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
         QTest::keyClick(dialog, Qt::Key_A, Qt::AltModifier);
         EXPECT_FALSE(dialog->isVisible());
         dialog->reject();
