@@ -76,7 +76,7 @@ TEST_F(Rozmowy, FilesAreListedByNumberInPolish) {
         EXPECT_EQ(list->model()->headerData(3, Qt::Horizontal), "Data zmiany");
         EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
         QTest::keyClick(dialog, Qt::Key_A, Qt::AltModifier);
-        EXPECT_FALSE(dialog->isVisible());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog->isVisible(); }));
         dialog->reject();
     });
     click("cmdLoad");
