@@ -36,7 +36,8 @@ TEST_F(SesjaPosix, TheLauncherRunsTheEmulatorBesideTheEditor) {
     click("cmdTest");
     EXPECT_EQ(said, QStringList("Dorva Planszownik|Został utworzony plik XEX z testowanym etapem.\n"
                                 "Uruchomić plik na emulatorze Atari?"));
-    const std::string called = fs::canonical(base).string() + "\n-xe -nobasic -run PLIKI/TEST.XEX\n";
+    const std::string called =
+        fs::canonical(base).string() + "\n-xe -nobasic -win-width 1008 -win-height 720 -run PLIKI/TEST.XEX\n";
     EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(root / "wywolanie").size() == called.size(); }));
     EXPECT_EQ(readFile(root / "wywolanie"), Bajty(called.begin(), called.end()));
     qputenv("PATH", path);

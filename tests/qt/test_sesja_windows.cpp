@@ -36,9 +36,10 @@ protected:
 TEST_F(SesjaWindows, TheLauncherFindsTheEmulatorInThePathAndRatherInItsFolder) {
     open();
     const auto here = base.u8string();
-    const std::string called = std::string(here.begin(), here.end()) + "\n-xe -nobasic -run PLIKI\\TEST.XEX\n";
+    const std::string called =
+        std::string(here.begin(), here.end()) + "\n-xe -nobasic -win-width 1008 -win-height 720 -run PLIKI\\TEST.XEX\n";
     const fs::path elsewhere = root / "Programy (x86)";
-    const fs::path beside = base / "PLIKI/atari800";
+    const fs::path beside = base / "PLIKI/emulator";
     for (const fs::path& folder : {elsewhere, beside}) {
         fs::create_directory(folder);
         fs::copy_file(DORVA_EMULATOR, folder / "atari800.exe");
