@@ -200,7 +200,7 @@ protected:
 
     // The power goes now.
     void expectEveryCutWhole() {
-        constexpr std::size_t UNSURE_MAX = 8; // the states would double with each
+        constexpr std::size_t UNSURE_MAX = 5; // the states would double with each
         ASSERT_LT(pamiec.niepewne.size(), UNSURE_MAX) << "names whose folder was never flushed";
         const Pamiec now = pamiec;
         for (const Pliki& disk : now.afterPowerCut()) {
