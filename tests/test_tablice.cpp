@@ -1,6 +1,8 @@
 // Tables that other programs and people rely on, as a whole: a slip in one entry shows in a sum or in its row.
+#include "output/narzedzia.h"
 #include "output/obraz_gry.h"
 #include "pulpit.h"
+#include "shell/komunikaty.h"
 #include "stage/archiwum.h"
 
 namespace dorva::test {
@@ -14,15 +16,27 @@ std::uint64_t suma(std::span<const Bajt> bytes) {
     return sum;
 }
 
-TEST(Tablice, SumsOfPaletteNamesAndPicker) {
-    Bajty palette, names;
+TEST(Tablice, SumsOfPaletteColoursNamesPickerAndMessages) {
+    Bajty palette, colours, names, messages;
     for (Rgb c : PaletaWbudowana)
         palette.insert(palette.end(), {c.r, c.g, c.b});
     for (std::string_view name : NAZWY_ZNAKOW) {
         names.insert(names.end(), name.begin(), name.end());
         names.push_back('\n');
     }
+    for (const auto& swiat : KOLORY_STARTOWE)
+        colours.insert(colours.end(), swiat.begin(), swiat.end());
+    using namespace komunikaty;
+    for (const Komunikat& k : {ZLY_FORMAT, ZASTAPIC, ETAP_ZAPISANY, ARCHIWUM_ZAPISANE, NIE_MOZNA_PLIKU, NIE_MOZNA_GRY,
+                               NIE_MOZNA_ETAPU, CZYSZCZENIE, KOLORY_ZABLOKOWANE, GRA_UTWORZONA, TEST_UTWORZONY}) {
+        for (std::string_view text : {k.title, k.text})
+            messages.insert(messages.end(), text.begin(), text.end());
+        messages.push_back(static_cast<Bajt>(k.ikona));
+        messages.push_back(static_cast<Bajt>(k.przyciski));
+    }
     EXPECT_EQ(suma(palette), 0xFD46F3290A06B174);
+    EXPECT_EQ(suma(colours), 0x7772B344A1F5494B);
+    EXPECT_EQ(suma(messages), 0xC1BC0064F6D207C1);
     EXPECT_EQ(suma(names), 0x6B242B1432DEE10A);
     EXPECT_EQ(suma(Bajty(WYBOR_ORDER.begin(), WYBOR_ORDER.end())), 0xED32442C13F276FE);
 }
@@ -71,6 +85,16 @@ TEST_F(Dialogi, NamesFiltersAndWhereTheNextOneStarts) {
         EXPECT_EQ(e.OstatniaSciezka, last) << "a cancel changes nothing";
     }
     EXPECT_EQ(dialogs.size(), 10U);
+}
+
+TEST_F(Dialogi, ProgramsAndTheirWindows) {
+    start();
+    std::vector<std::pair<fs::path, OknoProgramu>> programs;
+    e.haki.startProgram = [&](const fs::path& path, OknoProgramu window) { programs.emplace_back(path, window); };
+    RunEmulator(e);
+    cmdORN_Click(e);
+    EXPECT_EQ(programs, (decltype(programs){{base / "PLIKI/DP3.BAT", OknoProgramu::Hidden},
+                                            {base / "OBIEKTY/ORN.exe", OknoProgramu::Normal}}));
 }
 
 } // namespace
