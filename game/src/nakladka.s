@@ -9,7 +9,7 @@
 PIERWSZA_LINIA = 36                     ; scan line of the board's first row
 LEWY_BRZEG = 48                         ; colour clock of its first column
 SUKNIA    = $DE                         ; bright on the ground of every world
-CERA      = $26
+CERA      = $2A
 ZRANIONA  = $5A                         ; the dress while she flickers
 BIEL      = $0E                         ; all of her, as she blinks before her first move
 WYS       = 8
