@@ -55,9 +55,9 @@ std::optional<fs::path> ask(QFileDialog& dialog, const DialogPliku& question, co
     dialog.setDirectory(startFolder(question.start));
     dialog.setLabelText(QFileDialog::Accept, accept);
     dialog.setLabelText(QFileDialog::Reject, "&Anuluj");
-    dialog.setLabelText(QFileDialog::LookIn, "&Szukaj w:");
+    dialog.setLabelText(QFileDialog::LookIn, "Szukaj w:");
     dialog.setLabelText(QFileDialog::FileName, "&Nazwa pliku:");
-    dialog.setLabelText(QFileDialog::FileType, "Pliki &typu:");
+    dialog.setLabelText(QFileDialog::FileType, "Pliki typu:");
     if (!question.name.empty())
         dialog.selectFile(toQString(question.name));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
