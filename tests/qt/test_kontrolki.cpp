@@ -38,7 +38,7 @@ TEST_F(Kontrolki, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
                             {Qt::Key_Left, -1},
                             {Qt::Key_Down, -1},
                             {Qt::Key_PageDown, -1}})
-        EXPECT_EQ(after([&] { QTest::keyClick(bar, key); }), way) << key;
+        EXPECT_EQ(after([bar, key = key] { QTest::keyClick(bar, key); }), way) << key;
     for (int way : {1, -1})
         EXPECT_EQ(after([&] {
                       QWheelEvent event(QPointF(9, 9), bar->mapToGlobal(QPointF(9, 9)), {}, QPoint(0, 120 * way),
