@@ -100,7 +100,7 @@ keep pierwszy-etap okno-pierwszy-etap 96
 keep paleta okno-paleta 256 440x380+648+58
 keep info okno-info 64 660x40+86+354
 keep pytanie okno-pytanie 64 420x150+430+285
-keep zapis okno-zapis 64 630x442+325+128
+keep zapis okno-zapis 64 762x486+259+108
 
 # The numbers of the guide's table, each at its place in the window.
 number=0 marks=()
