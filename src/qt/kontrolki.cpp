@@ -1,6 +1,7 @@
 #include "qt/kontrolki.h"
 
 #include "qt/czcionki.h"
+#include "qt/napisy.h"
 #include "qt/obramowanie.h"
 #include "qt/przeklad.h"
 
@@ -35,25 +36,19 @@ bool isWindowChange(const QFocusEvent* event) {
 void Ramka::paintEvent(QPaintEvent*) {
     constexpr int INDENT = 8, GAP = 2;
     QPainter painter(this);
-    QFont captionFont = font();
     const QString caption = title().trimmed();
-    const int space = width() - 2 * (INDENT + GAP);
-    const int wanted = QFontMetrics(captionFont).horizontalAdvance(caption);
-    if (wanted > space)
-        captionFont.setStretch(100 * space / wanted);
-    painter.setFont(captionFont);
-
-    const QFontMetrics metrics(captionFont);
+    const QFontMetrics metrics = fontMetrics();
     const int top = caption.isEmpty() ? 0 : metrics.height() / 2;
     const QRect line = rect().adjusted(0, top, 0, 0);
     drawBorder(painter, line.adjusted(1, 1, 0, 0), palette().color(QPalette::Light));
     drawBorder(painter, line.adjusted(0, 0, -1, -1), palette().color(QPalette::Mid));
     if (caption.isEmpty())
         return;
-    const QRect box(INDENT, 0, std::min(wanted, space) + 2 * GAP, metrics.height());
-    painter.fillRect(box, palette().window());
+    const int space = width() - 2 * (INDENT + GAP);
+    const QRect box(INDENT + GAP, 0, std::min(metrics.horizontalAdvance(caption), space), metrics.height());
+    painter.fillRect(box.adjusted(-GAP, 0, GAP, 0), palette().window());
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(box, Qt::AlignCenter, caption);
+    drawCaption(painter, box, Qt::AlignCenter, caption);
 }
 
 void Przycisk::paintEvent(QPaintEvent*) {
@@ -69,8 +64,14 @@ void Przycisk::paintEvent(QPaintEvent*) {
         painter.setFont(bold);
     }
     style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
-    style()->drawItemText(&painter, rect().adjusted(2, 0, -2, 0), Qt::AlignCenter | Qt::TextWordWrap, option.palette,
-                          isEnabled(), caption, QPalette::ButtonText);
+    painter.setPen(option.palette.color(QPalette::ButtonText));
+    drawCaption(painter, rect().adjusted(2, 0, -2, 0), Qt::AlignCenter | Qt::TextWordWrap, caption);
+}
+
+void Etykieta::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    drawCaption(painter, contentsRect(), int(alignment()) | (wordWrap() ? Qt::TextWordWrap : 0), text());
 }
 
 void Przycisk::keyPressEvent(QKeyEvent* event) {

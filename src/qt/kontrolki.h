@@ -12,7 +12,7 @@
 
 namespace dorva {
 
-// A frame with a thin line and its caption in it; the caption is narrowed where it would not fit.
+// A frame with a thin line and its caption in it.
 class Ramka : public QGroupBox {
 public:
     using QGroupBox::QGroupBox;
@@ -32,13 +32,14 @@ protected:
     void keyPressEvent(QKeyEvent*) override;
 };
 
-// A label that can be clicked: pressed and released within itself.
+// A label with plain text that can be clicked: pressed and released within itself.
 class Etykieta : public QLabel {
 public:
     using QLabel::QLabel;
     std::function<void()> onClick;
 
 protected:
+    void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
 

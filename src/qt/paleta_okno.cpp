@@ -23,7 +23,7 @@ constexpr QRect FRA_PALETA{24, 16, 129, 257}, PIC_WYBRANY{160, 16, 41, 257}, LBL
     CMZ_ZAMKNIJ{24, 304, 177, 25};
 
 QLabel* addLabel(QWidget* parent, const QString& name, const QString& text, QRect place) {
-    auto* label = new QLabel(text, parent);
+    auto* label = new Etykieta(text, parent);
     label->setObjectName(name);
     label->setGeometry(place);
     label->setAlignment(Qt::AlignCenter);
@@ -80,7 +80,7 @@ void PaletaOkno::build() {
     lblWybrany_ = addLabel(this, "lblWybrany", "0", LBL_WYBRANY);
     lblWybrany_->setFrameStyle(QFrame::Box | QFrame::Plain);
 
-    auto* cmzZamknij = new QPushButton("Zamknij", this);
+    auto* cmzZamknij = new Przycisk("Zamknij", this);
     cmzZamknij->setObjectName("cmzZamknij");
     cmzZamknij->setGeometry(CMZ_ZAMKNIJ);
     connect(cmzZamknij, &QPushButton::clicked, this, &QDialog::close);

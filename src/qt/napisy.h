@@ -1,0 +1,17 @@
+// Captions: one that is too wide for its box is drawn narrower, so that no word of it is ever lost.
+#pragma once
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QString>
+
+namespace dorva {
+
+// The width into which the caption would have to be laid: that of the box where it fits as it is, else a larger one.
+// `flags` are those of QPainter::drawText.
+int widthForCaption(const QFontMetrics&, QSize box, int flags, const QString& caption);
+
+// Draws a caption in the painter's font and colour.
+void drawCaption(QPainter&, const QRect& box, int flags, const QString& caption);
+
+} // namespace dorva
