@@ -42,8 +42,24 @@ pairs() { # pairs AIMS
         }'
 }
 
+# Instructions up to the first frame, which nothing else on the machine can disturb.
+countStart() {
+    command -v valgrind >/dev/null || { echo 'instructions to first frame: not counted, valgrind is missing'; return 0; }
+    local mode
+    printf 'instructions to first frame, in millions:'
+    for mode in editor text bare; do
+        QT_QPA_PLATFORM=offscreen valgrind --tool=callgrind --callgrind-out-file=/dev/null \
+            $bench/qt/dorva_bench_start $mode planszownik 2>&1 |
+            awk -v mode=$mode '/Collected/ { printf " %s %.1f", mode, $4 / 1e6 }'
+    done
+    echo
+}
+
 row figure median baseline ratio aim
 runAll $bench/dorva_bench | pairs "RefreshInfo=3 Stroke=3 Switch=1.3 GameBuild=1.3 TestBuild=1.3 ArchiveSave=1.3 ArchiveLoad=1.3"
 [ ! -x $bench/qt/dorva_bench_okno ] || runAll $bench/qt/dorva_bench_okno | pairs ""
-[ ! -x $bench/qt/dorva_bench_start ] || $bench/qt/dorva_bench_start planszownik
+if [ -x $bench/qt/dorva_bench_start ]; then
+    $bench/qt/dorva_bench_start planszownik
+    countStart
+fi
 echo "program folder: $(du -sh planszownik | cut -f 1)"

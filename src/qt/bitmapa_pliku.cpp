@@ -42,8 +42,8 @@ void convertRow(const QImage& image, int y, std::span<std::uint32_t> pixels) {
     if (image.format() == QImage::Format_Indexed8) {
         std::array<QRgb, 256> colours{};
         std::ranges::copy(image.colorTable(), colours.begin());
-        std::transform(pixels.begin(), pixels.end(), image.constScanLine(y), pixels.begin(),
-                       [&](std::uint32_t, uchar index) { return colours[index]; });
+        const uchar* row = image.constScanLine(y);
+        std::transform(row, row + pixels.size(), pixels.begin(), [&](uchar index) { return colours[index]; });
         return;
     }
     const QImage row = image.copy(0, y, int(pixels.size()), 1).convertToFormat(QImage::Format_ARGB32);

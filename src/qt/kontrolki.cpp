@@ -195,7 +195,8 @@ void PoleEdycji::showText(const QString& wanted, unsigned requests) {
         setText(wanted);
         setCursorPosition(static_cast<int>(before));
     }
-    if (std::exchange(requests_, requests) != requests)
+    const auto before = std::exchange(requests_, requests);
+    if (before && *before != requests)
         selectAll();
 }
 

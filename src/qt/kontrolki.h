@@ -9,6 +9,7 @@
 #include <QScrollBar>
 
 #include <functional>
+#include <optional>
 
 namespace dorva {
 
@@ -130,7 +131,7 @@ private:
     QElapsedTimer sinceMouseEntry_;
     bool pressEnters_ = false; // the press that is going on
     bool composing_ = false;   // an input method holds what is typed
-    unsigned requests_ = 0;
+    std::optional<unsigned> requests_; // none before it has shown a text
 };
 
 } // namespace dorva

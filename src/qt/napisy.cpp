@@ -1,8 +1,20 @@
 #include "qt/napisy.h"
 
+#include <QStyle>
+
 #include <algorithm>
 
 namespace dorva {
+namespace {
+
+// Where the caption stands as one line.
+QRect placeOfLine(const QFontMetrics& metrics, const QRect& box, int flags, const QString& caption) {
+    return QStyle::alignedRect(Qt::LeftToRight,
+                               Qt::Alignment(flags & (Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask)),
+                               QSize(metrics.horizontalAdvance(caption), metrics.height()), box);
+}
+
+} // namespace
 
 int widthForCaption(const QFontMetrics& metrics, QSize box, int flags, const QString& caption) {
     const int oneLine = metrics.horizontalAdvance(caption);
@@ -20,11 +32,12 @@ int widthForCaption(const QFontMetrics& metrics, QSize box, int flags, const QSt
 }
 
 void drawCaption(QPainter& painter, const QRect& box, int flags, const QString& caption) {
-    const int width = widthForCaption(painter.fontMetrics(), box.size(), flags, caption);
-    if (width == box.width()) {
-        painter.drawText(box, flags, caption);
+    const QFontMetrics metrics = painter.fontMetrics();
+    if (const QRect line = placeOfLine(metrics, box, flags, caption); line.width() <= box.width()) {
+        painter.drawText(line.left(), line.top() + metrics.ascent(), caption);
         return;
     }
+    const int width = widthForCaption(metrics, box.size(), flags, caption);
     painter.save();
     painter.translate(box.topLeft());
     painter.scale(double(box.width()) / width, 1);

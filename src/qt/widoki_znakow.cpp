@@ -128,7 +128,7 @@ void PlanszaWidget::compose() {
 void PlanszaWidget::composeCell(int cell) {
     const int side = image_.width() / PLANSZA_COLUMNS;
     const QRect rect = cellRect(cell, side);
-    for (int y = rect.top(); y <= rect.bottom(); ++y)
+    for (int y = rect.top(); y <= rect.bottom() && !obrazki_[cell]->opaque; ++y)
         std::fill_n(reinterpret_cast<std::uint32_t*>(image_.scanLine(y)) + rect.left(), side, SZARY);
     blit(image_, rect.left(), rect.top(), *obrazki_[cell], side);
 }

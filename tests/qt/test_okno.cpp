@@ -47,6 +47,7 @@ TEST_F(OknoTest, AStageThatCannotBeWrittenStaysSelected) {
 
 TEST_F(OknoTest, TextsAreTypedSelectedAndBroughtToTheirForm) {
     open();
+    EXPECT_FALSE(box("txtAutorGry(0)")->hasSelectedText()) << "nobody has entered it yet";
     click("txtNazwa");
     EXPECT_EQ(box("txtNazwa")->selectedText().size(), 32);
     QTest::keyClicks(box("txtNazwa"), "ala");
