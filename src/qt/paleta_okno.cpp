@@ -22,8 +22,9 @@ constexpr QSize CLIENT{210, 337};
 constexpr QRect FRA_PALETA{24, 16, 129, 257}, PIC_WYBRANY{160, 16, 41, 257}, LBL_WYBRANY{24, 280, 177, 17},
     CMZ_ZAMKNIJ{24, 304, 177, 25};
 
-QLabel* addLabel(QWidget* parent, const QString& name, const QString& text, QRect place) {
-    auto* label = new Etykieta(text, parent);
+template <typename Label = Etykieta>
+Label* addLabel(QWidget* parent, const QString& name, const QString& text, QRect place) {
+    auto* label = new Label(text, parent);
     label->setObjectName(name);
     label->setGeometry(place);
     label->setAlignment(Qt::AlignCenter);
@@ -77,8 +78,7 @@ void PaletaOkno::build() {
                  {0, FRA_PALETA.top() + CELL_PITCH * r, CELL_SIDE, CELL_SIDE});
 
     picWybrany_ = addBarwa(this, "picWybrany", PIC_WYBRANY);
-    lblWybrany_ = addLabel(this, "lblWybrany", "0", LBL_WYBRANY);
-    lblWybrany_->setFrameStyle(QFrame::Box | QFrame::Plain);
+    lblWybrany_ = addLabel<EtykietaObramowana>(this, "lblWybrany", "0", LBL_WYBRANY);
 
     auto* cmzZamknij = new Przycisk("Zamknij", this);
     cmzZamknij->setObjectName("cmzZamknij");
