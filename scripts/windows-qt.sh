@@ -20,6 +20,7 @@ as_root=
 
 # The source package comes from the mirror that this system uses, through a list of its own.
 $as_root apt-get update -qq
+# shellcheck disable=SC2016 # apt fills them in
 apt-get indextargets --format 'deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $(REPO_URI) $(RELEASE) $(COMPONENT)' \
     'Identifier: Packages' 'Origin: Debian' 'Component: main' >"$work/sources.list"
 own_list="-o Dir::Etc::SourceList=$work/sources.list -o Dir::Etc::SourceParts=- -o Dir::State::Lists=$work/lists

@@ -1,6 +1,7 @@
 // Stands in for an emulator: notes, beside itself, in which folder and with which arguments it was started.
 #include <filesystem>
 #include <fstream>
+#include <string>
 
 int main(int argc, char** argv) {
     std::ofstream note(std::filesystem::path(argv[0]).replace_filename("wywolanie"), std::ios::binary);

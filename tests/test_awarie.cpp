@@ -5,6 +5,8 @@
 #include "shell/komunikaty.h"
 #include "stage/archiwum.h"
 
+#include <iostream>
+
 namespace dorva::test {
 namespace {
 

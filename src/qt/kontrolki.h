@@ -129,8 +129,8 @@ private:
 
     bool entered_ = false;
     QElapsedTimer sinceMouseEntry_;
-    bool pressEnters_ = false; // the press that is going on
-    bool composing_ = false;   // an input method holds what is typed
+    bool pressEnters_ = false;         // the press that is going on
+    bool composing_ = false;           // an input method holds what is typed
     std::optional<unsigned> requests_; // none before it has shown a text
 };
 
