@@ -127,7 +127,7 @@ void ProbkaKoloru::paintEvent(QPaintEvent* event) {
     painter.setPen(Qt::black);
     for (int x : {-1, 0, 1})
         for (int y : {-1, 0, 1})
-            painter.drawText(contentsRect().translated(x, y), Qt::AlignCenter, text());
+            drawCaption(painter, contentsRect().translated(x, y), int(alignment()), text());
     painter.end();
     EtykietaObramowana::paintEvent(event);
     if (!wybrana_)
