@@ -4,7 +4,7 @@
 # shellcheck disable=SC2317 # the steps are called by their names
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit
-steps=(format shell floors sanitizers coverage findings fuzz documents package play)
+steps=(format shell floors sanitizers coverage findings fuzz documents package windows play)
 for step; do
     [[ " ${steps[*]} " == *" $step "* ]] || { echo "checks: no step $step; there are: ${steps[*]}" >&2; exit 2; }
 done
@@ -103,6 +103,15 @@ package() {
         scripts/package.sh && scripts/package-check.sh
     else
         echo 'skipped: the window or the game is not built'
+    fi
+}
+
+# The Windows version under Wine: the logic's tests always, the window where Qt for Windows lies in the cache.
+windows() {
+    if scripts/windows.sh --have-qt && window_built && game_built; then
+        scripts/windows.sh --check
+    else
+        scripts/windows.sh --tests
     fi
 }
 

@@ -20,7 +20,7 @@ as_root=
 
 # The source package comes from the mirror that this system uses, through a list of its own.
 $as_root apt-get update -qq
-# shellcheck disable=SC2016 # apt fills them in
+# shellcheck disable=SC2016
 apt-get indextargets --format 'deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $(REPO_URI) $(RELEASE) $(COMPONENT)' \
     'Identifier: Packages' 'Origin: Debian' 'Component: main' >"$work/sources.list"
 own_list="-o Dir::Etc::SourceList=$work/sources.list -o Dir::Etc::SourceParts=- -o Dir::State::Lists=$work/lists
@@ -33,7 +33,7 @@ apt-get $own_list source -qq qt6-base/bookworm
 source=$(echo qt6-base-$version*/)
 
 off=
-for feature in network sql dbus xml concurrent printsupport opengl vulkan icu zstd glib system_zlib pkg_config tabletevent \
+for feature in network sql dbus xml concurrent printsupport vulkan direct2d icu zstd glib system_zlib pkg_config tabletevent \
     jpeg gif ico textmarkdownreader textmarkdownwriter textodfwriter; do
     off="$off -DFEATURE_$feature=OFF"
 done
@@ -47,13 +47,13 @@ cmake -G Ninja -S "$source" -B build -Wno-dev \
     -DCMAKE_FIND_ROOT_PATH_MODE_INCLUDE=ONLY -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=ONLY \
     -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
     -DCMAKE_INSTALL_PREFIX="$target" -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON \
-    -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF \
+    -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DINPUT_opengl=no \
     -DFEATURE_system_png=OFF -DFEATURE_system_pcre2=OFF -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_freetype=OFF \
     $off
 cmake --build build -j2
 cmake --install build --strip
 mkdir -p "$target/licences"
-cp "$source"/LICENSES/* "$target/licences/"
+cp "$source"/LICENSES/* "$source/debian/copyright" "$target/licences/"
 cd "$cache"
 rm -rf "$work"
 touch "$target/ready"

@@ -4,7 +4,8 @@
 #include <string>
 
 int main(int argc, char** argv) {
-    std::ofstream note(std::filesystem::path(argv[0]).replace_filename("wywolanie"), std::ios::binary);
+    const std::filesystem::path self = argv[0];
+    std::ofstream note(self.parent_path() / "wywolanie", std::ios::binary);
     const auto folder = std::filesystem::current_path().u8string();
     note << std::string(folder.begin(), folder.end()) << '\n';
     for (int i = 1; i < argc; ++i)

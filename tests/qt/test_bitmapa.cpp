@@ -1,8 +1,6 @@
 #include "pulpit.h"
 #include "qt/bitmapa_pliku.h"
 
-#include <sys/stat.h>
-
 #include <tuple>
 #include <utility>
 
@@ -90,8 +88,6 @@ TEST_F(BitmapaPliku, WhatIsNoPictureIsRefused) {
     EXPECT_FALSE(load(bitmapFile(-3, 2, 8, 0, Bajty(8, 1))));
     EXPECT_FALSE(load(bitmapFile(3, 2, 7, 0, Bajty(8, 1))));
     EXPECT_FALSE(loadBitmapa(root, 3, 2));
-    ASSERT_EQ(::mkfifo((root / "rura").c_str(), 0600), 0);
-    EXPECT_FALSE(loadBitmapa(root / "rura", 3, 2)); // and does not wait for a writer
     EXPECT_FALSE(loadBitmapa(root / "nie ma", 3, 2));
     EXPECT_FALSE(fs::exists(root / "nie ma"));
 }

@@ -1,0 +1,30 @@
+# The program and its libraries stand at their places. The working set comes in wzorzec/, and the program itself lays it
+# out where it is missing or unchanged: a double click is all that a user does.
+install(TARGETS planszownik RUNTIME DESTINATION ${FOLDER})
+install(FILES $<TARGET_FILE:Qt6::Core> $<TARGET_FILE:Qt6::Gui> $<TARGET_FILE:Qt6::Widgets> DESTINATION ${FOLDER})
+install(FILES ${QT_WINDOWS}/plugins/platforms/qwindows.dll DESTINATION ${FOLDER}/platforms)
+install(FILES /usr/share/qt6/translations/qtbase_pl.qm DESTINATION ${FOLDER}/translations)
+install(FILES qt.conf DESTINATION ${FOLDER})
+foreach(biblioteka libgcc_s_seh-1 libstdc++-6 libwinpthread-1) # the compiler's own
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${biblioteka}.dll
+        OUTPUT_VARIABLE plik OUTPUT_STRIP_TRAILING_WHITESPACE)
+    execute_process(COMMAND ${CMAKE_STRIP} -o ${CMAKE_CURRENT_BINARY_DIR}/${biblioteka}.dll ${plik}
+        COMMAND_ERROR_IS_FATAL ANY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${biblioteka}.dll DESTINATION ${FOLDER})
+endforeach()
+
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/ ${DORVA_HOST_BUILD}/data/ DESTINATION ${FOLDER}/wzorzec)
+foreach(katalog ETAPY PLIKI OBIEKTY)
+    install(DIRECTORY DESTINATION ${FOLDER}/${katalog})
+endforeach()
+
+configure_file(CZYTAJ-windows.txt CZYTAJ.txt @ONLY NEWLINE_STYLE CRLF)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/CZYTAJ.txt DESTINATION ${FOLDER})
+install(FILES ${QT_WINDOWS}/licences/LGPL-3.0-only.txt ${QT_WINDOWS}/licences/GPL-3.0-only.txt
+    DESTINATION ${FOLDER}/licencje)
+install(FILES ${QT_WINDOWS}/licences/copyright DESTINATION ${FOLDER}/licencje RENAME Qt.txt)
+install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright DESTINATION ${FOLDER}/licencje RENAME GCC.txt)
+install(FILES /usr/share/doc/mingw-w64-common/copyright DESTINATION ${FOLDER}/licencje RENAME mingw-w64.txt)
+
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_FILE_NAME ${CPACK_PACKAGE_NAME}-${PROJECT_VERSION}-windows-x64)

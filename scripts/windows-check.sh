@@ -1,0 +1,170 @@
+#!/bin/bash
+# windows-check.sh: the Windows zip under Wine. The window's tests; then the program as a user has it, out of the zip and
+# in a folder with Polish letters, and the Linux program beside it: the same strokes, texts, dialogs and builds must make
+# the same files, byte for byte. Pictures of what is seen lie in build/windows/obrazy afterwards.
+# Called by windows.sh, which sets up Wine.
+set -eu
+
+cd "$(dirname "$0")/.."
+zip=$(realpath build/windows/dorva-planszownik-*-windows-x64.zip)
+pictures=$PWD/build/windows/obrazy
+mkdir -p "$pictures"
+unset QT_QPA_PLATFORM
+room=$(mktemp -d)
+. scripts/display.sh
+program=''
+finish() {
+    [ -z "$program" ] || kill "$program" 2>/dev/null || true
+    close_display
+    rm -rf "$room"
+}
+trap finish EXIT
+
+ok() { echo "ok: $1"; }
+fail() { echo "FAILED: $1"; import -window root "$pictures/failed.png" 2>/dev/null || true; exit 1; }
+expect() { # expect TEXT COMMAND...
+    local text=$1
+    shift
+    if "$@"; then ok "$text"; else fail "$text"; fi
+}
+
+# What the executable brings along.
+folder="$room/Dorva - moja łódź"
+mkdir "$folder"
+unzip -q "$zip" -d "$folder"
+folder=$folder/planszownik
+imports() { x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/^.*DLL Name: //p'; }
+all_libraries_come() {
+    local file name
+    for file in "$folder"/*.exe "$folder"/*.dll "$folder"/platforms/*.dll; do
+        for name in $(imports "$file"); do
+            [ -f "$folder/$name" ] || find /usr/lib/*/wine -iname "$name" | grep -q . ||
+                { echo "$file needs $name"; return 1; }
+        done
+    done
+}
+expect "every library is the system's or in the zip" all_libraries_come
+expect "no console" eval "x86_64-w64-mingw32-objdump -p '$folder/planszownik.exe' | grep -q 'Windows GUI'"
+expect "no stage stands at a live place" [ -z "$(ls "$folder/ETAPY")" ]
+
+open_display "$room" 1280 800
+open_manager
+setxkbmap pl
+
+# The window's tests, with the zip's own libraries.
+run_tests() {
+    local place="$room/testy"
+    mkdir "$place"
+    cp -r "$folder"/*.dll "$folder/platforms" "$folder/qt.conf" build/windows/tests/qt/*.exe "$place"
+    (cd "$place" && QT_QPA_PLATFORM=windows timeout 600 wine dorva_qt_tests.exe --gtest_brief)
+}
+
+start_windows() { (cd / && exec wine "$folder/planszownik.exe") & program=$!; find_window || fail "a window opens"; sleep 2; }
+start_linux() { "$plain/planszownik" & program=$!; find_window || fail "a window opens"; sleep 1; }
+picture() { import -window "$1" "$pictures/$2.png"; }
+close() {
+    xdotool windowactivate --sync "$window" key alt+F4
+    wait "$program" || fail "the program ends in order"
+    program=''
+}
+dialog() { # dialog TITLE: waits for it
+    timeout 20 xdotool search --sync --onlyvisible --name "$1" >/dev/null || fail "a dialog $1 opens"
+    sleep 1
+}
+choose() { # choose NAME: in the open file dialog
+    xdotool key ctrl+a type --delay 60 "$1"
+    sleep 0.5
+    [ -z "${2-}" ] || picture root "$2"
+    xdotool key Return
+}
+
+# A stage painted, another one, title lines, a stage saved, a game built.
+work() { # work PICTURE_PREFIX
+    slot 2 0
+    cell 20 9
+    cell 21 9
+    click 36 48
+    slot 12 0
+    cell 5 5
+    click 100 585
+    xdotool key ctrl+a type --delay 80 'Zażółć gęślą jaźń'
+    click 260 585
+    xdotool key ctrl+a type --delay 80 'ŁÓDŹ 2'
+    click 36 32
+    picture "$window" "$1-okno"
+    click 592 596
+    dialog 'Zapisywanie jako'
+    choose 'etap z Polski' "$1-zapis"
+    dialog '^Informacja$'
+    picture root "$1-komunikat"
+    xdotool key Return
+    sleep 1
+    click 836 596
+    dialog 'Zapisywanie jako'
+    choose 'gra.xex'
+    dialog '^Dorva Planszownik$'
+    xdotool key Escape
+    sleep 1
+}
+
+expect "the window's tests pass" run_tests
+
+start_windows
+expect "32 stages are laid out" [ "$(find "$folder/ETAPY" -name 'DETAP.*' -size 931c | wc -l)" = 32 ]
+work windows
+close
+plain="$room/linux/planszownik"
+mkdir -p "$plain"
+cp -r "$folder/wzorzec/." build/release/src/qt/planszownik "$plain"
+HOME=$room start_linux
+work linux
+close
+for name in "planszownik/ETAPY" planszownik/PLIKI/DP1.DTA planszownik/PLIKI/TEST.XEX 'etap z Polski' gra.xex; do
+    expect "the same $name as on Linux" diff -r "$room/linux/$name" "$(dirname "$folder")/$name"
+done
+expect "the work is in it" eval "! cmp -s '$folder/ETAPY/DETAP.1' '$folder/wzorzec/ETAPY/DETAP.1'"
+
+# A newer version, unpacked over it.
+cp "$folder/ETAPY/DETAP.1" "$room/changed"
+unzip -qo "$zip" -d "$(dirname "$folder")"
+for name in ETAPY/DETAP.1 ETAPY/DETAP.4 PLIKI/DP2.DTA; do
+    printf 'N' | dd of="$folder/wzorzec/$name" bs=1 seek=900 conv=notrunc 2>/dev/null
+done
+rm "$folder/ETAPY/DETAP.3"
+start_windows
+for world in 1 2 3; do
+    click $((776 + 40 * (world - 1))) 32
+    picture "$window" "windows-swiat$world"
+done
+click 840 110
+dialog 'aleta'
+picture root windows-paleta
+close
+expect "a changed stage survives a newer version" eval "! cmp -s '$folder/ETAPY/DETAP.1' '$folder/wzorzec/ETAPY/DETAP.1'"
+expect "an unchanged one is renewed" cmp "$folder/wzorzec/ETAPY/DETAP.4" "$folder/ETAPY/DETAP.4"
+expect "so is the game template" cmp "$folder/wzorzec/PLIKI/DP2.DTA" "$folder/PLIKI/DP2.DTA"
+expect "a missing one comes back" cmp "$folder/wzorzec/ETAPY/DETAP.3" "$folder/ETAPY/DETAP.3"
+
+start_windows
+slot 2 0
+cell 30 9
+cp "$folder/ETAPY/DETAP.1" "$room/before"
+wine wineboot --end-session
+wait "$program" || true
+program=''
+expect "the end of the session stores the stage" eval "! cmp -s '$room/before' '$folder/ETAPY/DETAP.1'"
+
+for dpi in 120 144 192; do
+    wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d $dpi /f >/dev/null
+    wineserver -w
+    start_windows
+    picture "$window" "windows-$dpi-dpi"
+    expect "at $dpi dpi the window is $((897 * dpi / 96)) pixels wide" \
+        [ "$(xdotool getwindowgeometry --shell "$window" | sed -n 's/WIDTH=//p')" = $((897 * dpi / 96)) ]
+    close
+done
+wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d 96 /f >/dev/null
+wineserver -w
+expect "no dialog is kept in the registry" eval "! grep -q 'QtProject.*FileDialog' '$WINEPREFIX/user.reg'"
+expect "nor half a file" [ -z "$(find "$folder" -name '*.kopia*' -o -name '*.dp-tmp')" ]
+echo "windows-check: all well; $(du -h "$zip" | cut -f 1) zipped"
