@@ -37,7 +37,7 @@ imports() { x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/^.*DLL Name: //p'; }
 all_libraries_come() {
     local file name
     for file in "$folder"/*.exe "$folder"/*.dll "$folder"/platforms/*.dll; do
-        for name in $(imports "$file"); do
+        for name in $(imports "$file" | grep -v '^api-ms-win-'); do # names of sets of the system's own calls
             [ -f "$folder/$name" ] || find /usr/lib/*/wine -iname "$name" | grep -q . ||
                 { echo "$file needs $name"; return 1; }
         done
@@ -51,12 +51,14 @@ open_display "$room" 1280 800
 open_manager
 setxkbmap pl
 
-# The window's tests, with the zip's own libraries.
+# The window's tests, with the zip's own libraries. One is about the list in Qt's own file dialog, which isn't used there.
 run_tests() {
     local place="$room/testy"
     mkdir "$place"
-    cp -r "$folder"/*.dll "$folder/platforms" "$folder/qt.conf" build/windows/tests/qt/*.exe "$place"
-    (cd "$place" && QT_QPA_PLATFORM=windows timeout 600 wine dorva_qt_tests.exe --gtest_brief)
+    cp -r "$folder"/*.dll "$folder/platforms" "$folder/qt.conf" build/windows/tests/qt/*.exe \
+        "$(scripts/windows-qt.sh --where)/bin/Qt6Test.dll" "$place"
+    (cd "$place" && timeout 600 wine dorva_qt_tests.exe --gtest_brief \
+        --gtest_filter=-Rozmowy.FilesAreListedByNumberInPolish -platform windows)
 }
 
 start_windows() { (cd / && exec wine "$folder/planszownik.exe") & program=$!; find_window || fail "a window opens"; sleep 2; }

@@ -2,10 +2,12 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <windows.h>
 
 int main(int argc, char** argv) {
-    const std::filesystem::path self = argv[0];
-    std::ofstream note(self.parent_path() / "wywolanie", std::ios::binary);
+    std::wstring self(32768, L'\0');
+    self.resize(::GetModuleFileNameW(nullptr, self.data(), static_cast<::DWORD>(self.size())));
+    std::ofstream note(std::filesystem::path(self).parent_path() / "wywolanie", std::ios::binary);
     const auto folder = std::filesystem::current_path().u8string();
     note << std::string(folder.begin(), folder.end()) << '\n';
     for (int i = 1; i < argc; ++i)

@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     const QTemporaryDir settings; // what the toolkit might write of its own accord
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // those of the system can't be answered from here
     QApplication application(argc, argv);
     dorva::setUpApplication(application);
     return RUN_ALL_TESTS();

@@ -36,7 +36,7 @@ TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
     QTimer::singleShot(0, [this] { whenAskedPress("OK"); });
     click("cmdSave");
     EXPECT_EQ(proposed, "DETAP.1");
-    EXPECT_EQ(folder, QString::fromStdString(fs::canonical(root).string()));
+    EXPECT_EQ(folder, QString::fromStdString(fs::canonical(root).generic_string()));
     EXPECT_EQ(filters, QStringList({"Etap gry (DETAP.*)", "Wszystkie pliki (*.*) (*)"}));
     EXPECT_EQ(said, QStringList("Informacja|Dane etapu zostały pomyślnie zapisane"));
     EXPECT_EQ(readFile(copy), sampleEtap(1));
