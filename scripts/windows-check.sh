@@ -70,8 +70,11 @@ close() {
     program=''
 }
 dialog() { # dialog TITLE: waits for it
-    timeout 20 xdotool search --sync --onlyvisible --name "$1" >/dev/null || fail "a dialog $1 opens"
-    sleep 1
+    for _ in $(seq 40); do # a window that closes meanwhile ends a search of xdotool's own patience
+        xdotool search --onlyvisible --name "$1" >/dev/null 2>&1 && sleep 1 && return
+        sleep 0.5
+    done
+    fail "a dialog $1 opens"
 }
 choose() { # choose NAME: in the open file dialog
     xdotool key ctrl+a type --delay 60 "$1"
@@ -161,8 +164,9 @@ for dpi in 120 144 192; do
     wineserver -w
     start_windows
     picture "$window" "windows-$dpi-dpi"
-    expect "at $dpi dpi the window is $((897 * dpi / 96)) pixels wide" \
-        [ "$(xdotool getwindowgeometry --shell "$window" | sed -n 's/WIDTH=//p')" = $((897 * dpi / 96)) ]
+    wide=$(((897 * dpi + 48) / 96))
+    expect "at $dpi dpi the window is $wide pixels wide" \
+        [ "$(xdotool getwindowgeometry --shell "$window" | sed -n 's/WIDTH=//p')" = $wide ]
     close
 done
 wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d 96 /f >/dev/null
