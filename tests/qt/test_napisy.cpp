@@ -1,9 +1,11 @@
-#include "qt/katalog.h"
-#include "qt/kontrolki.h"
 #include "qt/napisy.h"
 #include "stanowisko.h"
 
 #include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
 
 namespace dorva::test {
 namespace {
@@ -26,11 +28,11 @@ TEST_F(Napisy, NoCaptionIsCut) {
         EXPECT_GE(kept(*widget, caption, margin, flags), 0.9) << widget->objectName().toStdString();
         captions += !caption.isEmpty();
     };
-    for (const auto* ramka : okno->findChildren<Ramka*>())
+    for (const auto* ramka : okno->findChildren<QGroupBox*>())
         expectFits(ramka, ramka->title().trimmed(), 10, 0);
-    for (const auto* przycisk : okno->findChildren<Przycisk*>())
+    for (const auto* przycisk : okno->findChildren<QPushButton*>())
         expectFits(przycisk, przycisk->text(), 2);
-    for (const auto* etykieta : okno->findChildren<Etykieta*>())
+    for (const auto* etykieta : okno->findChildren<QLabel*>())
         expectFits(etykieta, etykieta->text(), 0, etykieta->wordWrap() ? Qt::TextWordWrap : 0);
     for (const auto* znacznik : okno->findChildren<QCheckBox*>())
         EXPECT_LE(znacznik->text().isEmpty() ? 0 : znacznik->sizeHint().width(), znacznik->width());
