@@ -47,7 +47,7 @@ expect "every library is the system's or in the zip" all_libraries_come
 expect "no console" eval "x86_64-w64-mingw32-objdump -p '$folder/planszownik.exe' | grep -q 'Windows GUI'"
 expect "no stage stands at a live place" [ -z "$(ls "$folder/ETAPY")" ]
 
-open_display "$room" 1280 800
+open_display "$room" 1920 1360 # room for twice the size
 open_manager
 setxkbmap pl
 
