@@ -89,12 +89,13 @@ TEST_F(Pliki, InPlaceWhereTheFolderRefusesNewNames) {
     }
     full = true;
     EXPECT_FALSE(writeWhole(system, root / "plik", Bajty(5, 0)));
-    EXPECT_FALSE(writeKeepingUnknown(system, root / "plik", Bajty{5}, {})) << "an unknown file can't be kept there";
-    EXPECT_FALSE(writeWhole(system, root / "nowy", Bajty{5}));
+    EXPECT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{5}, {}));
+    EXPECT_EQ(readFile(root / "plik.kopia"), (Bajty{1, 2, 3, 4})) << "a copy, no second name of somebody else's file";
+    EXPECT_FALSE(writeWhole(system, root / "nowy", Bajty{6}));
     fs::create_hard_link(root / "plik", root / "drugi");
-    EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{5})) << "the second name would change along";
-    EXPECT_EQ(readFile(root / "plik"), (Bajty{1, 2, 3, 4}));
-    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 3U);
+    EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{6})) << "the second name would change along";
+    EXPECT_EQ(readFile(root / "plik"), Bajty{5});
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 4U);
 }
 
 } // namespace

@@ -42,6 +42,8 @@ TEST_F(ZbiorEtapow, OrdinaryWorkMakesNoCopies) {
         cell(6, 6) = MASKA;
         chosen = etap(e.NumerEtapu);
         cmdSave_Click(e);
+        writeFile(*chosen, sampleEtap(9)); // by another program, and then read
+        cmdLoad_Click(e);
     }
     for (const char* name : {"a", "a"}) {
         chosen = root / name;

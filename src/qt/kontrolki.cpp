@@ -220,9 +220,9 @@ void PoleEdycji::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (isWindowChange(event) && entered_)
         return;
-    if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
-        sinceMouseEntry_.start();
     enter();
+    if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
+        sinceMouseEntry_.start(); // what entering takes is no part of it
 }
 
 void PoleEdycji::focusOutEvent(QFocusEvent* event) {

@@ -34,6 +34,8 @@ inline constexpr const Pole &POLE_NAZWA = POLA[0], &POLE_AUTOR = POLA[1];
 constexpr const Pole& poleLinii(int index) {
     return POLA[2 + index];
 }
+static_assert(POLE_NAZWA.name == "txtNazwa" && POLE_AUTOR.name == "txtAutor" && poleLinii(0).name == "txtAutorGry" &&
+              poleLinii(0).index == 0);
 
 // Sets a box from code; an empty text becomes spaces, all selected.
 void SetTekst(Okno&, const Pole&, const Tekst&);

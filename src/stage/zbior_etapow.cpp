@@ -84,7 +84,8 @@ void cmdLoad_Click(Edytor& e) {
         askMessage(e.haki, komunikaty::ZLY_FORMAT);
         return;
     }
-    (void)readOrCreateEtap(e, *path);
+    if (readOrCreateEtap(e, *path) && isSameFile(*e.system, *path, biezacyPath(e)))
+        e.znanyEtap = e.image;
 }
 
 void cmdSave_Click(Edytor& e) {

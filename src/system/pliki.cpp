@@ -204,14 +204,31 @@ std::optional<fs::path> freeKopia(const SystemPlikow& system, const fs::path& pa
     return std::nullopt;
 }
 
-// A second name for the old file, or a copy of it where the file system has no hard links.
-bool keepAs(const SystemPlikow& system, const Cel& cel, const fs::path& kopia, const std::optional<Bajty>& old) {
-    const Wynik wynik = system.link(cel.path, kopia);
-    if (wynik == Wynik::Ok) {
-        system.flushFolder(folderOf(kopia));
-        return true;
+// A copy of an old file under a name that is free, or was a moment ago.
+Wynik copyAs(const SystemPlikow& system, const fs::path& kopia, const Bajty& old, const OpisPliku& like) {
+    const fs::path temporary = temporaryPath(kopia);
+    system.remove(temporary); // left over by a killed process of the same number
+    Wynik wynik = writeTemporary(system, temporary, old, like);
+    if (wynik != Wynik::Ok) {
+        system.remove(temporary);
+        return wynik;
     }
-    return wynik != Wynik::Zajete && old && replace(system, {kopia, cel.old}, *old);
+    wynik = system.link(temporary, kopia); // unlike a rename it never takes a name from another program
+    if (wynik != Wynik::Ok && wynik != Wynik::Zajete && system.rename(temporary, kopia) == Wynik::Ok)
+        return Wynik::Ok;
+    system.remove(temporary);
+    return wynik;
+}
+
+// A copy of the old file, or a second name for it where it can't be copied. A copy comes first: a second name of
+// somebody else's file could never be removed from a sticky folder.
+bool keepAs(const SystemPlikow& system, const Cel& cel, const fs::path& kopia, const std::optional<Bajty>& old) {
+    Wynik wynik = old ? copyAs(system, kopia, *old, *cel.old) : Wynik::Blad;
+    if (wynik != Wynik::Ok && wynik != Wynik::Zajete)
+        wynik = system.link(cel.path, kopia);
+    if (wynik == Wynik::Ok)
+        system.flushFolder(folderOf(kopia));
+    return wynik == Wynik::Ok;
 }
 
 // Whether a write that failed has certainly changed nothing: a rename can be carried out and still be answered by an

@@ -35,7 +35,8 @@ bool isSameFile(const SystemPlikow&, const std::filesystem::path&, const std::fi
 
 // Replaces the file by `bytes`: a temporary file in the same folder, flushed, renamed over the old one. Mode bits and
 // symbolic links are kept. On failure the old file is untouched and nothing else is left. Only where the folder
-// refuses new names and the file may be written all the same is it written in place, and put back if that fails.
+// refuses new names, or a new file the old one's mode bits, and the file may be written all the same is it written in
+// place, and put back if that fails.
 [[nodiscard]] bool writeWhole(const SystemPlikow&, const std::filesystem::path&, std::span<const Bajt> bytes);
 
 // Like writeWhole, for a file that holds what the caller knows: `known`, or nothing. Whatever else stands there, or
