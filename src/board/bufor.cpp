@@ -1,6 +1,7 @@
 #include "board/bufor.h"
 
 #include <cstdio>
+#include <string>
 
 namespace dorva {
 

@@ -3,6 +3,9 @@
 #include "board/bufor.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
 
 namespace dorva {
 namespace {

@@ -3,6 +3,8 @@
 #include "board/bufor.h"
 #include "board/census.h"
 
+#include <cstdint>
+
 namespace dorva {
 namespace {
 

@@ -9,6 +9,12 @@
 #include "stage/zbior_etapow.h"
 #include "system/pliki.h"
 
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+
 namespace dorva {
 namespace {
 

@@ -5,6 +5,7 @@
 #include "stage/tekst.h"
 
 #include <array>
+#include <cstddef>
 #include <span>
 
 namespace dorva {

@@ -13,7 +13,6 @@
 namespace dorva {
 namespace {
 
-constexpr std::uintmax_t FILE_MAX_BYTES = 64U << 20U;
 constexpr qint64 PIXELS_MAX = 16 << 20;
 
 // Offsets and values of the bitmap file header and of the info header behind it.
@@ -53,10 +52,7 @@ void convertRow(const QImage& image, int y, std::span<std::uint32_t> pixels) {
 } // namespace
 
 std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width, int height) {
-    const auto length = lengthOf(SYSTEM_PLIKOW, path);
-    if (!length || *length > FILE_MAX_BYTES)
-        return std::nullopt;
-    const auto file = readFirst(SYSTEM_PLIKOW, path, *length);
+    const auto file = readWhole(SYSTEM_PLIKOW, path);
     if (!file)
         return std::nullopt;
     QByteArray bytes =

@@ -9,6 +9,11 @@
 #include "tiles/paleta.h"
 #include "tiles/zestaw.h"
 
+#include <filesystem>
+#include <string>
+#include <system_error>
+#include <vector>
+
 namespace dorva {
 namespace {
 

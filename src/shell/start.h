@@ -3,6 +3,7 @@
 
 #include "edytor.h"
 
+#include <filesystem>
 #include <string_view>
 
 namespace dorva {

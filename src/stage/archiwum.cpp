@@ -7,6 +7,12 @@
 #include "stage/zbior_etapow.h"
 #include "system/pliki.h"
 
+#include <array>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
 namespace dorva {
 namespace {
 

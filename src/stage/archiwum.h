@@ -4,6 +4,8 @@
 #include "edytor.h"
 #include "stage/autor_gry.h"
 
+#include <cstddef>
+
 namespace dorva {
 
 inline constexpr std::size_t ARCHIWUM_SIZE_BYTES = AUTOR_GRY_SIZE_BYTES + ETAPY_COUNT * ETAP_SIZE_BYTES;

@@ -4,6 +4,8 @@
 #include "stage/pola.h"
 #include "system/pliki.h"
 
+#include <filesystem>
+
 namespace dorva {
 namespace {
 

@@ -3,6 +3,9 @@
 
 #include "edytor.h"
 
+#include <cstddef>
+#include <span>
+
 namespace dorva {
 
 inline constexpr std::size_t AUTOR_GRY_SIZE_BYTES = LINIE_COUNT * LINIA_WIDTH;

@@ -5,6 +5,8 @@
 #include "tiles/kolory.h"
 #include "tiles/zestaw.h"
 
+#include <cstddef>
+#include <span>
 #include <utility>
 
 namespace dorva {

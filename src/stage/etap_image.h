@@ -4,6 +4,8 @@
 #include "board/znak.h"
 #include "stage/tekst.h"
 
+#include <cstddef>
+
 namespace dorva {
 
 // Offsets and lengths of the fields of an `EtapImage`, in bytes.

@@ -4,6 +4,8 @@
 #include "edytor.h"
 
 #include <array>
+#include <cstddef>
+#include <string_view>
 
 namespace dorva {
 

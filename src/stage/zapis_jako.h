@@ -3,6 +3,10 @@
 
 #include "edytor.h"
 
+#include <filesystem>
+#include <optional>
+#include <span>
+
 namespace dorva {
 
 // Asks for a file to save to and, if it exists, whether to replace it. Sets OstatniaSciezka.

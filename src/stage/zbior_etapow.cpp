@@ -9,6 +9,8 @@
 #include "system/pliki.h"
 #include "tiles/zestaw.h"
 
+#include <filesystem>
+#include <string_view>
 #include <utility>
 
 namespace dorva {

@@ -4,6 +4,7 @@
 #include "edytor.h"
 
 #include <array>
+#include <optional>
 
 namespace dorva {
 

@@ -4,15 +4,23 @@
 #include "system/system_plikow.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
 #include <set>
+#include <span>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace dorva {
 namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::uintmax_t WHOLE_MAX_BYTES = 64 << 20; // more than anything the editor makes or takes
 constexpr std::string_view TEMPORARY_PREFIX = "dorva-";
 constexpr std::string_view TEMPORARY_SUFFIX = ".dp-tmp";
 
@@ -30,9 +38,11 @@ public:
 
     [[nodiscard]] Wynik wynik() const { return wynik_; }
     [[nodiscard]] bool ok() const { return wynik_ == Wynik::Ok; }
-    [[nodiscard]] bool isRegular() const {
+    // The length of the file, if it is a regular one.
+    [[nodiscard]] std::optional<std::uintmax_t> length() const {
         OpisPliku opis;
-        return system_.describe(file_, opis) == Wynik::Ok && opis.rodzaj == RodzajPliku::Zwykly;
+        const bool isRegular = ok() && system_.describe(file_, opis) == Wynik::Ok && opis.rodzaj == RodzajPliku::Zwykly;
+        return isRegular ? std::optional(opis.length) : std::nullopt;
     }
     [[nodiscard]] Wynik setMode(unsigned mode) const {
         // Asked only where it is needed: some file systems know no mode bits and refuse every change.
@@ -68,7 +78,7 @@ private:
 };
 
 std::optional<Bajty> readOpened(const Otwarty& file, std::size_t count) {
-    if (!file.ok() || !file.isRegular())
+    if (!file.length())
         return std::nullopt;
     Bajty bytes(count);
     return file.readAll(bytes) ? std::optional(std::move(bytes)) : std::nullopt;
@@ -135,14 +145,6 @@ fs::path temporaryPath(const fs::path& target) {
            (std::string(TEMPORARY_PREFIX) + std::to_string(ownNumber()) + std::string(TEMPORARY_SUFFIX));
 }
 
-// The bytes of an old file; nothing where it can't be read or is larger than anything the editor makes.
-std::optional<Bajty> contentOf(const SystemPlikow& system, const fs::path& path, const OpisPliku& opis) {
-    constexpr std::uintmax_t CONTENT_MAX_BYTES = 64 << 20;
-    if (opis.length > CONTENT_MAX_BYTES)
-        return std::nullopt;
-    return readFirst(system, path, static_cast<std::size_t>(opis.length));
-}
-
 bool writeOver(const SystemPlikow& system, const fs::path& path, Otwarcie otwarcie, std::span<const Bajt> bytes) {
     Otwarty file(system, path, otwarcie);
     return file.ok() && file.writeAll(bytes) && file.flush() && file.closeNow();
@@ -153,7 +155,7 @@ bool writeInPlace(const SystemPlikow& system, const Cel& cel, std::span<const Ba
     OpisPliku opis;
     if (!cel.old || system.stat(cel.path, opis) != Wynik::Ok || opis.names != 1)
         return false;
-    const auto old = contentOf(system, cel.path, opis);
+    const auto old = readWhole(system, cel.path);
     if (!old)
         return false;
     if (writeOver(system, cel.path, bytes.size() < old->size() ? Otwarcie::OdNowa : Otwarcie::Zapis, bytes))
@@ -236,7 +238,7 @@ bool keepAs(const SystemPlikow& system, const Cel& cel, const fs::path& kopia, c
 bool isStillOld(const SystemPlikow& system, const Cel& cel, const std::optional<Bajty>& old) {
     OpisPliku opis;
     return system.stat(cel.path, opis) == Wynik::Ok && opis.isSameFile(*cel.old) &&
-           (!old || contentOf(system, cel.path, opis) == old);
+           (!old || readWhole(system, cel.path) == old);
 }
 
 } // namespace
@@ -250,6 +252,12 @@ std::optional<Bajty> readOrCreate(const SystemPlikow& system, const fs::path& pa
 
 std::optional<Bajty> readFirst(const SystemPlikow& system, const fs::path& path, std::size_t count) {
     return readOpened(Otwarty(system, path, Otwarcie::Odczyt), count);
+}
+
+std::optional<Bajty> readWhole(const SystemPlikow& system, const fs::path& path) {
+    const Otwarty file(system, path, Otwarcie::Odczyt);
+    const auto length = file.length();
+    return length && *length <= WHOLE_MAX_BYTES ? readOpened(file, static_cast<std::size_t>(*length)) : std::nullopt;
 }
 
 std::optional<std::uintmax_t> lengthOf(const SystemPlikow& system, const fs::path& path) {
@@ -285,7 +293,7 @@ bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::
         return false;
     if (!cel->old || cel->old->length == 0)
         return replace(system, *cel, bytes);
-    const auto old = contentOf(system, cel->path, *cel->old);
+    const auto old = readWhole(system, cel->path);
     if (old && (old == known || std::ranges::equal(*old, bytes)))
         return replace(system, *cel, bytes);
     const auto kopia = freeKopia(system, path);

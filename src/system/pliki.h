@@ -24,6 +24,9 @@ std::optional<Bajty> readOrCreate(const SystemPlikow&, const std::filesystem::pa
 // Likewise, but a missing file stays missing.
 std::optional<Bajty> readFirst(const SystemPlikow&, const std::filesystem::path&, std::size_t count);
 
+// The whole of a regular file; nothing where it can't be read or is longer than 64 MiB.
+std::optional<Bajty> readWhole(const SystemPlikow&, const std::filesystem::path&);
+
 // The length of a regular file in bytes; nothing if there is none.
 std::optional<std::uintmax_t> lengthOf(const SystemPlikow&, const std::filesystem::path&);
 

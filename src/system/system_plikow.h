@@ -4,6 +4,7 @@
 
 #include "podstawy.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <span>
@@ -72,8 +73,5 @@ struct SystemPlikow {
     // Adds the names in a folder, in any order, without those of the folder itself and the one above.
     Wynik (*list)(const Sciezka& folder, std::vector<Sciezka>& names);
 };
-
-// The operating system's own calls.
-extern const SystemPlikow SYSTEM_PLIKOW;
 
 } // namespace dorva

@@ -1,14 +1,21 @@
+#include "system/pliki.h"
 #include "system/proces.h"
 #include "system/system_plikow.h"
 
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstddef>
+#include <cstdint>
 #include <dirent.h>
 #include <fcntl.h>
+#include <filesystem>
+#include <span>
 #include <string_view>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
+#include <vector>
 
 namespace dorva {
 namespace {

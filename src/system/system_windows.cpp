@@ -1,9 +1,15 @@
+#include "system/pliki.h"
 #include "system/proces.h"
 #include "system/system_plikow.h"
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
 #include <limits>
+#include <span>
+#include <vector>
 #include <windows.h>
 
 namespace dorva {

@@ -1,12 +1,16 @@
 #include "system/wzorzec.h"
 
 #include "system/pliki.h"
-#include "system/system_plikow.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <set>
 #include <string>
+#include <string_view>
+#include <system_error>
 #include <utility>
+#include <vector>
 
 namespace dorva {
 namespace {
@@ -14,11 +18,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view SPIS = ".ulozone"; // a line for every content ever laid
-
-std::optional<Bajty> contentOf(const SystemPlikow& system, const fs::path& path) {
-    const auto length = lengthOf(system, path);
-    return length ? readFirst(system, path, static_cast<std::size_t>(*length)) : std::nullopt;
-}
 
 // A content's line: a checksum (FNV-1a), its length and the file's name.
 std::string lineOf(std::string_view name, const Bajty& bytes) {
@@ -31,7 +30,7 @@ std::string lineOf(std::string_view name, const Bajty& bytes) {
 class Spis {
 public:
     Spis(const SystemPlikow& system, fs::path path) : system_(system), path_(std::move(path)) {
-        const Bajty text = contentOf(system_, path_).value_or(Bajty());
+        const Bajty text = readWhole(system_, path_).value_or(Bajty());
         for (auto at = text.begin(); at != text.end();) {
             const auto end = std::find(at, text.end(), '\n');
             lines_.emplace(at, end);
@@ -81,8 +80,8 @@ bool layOut(const SystemPlikow& system, const fs::path& wzorzec, const fs::path&
     Spis spis(system, folder / SPIS);
     bool allLaid = true;
     for (const fs::path& name : filesIn(wzorzec)) {
-        const auto fresh = contentOf(system, wzorzec / name);
-        const auto old = contentOf(system, folder / name);
+        const auto fresh = readWhole(system, wzorzec / name);
+        const auto old = readWhole(system, folder / name);
         if (!fresh || (!old && fileExists(system, folder / name)))
             continue;
         const std::u8string u8 = name.generic_u8string();

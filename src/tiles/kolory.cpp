@@ -5,6 +5,7 @@
 #include "system/pliki.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace dorva {
 namespace {

@@ -3,6 +3,8 @@
 #include "shell/komunikaty.h"
 #include "tiles/kolory.h"
 
+#include <cstddef>
+
 namespace dorva {
 namespace {
 

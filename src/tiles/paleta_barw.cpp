@@ -1,5 +1,7 @@
 #include "tiles/paleta_barw.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 
 namespace dorva {

@@ -5,6 +5,7 @@
 #include "tiles/obraz.h"
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <span>
 #include <string>

@@ -4,6 +4,10 @@
 #include "system/pliki.h"
 #include "tiles/kolory.h"
 
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
 #include <utility>
 
 namespace dorva {

@@ -3,6 +3,8 @@
 
 #include "edytor.h"
 
+#include <filesystem>
+
 namespace dorva {
 
 // Gives each world its tile set by its place in the listing of the exports. False where the listing was
