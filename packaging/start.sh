@@ -6,7 +6,9 @@ cd "$(dirname "$0")" || exit 1
 pokaz() { # a message that is seen, also where no terminal is open; in letters that every X font has
     for okno in "zenity --warning --title=Planszownik --text" "kdialog --title Planszownik --sorry" "xmessage -center"; do
         # shellcheck disable=SC2086
-        command -v "${okno%% *}" >/dev/null 2>&1 && $okno "$1" && return
+        command -v "${okno%% *}" >/dev/null 2>&1 || continue
+        $okno "$1"
+        return # the first of them that there is; how its window was closed doesn't matter
     done
     echo "$1" >&2
 }
