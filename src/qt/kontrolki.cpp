@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QFontMetrics>
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOption>
@@ -155,7 +157,7 @@ void Suwak::paintEvent(QPaintEvent*) {
         option.initFrom(this);
         option.rect = arrowRect(action);
         option.state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
-        option.state |= pressed_ == action ? QStyle::State_Sunken : QStyle::State_Raised;
+        option.state |= repeatAction() == action ? QStyle::State_Sunken : QStyle::State_Raised;
         style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter, this);
         if (value() == (less ? minimum() : maximum()))
             option.state &= ~QStyle::State_Enabled;
@@ -172,13 +174,24 @@ void Suwak::mousePressEvent(QMouseEvent* event) {
         return;
     pressed_ = arrowRect(SliderSingleStepSub).contains(event->pos()) ? SliderSingleStepSub : SliderSingleStepAdd;
     triggerAction(pressed_);
-    setRepeatAction(pressed_);
-    update();
+    count(pressed_);
 }
 
-void Suwak::mouseReleaseEvent(QMouseEvent*) {
+void Suwak::mouseMoveEvent(QMouseEvent* event) {
+    const bool isOn = pressed_ != SliderNoAction && arrowRect(pressed_).contains(event->pos());
+    if (const SliderAction wanted = isOn ? pressed_ : SliderNoAction; wanted != repeatAction())
+        count(wanted);
+}
+
+void Suwak::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
     pressed_ = SliderNoAction;
-    setRepeatAction(SliderNoAction);
+    count(pressed_);
+}
+
+void Suwak::count(SliderAction action) {
+    setRepeatAction(action);
     update();
 }
 
@@ -212,8 +225,15 @@ void PoleEdycji::enter() {
 }
 
 void PoleEdycji::leave() {
+    endComposition();
     if (std::exchange(entered_, false) && onLeave)
         onLeave();
+}
+
+void PoleEdycji::endComposition() {
+    QGuiApplication::inputMethod()->commit();
+    if (std::exchange(composing_, false))
+        reportEdit(); // it had nothing to add
 }
 
 void PoleEdycji::focusInEvent(QFocusEvent* event) {
@@ -227,8 +247,7 @@ void PoleEdycji::focusInEvent(QFocusEvent* event) {
 
 void PoleEdycji::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (std::exchange(composing_, false))
-        reportEdit();
+    endComposition();
     if (!isWindowChange(event))
         leave();
 }

@@ -82,7 +82,7 @@ private:
 };
 
 // A horizontal scroll bar too short for a thumb: two arrows side by side. A key or a turn of the wheel goes the way it
-// points; up is more.
+// points; up is more. A pressed arrow goes on counting while the pointer is on it.
 class Suwak : public QScrollBar {
 public:
     explicit Suwak(QWidget* parent);
@@ -90,12 +90,13 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
-    void mouseMoveEvent(QMouseEvent*) override {}
+    void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
     void contextMenuEvent(QContextMenuEvent*) override {}
 
 private:
     [[nodiscard]] QRect arrowRect(SliderAction) const;
+    void count(SliderAction);
 
     SliderAction pressed_ = SliderNoAction;
 };
@@ -114,6 +115,9 @@ public:
 
     // Where the focus goes to another window of the program.
     void leave();
+
+    // Takes what an input method still holds as typed.
+    void endComposition();
 
 protected:
     void focusInEvent(QFocusEvent*) override;

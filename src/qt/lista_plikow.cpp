@@ -25,7 +25,7 @@ QStringView numberAt(const QString& name, qsizetype& at) {
 }
 
 QString sizeText(qint64 size) {
-    return size < 1000 ? QString("%1 B").arg(size) : QLocale(QLocale::Polish).formattedDataSize(size, 1);
+    return size < 1024 ? QString("%1 B").arg(size) : QLocale(QLocale::Polish).formattedDataSize(size, 1);
 }
 
 } // namespace

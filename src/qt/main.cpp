@@ -15,11 +15,18 @@
 
 namespace {
 
-// Where Qt can open no window it writes several lines that help no user, and aborts. One sentence is enough.
-void sayWhyThereIsNoWindow(QtMsgType type, const QMessageLogContext&, const QString&) {
-    if (type != QtFatalMsg)
+// Where Qt can open no window it warns, and aborts with advice that helps no user. One sentence before its warnings is
+// enough.
+void sayWhyThereIsNoWindow(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    static QByteArray warnings;
+    if (type != QtFatalMsg) {
+        warnings += message.toUtf8() + '\n';
         return;
-    std::fputs("Planszownik nie może otworzyć okna: nie ma dostępu do ekranu (DISPLAY, WAYLAND_DISPLAY).\n", stderr);
+    }
+    std::fputs("Planszownik nie może otworzyć okna: nie ma dostępu do ekranu (DISPLAY, WAYLAND_DISPLAY) albo brakuje "
+               "bibliotek.\n",
+               stderr);
+    std::fputs(warnings.constData(), stderr);
     std::_Exit(EXIT_FAILURE);
 }
 

@@ -6,6 +6,7 @@
 #include <QImage>
 
 #include <array>
+#include <cstdint>
 #include <memory>
 
 namespace dorva {

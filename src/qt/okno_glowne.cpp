@@ -1,5 +1,6 @@
 #include "qt/okno_glowne.h"
 
+#include "qt/kontrolki.h"
 #include "qt/paleta_okno.h"
 #include "qt/zdarzenia_okna.h"
 #include "shell/start.h"
@@ -31,6 +32,8 @@ void OknoGlowne::showRecord() {
 }
 
 void OknoGlowne::closeEvent(QCloseEvent* event) {
+    if (auto* box = dynamic_cast<PoleEdycji*>(focusWidget()))
+        box->endComposition();
     run([](Edytor& e) {
         Form_QueryUnload(e);
         Form_Unload(e);

@@ -3,6 +3,8 @@
 
 #include "system/haki.h"
 
+#include <filesystem>
+
 namespace dorva {
 
 // Starts a program without arguments, in the current directory, and returns at once. A .BAT is the command processor's.

@@ -9,6 +9,8 @@
 #include <QPushButton>
 
 #include <memory>
+#include <string_view>
+#include <system_error>
 
 namespace dorva {
 namespace {
@@ -83,13 +85,13 @@ bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
     return box.clickedButton() == accept;
 }
 
-std::optional<fs::path> askOpen(QWidget* parent, const DialogPliku& question) {
+std::optional<fs::path> showOpenDialog(QWidget* parent, const DialogPliku& question) {
     const Dialog dialog(new QFileDialog(parent, "Otwieranie"));
     dialog->setFileMode(QFileDialog::ExistingFile);
     return ask(*dialog, question, "&Otwórz");
 }
 
-std::optional<fs::path> askSave(QWidget* parent, const DialogPliku& question) {
+std::optional<fs::path> showSaveDialog(QWidget* parent, const DialogPliku& question) {
     const Dialog dialog(new QFileDialog(parent, "Zapisywanie jako"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);

@@ -3,6 +3,9 @@
 
 #include "system/haki.h"
 
+#include <filesystem>
+#include <optional>
+
 class QWidget;
 
 namespace dorva {
@@ -11,7 +14,7 @@ namespace dorva {
 bool showMessageBox(QWidget* parent, const Komunikat&);
 
 // File dialogs: the desktop's own where there is one. Nothing where the user cancelled.
-std::optional<std::filesystem::path> askOpen(QWidget* parent, const DialogPliku&);
-std::optional<std::filesystem::path> askSave(QWidget* parent, const DialogPliku&);
+std::optional<std::filesystem::path> showOpenDialog(QWidget* parent, const DialogPliku&);
+std::optional<std::filesystem::path> showSaveDialog(QWidget* parent, const DialogPliku&);
 
 } // namespace dorva

@@ -12,8 +12,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <utility>
+#include <vector>
 
 namespace dorva {
 namespace {
@@ -184,6 +186,8 @@ void WyborWidget::showZnaki(const std::array<ZnakSlot, ZNAKI_COUNT>& imgZnak, Ob
         const ObrazekPtr& obrazek = obrazki[imgZnak[slot].obraz];
         changed |= obrazki_[slot] != obrazek;
         obrazki_[slot] = obrazek;
+        if (imgZnak_[slot].enabled != imgZnak[slot].enabled)
+            updateFrame(slot);
     }
     imgZnak_ = imgZnak;
     if (!changed)
@@ -205,13 +209,17 @@ void WyborWidget::showBufor(Znak znak) {
     moveFrame(inBufor_, found == WYBOR_ORDER.end() ? -1 : *found);
 }
 
-// On a fractional scale a line may lie on the neighbours' rims.
 void WyborWidget::moveFrame(int& slot, int to) {
     const int before = std::exchange(slot, to);
     if (before == to)
         return;
-    for (int changed : {before, to})
-        update(slotRect(changed).adjusted(-1, -1, 1, 1));
+    updateFrame(before);
+    updateFrame(to);
+}
+
+// On a fractional scale a line may lie on the neighbours' rims.
+void WyborWidget::updateFrame(int slot) {
+    update(slotRect(slot).adjusted(-1, -1, 1, 1));
 }
 
 QRect WyborWidget::slotRect(int slot) {

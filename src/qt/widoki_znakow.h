@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <array>
 #include <functional>
 
 namespace dorva {
@@ -67,6 +68,7 @@ protected:
 private:
     [[nodiscard]] static int slotAt(QPoint); // -1 for none
     void moveFrame(int& slot, int to);
+    void updateFrame(int slot);
 
     std::array<ObrazekPtr, ZNAKI_COUNT> obrazki_;
     std::array<ZnakSlot, ZNAKI_COUNT> imgZnak_;

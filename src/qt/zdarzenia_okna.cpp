@@ -129,11 +129,11 @@ void bindHooks(Haki& haki, QWidget* window, const std::function<void()>& show) {
     };
     haki.openDialog = [=](const DialogPliku& dialog) {
         show();
-        return askOpen(window, dialog);
+        return showOpenDialog(window, dialog);
     };
     haki.saveDialog = [=](const DialogPliku& dialog) {
         show();
-        return askSave(window, dialog);
+        return showSaveDialog(window, dialog);
     };
     haki.startProgram = startProgram;
     haki.loadPicture = loadBitmapa;

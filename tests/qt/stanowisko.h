@@ -16,14 +16,14 @@
 namespace dorva::test {
 
 // A strip of 4096 x 32 in which each tile is a pattern of 2 x 2 dots of its own.
-inline Bitmapa patternStrip(int swiat) {
+inline Bitmapa patternStrip(int shade) {
     Bitmapa strip{PASEK_WIDTH, OBRAZ_SIDE, {}};
     strip.piksele.resize(static_cast<std::size_t>(PASEK_WIDTH * OBRAZ_SIDE));
     for (int y = 0; y < OBRAZ_SIDE; ++y)
         for (int x = 0; x < PASEK_WIDTH; ++x) {
             const int tile = x / OBRAZ_SIDE, dot = (y / 2 * 16 + x % OBRAZ_SIDE / 2) & 0xFF;
             strip.piksele[static_cast<std::size_t>(y * PASEK_WIDTH + x)] =
-                0xFF000000U | static_cast<std::uint32_t>(tile << 16 | dot << 8 | (swiat * 80 + 20));
+                0xFF000000U | static_cast<std::uint32_t>(tile << 16 | dot << 8 | shade);
         }
     return strip;
 }
@@ -35,7 +35,7 @@ protected:
         okno = std::make_unique<OknoGlowne>(e);
         e.haki.loadPicture = [this](const fs::path& path, int, int) -> std::optional<Bitmapa> {
             const auto name = path.filename().string();
-            return withStrips ? std::optional(patternStrip(name[3] - '0')) : std::nullopt;
+            return patternStrip(shadeOf(name[3] - '0'));
         };
     }
 
@@ -98,7 +98,9 @@ protected:
         return {cell % PLANSZA_COLUMNS * 16 + 8, cell / PLANSZA_COLUMNS * 16 + 8};
     }
 
-    bool withStrips = true;
+    [[nodiscard]] int shadeOf(int swiat) const { return shade + 80 * swiat; }
+
+    int shade = 20; // of the strips, in the first world
     std::unique_ptr<OknoGlowne> okno;
     QStringList said;
 };

@@ -54,10 +54,31 @@ TEST_F(Kontrolki, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
                   }),
                   x <= bar->width() / 2 ? -1 : 1)
             << x;
+    const auto hasMark = [bar] {
+        return bar->grab().toImage().pixelColor(0, 0) == bar->palette().color(QPalette::Highlight);
+    };
     bar->setFocus();
-    const QImage focused = bar->grab().toImage();
+    EXPECT_TRUE(hasMark());
     nazwa->setFocus();
-    EXPECT_NE(bar->grab().toImage(), focused);
+    EXPECT_FALSE(hasMark());
+}
+
+TEST_F(Kontrolki, AnArrowOfTheGoalBarCountsWhileThePointerIsOnIt) {
+    auto* bar = find<QScrollBar>("hscMonet");
+    const auto counts = [&](int ms) {
+        return QTest::qWaitFor([&, was = bar->value()] { return bar->value() > was; }, ms);
+    };
+    QTest::mousePress(bar, Qt::LeftButton, {}, {25, 8});
+    EXPECT_EQ(bar->value(), 2);
+    QTest::mouseMove(bar, {25, -30});
+    EXPECT_FALSE(counts(600));
+    QTest::mouseMove(bar, {25, 9});
+    EXPECT_TRUE(counts(600));
+    QTest::mouseRelease(bar, Qt::RightButton, {}, {25, 9});
+    EXPECT_TRUE(counts(600));
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, {25, 9});
+    QTest::mouseMove(bar, {25, 8});
+    EXPECT_FALSE(counts(200));
 }
 
 TEST_F(Kontrolki, ARightClickIntoABoxLeavesTheNextClickAlone) {
@@ -89,6 +110,11 @@ TEST_F(Kontrolki, ACompositionInAnEmptiedBoxGoesOn) {
     compose("x", {});
     compose({}, {}); // given up
     EXPECT_EQ(nazwa->selectedText(), QString(32, ' '));
+    QTest::keyClicks(nazwa, "ala");
+    nazwa->selectAll();
+    compose("x", {});
+    okno->close(); // ends it
+    EXPECT_EQ(e.okno.txtNazwa.tekst.znaki, std::string(32, ' '));
 }
 
 TEST_F(Kontrolki, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {

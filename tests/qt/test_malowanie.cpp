@@ -27,10 +27,13 @@ protected:
         pointer(board, QEvent::MouseButtonPress, centreOf(cell), button, button);
     }
     void moveTo(QPoint at, Qt::MouseButtons held) { pointer(board, QEvent::MouseMove, at, Qt::NoButton, held); }
-    void clickSlot(int slot) {
-        const auto place = std::find(WYBOR_ORDER.begin(), WYBOR_ORDER.end(), slot) - WYBOR_ORDER.begin();
-        QTest::mouseClick(find("imgZnak"), Qt::LeftButton, {},
-                          QPoint(int(place) % 22 * 32 + 16, int(place) / 22 * 32 + 16));
+    static QRect rectOf(int slot) {
+        const int place = int(std::ranges::find(WYBOR_ORDER, slot) - WYBOR_ORDER.begin());
+        return {place % 22 * 32, place / 22 * 32, 34, 34};
+    }
+    void clickSlot(int slot) { QTest::mouseClick(find("imgZnak"), Qt::LeftButton, {}, rectOf(slot).center()); }
+    void moveOver(int slot) {
+        pointer(find("imgZnak"), QEvent::MouseMove, rectOf(slot).center(), Qt::NoButton, Qt::NoButton);
     }
     QWidget* board = nullptr;
 };
@@ -75,6 +78,11 @@ TEST_F(Malowanie, ButtonsAndTools) {
     EXPECT_EQ(cellOf(90), before);
     EXPECT_NE(cellOf(92), KLUCZ);
     EXPECT_EQ(e.okno.obrys, 92);
+    moveTo(centreOf(40) - QPoint(16, 0), Qt::NoButton); // beside the board
+    moveTo(centreOf(0) - QPoint(0, 16), Qt::NoButton);
+    EXPECT_EQ(e.okno.obrys, 92);
+    const QRgb corner = board->grab().toImage().pixel(centreOf(92) - QPoint(8, 8));
+    EXPECT_TRUE(corner == qRgb(255, 255, 255) || corner == qRgb(0, 0, 0)); // its line is there
 }
 
 TEST_F(Malowanie, AUniqueTileIsPlacedOnceAndItsSlotRests) {
@@ -93,7 +101,7 @@ TEST_F(Malowanie, AUniqueTileIsPlacedOnceAndItsSlotRests) {
     EXPECT_EQ(find<QLabel>("lblInfo(1)")->palette().color(QPalette::WindowText), QColor(255, 0, 0));
 }
 
-TEST_F(Malowanie, OneCellIsRepaintedForOneStroke) {
+TEST_F(Malowanie, OnlyWhatChangedIsRepainted) {
     struct Counter : QObject {
         QRegion region;
         bool eventFilter(QObject*, QEvent* event) override {
@@ -101,13 +109,44 @@ TEST_F(Malowanie, OneCellIsRepaintedForOneStroke) {
                 region += static_cast<QPaintEvent*>(event)->region();
             return false;
         }
-    } counter;
+    } ofBoard, ofPicker;
     QTest::qWait(50);
-    board->installEventFilter(&counter);
+    board->installEventFilter(&ofBoard);
     clickSlot(7);
     press(10 * 40 + 10);
     QTest::qWait(50);
-    EXPECT_EQ(counter.region, QRegion(160, 160, 16, 16));
+    EXPECT_EQ(ofBoard.region, QRegion(160, 160, 16, 16));
+
+    moveOver(56);
+    QTest::qWait(50);
+    find("imgZnak")->installEventFilter(&ofPicker);
+    e.okno.imgZnak[56].enabled = !e.okno.imgZnak[56].enabled; // while the pointer rests on it
+    okno->showRecord();
+    QTest::qWait(50);
+    EXPECT_EQ(ofPicker.region, QRegion(rectOf(56).adjusted(-1, -1, 1, 1)) & find("imgZnak")->rect());
+}
+
+TEST_F(Malowanie, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
+    QWidget* picker = find("imgZnak");
+    const auto frameOf = [&](int slot) { // the colour of its border
+        return picker->grab().toImage().pixel(rectOf(slot).topLeft());
+    };
+    constexpr QRgb NONE = qRgb(0, 0, 0), IN_BUFOR = qRgb(255, 224, 64), UNDER_POINTER = qRgb(255, 255, 255);
+    e.okno.imgZnak[9].enabled = false;
+    clickSlot(14);
+    moveOver(16);
+    EXPECT_EQ(frameOf(14), IN_BUFOR);
+    EXPECT_EQ(frameOf(16), UNDER_POINTER);
+    moveOver(9);
+    EXPECT_EQ(frameOf(9), NONE);
+    EXPECT_EQ(frameOf(16), NONE);
+    moveOver(16);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(picker, &leave);
+    EXPECT_EQ(frameOf(16), NONE);
+    QTest::mousePress(picker, Qt::LeftButton, {}, rectOf(16).center());
+    QTest::mouseRelease(picker, Qt::LeftButton, {}, rectOf(17).center()); // no click
+    EXPECT_EQ(frameOf(14), IN_BUFOR);
 }
 
 // Runs once more on a screen of a fractional scale.
@@ -123,19 +162,22 @@ TEST_F(Malowanie, TheOutlineLeavesNoTrail) {
     EXPECT_EQ(okno->screen()->grabWindow(okno->winId()).toImage(), before);
 }
 
-TEST_F(Malowanie, PicturesAreTheStripsPixelsInEveryWorld) {
-    for (int swiat : {0, 1, 2}) {
+// Of each world, and after the strips were read anew.
+TEST_F(Malowanie, PicturesAreTheStripsPixels) {
+    for (int swiat : {0, 1, 2, 2}) {
         click(QString("optObiektyNR(%1)").arg(swiat));
+        shade += 10;
+        cmdReload_Click(e);
         e.okno.imgPG[50].znak = znak(133);
         e.okno.imgPG[51].znak = znak(70); // no tile
         optObiektyNR_Click(e, swiat);
         okno->showRecord();
-        const QImage shot = board->grab().toImage();
-        const Bitmapa strip = patternStrip(swiat);
+        const Bitmapa strip = patternStrip(shadeOf(swiat));
         const auto stripPixel = [&](Znak z, int x, int y) {
             const int position = kod(z) < 64 ? kod(z) : kod(z) - 64;
             return QRgb(strip.piksele[std::size_t(y * PASEK_WIDTH + position * 32 + x)]);
         };
+        const QImage shot = board->grab().toImage(), picker = find("imgZnak")->grab().toImage();
         int wrong = 0;
         for (int cell = 0; cell < PLANSZA_CELLS; ++cell)
             for (int y = 0; y < 16; ++y)
@@ -143,15 +185,14 @@ TEST_F(Malowanie, PicturesAreTheStripsPixelsInEveryWorld) {
                     if (isTile(cellOf(cell)))
                         wrong += shot.pixel(cell % 40 * 16 + x, cell / 40 * 16 + y) !=
                                  stripPixel(cellOf(cell), 2 * x, 2 * y);
+        for (int slot : WYBOR_ORDER)
+            wrong += picker.pixel(rectOf(slot).topLeft() + QPoint(11, 21)) != stripPixel(znak(slot), 10, 20);
+        for (auto [icon, slot] : {std::pair(0, 63), {1, 9}, {2, 12}, {4, 13}, {5, 10}, {6, 14}, {7, 2}, {8, 55}})
+            wrong +=
+                find(QString("imgInfo(%1)").arg(icon))->grab().toImage().pixel(5, 6) != stripPixel(znak(slot), 10, 12);
+        wrong += find("imgBufor")->grab().toImage().pixel(7, 8) != stripPixel(NIC, 6, 7);
         EXPECT_EQ(wrong, 0) << "world " << swiat;
         EXPECT_EQ(cellOf(51), znak(70));
-
-        const QImage picker = find("imgZnak")->grab().toImage();
-        const QImage icon = find("imgInfo(4)")->grab().toImage();
-        EXPECT_EQ(picker.pixel(3 * 32 + 1 + 10, 1 + 20), stripPixel(znak(3), 10, 20));
-        EXPECT_EQ(picker.pixel(21 * 32 + 1 + 31, 32 + 1 + 31), stripPixel(DORVA, 31, 31));
-        EXPECT_EQ(icon.pixel(5, 6), stripPixel(KLUCZ, 10, 12));
-        EXPECT_EQ(find("imgBufor")->grab().toImage().pixel(7, 8), stripPixel(NIC, 6, 7));
     }
 }
 

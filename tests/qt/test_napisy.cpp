@@ -2,6 +2,7 @@
 #include "stanowisko.h"
 
 #include <QCheckBox>
+#include <QFontDatabase>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPainter>
@@ -37,6 +38,15 @@ TEST_F(Napisy, NoCaptionIsCut) {
     for (const auto* znacznik : okno->findChildren<QCheckBox*>())
         EXPECT_LE(znacznik->text().isEmpty() ? 0 : znacznik->sizeHint().width(), znacznik->width());
     EXPECT_GT(captions, 80);
+}
+
+TEST_F(Napisy, TheFontsTravelWithTheProgram) {
+    QStringList families;
+    for (int id = 0; id < 3; ++id)
+        families += QFontDatabase::applicationFontFamilies(id);
+    EXPECT_EQ(families, QStringList({"Liberation Sans", "Liberation Sans", "Liberation Mono"}));
+    for (const char* name : {"cmdTest", "txtNazwa"})
+        EXPECT_TRUE(families.contains(find(name)->font().family())) << name;
 }
 
 TEST_F(Napisy, ALongCaptionIsNarrowedToItsBox) {

@@ -82,6 +82,43 @@ TEST_F(Rozmowy, FilesAreListedByNumberInPolish) {
     click("cmdLoad");
 }
 
+TEST_F(Rozmowy, EnterEscapeAndIconOfEveryMessage) {
+    struct {
+        Ikona ikona;
+        QMessageBox::Icon icon;
+    } const ikony[]{{Ikona::Critical, QMessageBox::Critical},
+                    {Ikona::Warning, QMessageBox::Warning},
+                    {Ikona::Information, QMessageBox::Information}};
+    for (auto [ikona, icon] : ikony)
+        for (Przyciski przyciski : {Przyciski::Ok, Przyciski::OkCancel, Przyciski::YesNo})
+            for (Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+                whenAsked<QMessageBox>([key, icon = icon](QMessageBox* box) {
+                    EXPECT_EQ(box->icon(), icon);
+                    QTest::keyClick(box, key);
+                });
+                const bool answer = showMessageBox(okno.get(), {"tytuł", "<b>tekst</b>", ikona, przyciski});
+                const bool yes = przyciski == Przyciski::Ok || (key == Qt::Key_Return && ikona != Ikona::Warning);
+                EXPECT_EQ(answer, yes) << int(ikona) << int(przyciski) << key; // what can't be undone is not Enter's
+            }
+}
+
+TEST_F(Rozmowy, WhatBlocksTheWindowFirstShowsWhatWasDone) {
+    open();
+    const auto expectShown = [this](const char* caption) {
+        e.okno.caption = caption;
+        whenAsked<QDialog>([this, caption](QDialog* dialog) {
+            EXPECT_EQ(okno->windowTitle(), caption);
+            dialog->reject();
+        });
+    };
+    expectShown("1");
+    (void)e.haki.messageBox({"", "", Ikona::Critical, Przyciski::Ok});
+    expectShown("2");
+    EXPECT_FALSE(e.haki.openDialog({"", root, "Pliki|*.*"}));
+    expectShown("3");
+    EXPECT_FALSE(e.haki.saveDialog({"", root, "Pliki|*.*"}));
+}
+
 TEST_F(Rozmowy, AnExistingFileIsReplacedOnlyWhenAsked) {
     open();
     const fs::path archive = root / "gra.dpa";

@@ -14,12 +14,14 @@ class SesjaPosix : public Stanowisko {};
 TEST_F(SesjaPosix, ASignalToEndStoresTheWork) {
     open();
     storeAtSessionEnd(*okno);
-    e.okno.imgPG[410].znak = KLUCZ;
-    ASSERT_EQ(::raise(SIGTERM), 0);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !okno->isVisible(); }));
-    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 410], 13);
-    for (int signal : {SIGTERM, SIGINT, SIGHUP})
+    for (int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        okno->show();
+        e.okno.imgPG[410].znak = znak(signal);
+        ASSERT_EQ(::raise(signal), 0);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !okno->isVisible(); }));
+        EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 410], signal);
         std::signal(signal, SIG_DFL);
+    }
 }
 
 // The launcher of the working folder, with an emulator that notes how it was called.
