@@ -33,23 +33,22 @@ protected:
     }
 };
 
-TEST_F(SesjaWindows, TheLauncherFindsTheEmulatorInThePathAndRatherInItsFolder) {
+TEST_F(SesjaWindows, TheLauncherTakesAnyEmulatorOfItsFolderBeforeThoseInThePath) {
     open();
     const auto here = base.u8string();
-    const std::string called =
-        std::string(here.begin(), here.end()) + "\n-xe -nobasic -win-width 1008 -win-height 720 -run PLIKI\\TEST.XEX\n";
+    const std::string place = std::string(here.begin(), here.end()) + '\n';
     const fs::path elsewhere = root / "Programy (x86)";
     const fs::path beside = base / "PLIKI/emulator";
-    for (const fs::path& folder : {elsewhere, beside}) {
-        fs::create_directory(folder);
-        fs::copy_file(DORVA_EMULATOR, folder / "atari800.exe");
+    for (const fs::path& emulator : {elsewhere / "atari800.exe", beside / "Altirra.exe"}) {
+        fs::create_directory(emulator.parent_path());
+        fs::copy_file(DORVA_EMULATOR, emulator);
     }
     const QString path = qEnvironmentVariable("PATH");
     ::SetEnvironmentVariableW(L"PATH", (elsewhere.native() + L';' + path.toStdWString()).c_str());
-    EXPECT_EQ(launchedIn(beside), called);
+    EXPECT_EQ(launchedIn(beside), place + "/hardware:800xl /memsize:128K /nobasic /run PLIKI\\TEST.XEX\n");
     EXPECT_FALSE(fs::exists(elsewhere / "wywolanie"));
     fs::remove_all(beside);
-    EXPECT_EQ(launchedIn(elsewhere), called);
+    EXPECT_EQ(launchedIn(elsewhere), place + "-xe -nobasic -win-width 1008 -win-height 720 -run PLIKI\\TEST.XEX\n");
     ::SetEnvironmentVariableW(L"PATH", path.toStdWString().c_str());
 }
 
