@@ -6,7 +6,7 @@ namespace {
 
 TEST(Program, WithoutADisplayOneSentenceQtsReasonAndStatusOne) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* variable : {"WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_SESSION_TYPE"})
+    for (const char* variable : {"WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_LOGGING_RULES", "XDG_SESSION_TYPE"})
         environment.remove(variable);
     for (const char* display : {"", ":9999"}) { // none, and one that is not there
         environment.insert("DISPLAY", display);
