@@ -30,34 +30,43 @@ protected:
         Stanowisko::SetUp();
         okno->showRecord();
         okno->show();
-        for (auto* widget : okno->findChildren<QWidget*>(QRegularExpression("^(fra|frm|cmd|chk|opt|txt|lbl|img|hsc)")))
-            if (widget->window() == okno.get())
-                controls.append(widget);
     }
-    QList<QWidget*> controls;
+    // Those of a window, each before what may lie on it.
+    static QList<QWidget*> controlsOf(const QWidget* window) {
+        QList<QWidget*> controls;
+        for (auto* widget : window->findChildren<QWidget*>(QRegularExpression("^(fra|frm|c|opt|txt|lbl|img|hsc|pic)")))
+            if (widget->window() == window)
+                controls.append(widget);
+        return controls;
+    }
+    // Their names, places, words and states, by their sum; what it is the sum of is told where it differs.
+    static void expectSum(const QList<QWidget*>& controls, const std::string& sum) {
+        QStringList rows;
+        for (const QWidget* control : controls) {
+            const QRect r = control->geometry();
+            rows += QString("%1 in %2 at %3,%4 of %5x%6%7%8: %9 / ")
+                        .arg(control->objectName(), control->parentWidget()->objectName())
+                        .arg(r.x())
+                        .arg(r.y())
+                        .arg(r.width())
+                        .arg(r.height())
+                        .arg(control->isEnabled() ? "" : ", disabled", control->isVisible() ? "" : ", hidden",
+                             captionOf(control)) +
+                    control->toolTip();
+            if (const QVariant alignment = control->property("alignment"); alignment.isValid())
+                rows.back() += QString(" / %1").arg(alignment.toInt());
+            if (control->objectName().startsWith("pic"))
+                rows.back() += " / " + control->palette().color(QPalette::Window).name();
+        }
+        rows.sort();
+        const QByteArray list = rows.join("\n").toUtf8();
+        EXPECT_EQ(QCryptographicHash::hash(list, QCryptographicHash::Md5).toHex().toStdString(), sum)
+            << list.toStdString();
+    }
 };
 
-// Names, places, words and states of all controls, by their sum; what it is the sum of is told where it differs.
 TEST_F(Katalog, EveryControlStandsAtItsPlaceWithItsWords) {
-    QStringList rows;
-    for (const QWidget* control : controls) {
-        const QRect r = control->geometry();
-        rows += QString("%1 in %2 at %3,%4 of %5x%6%7%8: %9 / ")
-                    .arg(control->objectName(), control->parentWidget()->objectName())
-                    .arg(r.x())
-                    .arg(r.y())
-                    .arg(r.width())
-                    .arg(r.height())
-                    .arg(control->isEnabled() ? "" : ", disabled", control->isVisible() ? "" : ", hidden",
-                         captionOf(control)) +
-                control->toolTip();
-    }
-    rows.sort();
-    const QByteArray list = rows.join("\n").toUtf8();
-    EXPECT_EQ(QCryptographicHash::hash(list, QCryptographicHash::Md5).toHex().toStdString(),
-              "801fcf6c7dbbd876aa1faea0fbf25e27")
-        << list.toStdString();
-
+    expectSum(controlsOf(okno.get()), "2aef6c77ad6088dda4ed7b269b15f93d");
     EXPECT_EQ(okno->minimumSize(), QSize(897, 617));
     EXPECT_EQ(okno->maximumSize(), QSize(897, 617));
     for (const char* selected : {"optEtapNR(0)", "optObiektyNR(0)", "optPPM(0)", "optNN(0)"})
@@ -65,9 +74,19 @@ TEST_F(Katalog, EveryControlStandsAtItsPlaceWithItsWords) {
     const auto* bar = find<QScrollBar>("hscMonet");
     EXPECT_EQ(std::tuple(bar->minimum(), bar->maximum(), bar->value(), bar->hasTracking()),
               std::tuple(1, 99, 1, false));
+
+    start();
+    click("lblKolor(4)");
+    const auto* palette = find("dlgPaleta");
+    expectSum(controlsOf(palette), "ebdc3a54aee9e348c5d335d4a34ed267");
+    EXPECT_EQ(palette->windowTitle(), "Paleta Atari");
+    EXPECT_EQ(palette->minimumSize(), QSize(210, 337));
+    EXPECT_EQ(palette->maximumSize(), QSize(210, 337));
+    EXPECT_FALSE(palette->geometry().contains(find("lblKolor(4)")->mapToGlobal(QPoint(0, 0)))); // covers no swatch
 }
 
 TEST_F(Katalog, ControlsLieInTheirFramesAndSideBySide) {
+    const QList<QWidget*> controls = controlsOf(okno.get());
     const auto lieApart = [](const QWidget* a, const QWidget* b) {
         const QRect both = a->geometry() & b->geometry();
         return a->parent() != b->parent() || std::min(both.width(), both.height()) <= 1; // a common border
