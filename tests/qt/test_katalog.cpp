@@ -132,7 +132,6 @@ TEST_F(Katalog, AMisspeltNameEndsTheProgram) {
     const auto end = ::testing::ExitedWithCode(1);
     EXPECT_EXIT(KontrolkiOkna({{wytwornia::ramka, "fraA", -1, "fraPloe", 0, 0, 0, 0, "", ""}}, &window), end,
                 "fraPloe");
-    EXPECT_EXIT((void)kontrolki.get<QPushButton>("optPPM", 2), end, "optPPM.2");
     EXPECT_EXIT((void)kontrolki.get<QLineEdit>("cmdLoad"), end, "cmdLoad");
     EXPECT_EXIT(kontrolki.setTabOrder({"cmdLoad", "txtNzawa"}), end, "txtNzawa");
 }

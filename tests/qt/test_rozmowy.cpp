@@ -87,30 +87,22 @@ TEST_F(Rozmowy, FilesAreListedByNumberInPolish) {
 }
 
 TEST_F(Rozmowy, KeysAndIconOfEveryMessage) {
-    struct {
-        Ikona ikona;
-        QMessageBox::Icon icon;
-    } const ikony[]{{Ikona::Critical, QMessageBox::Critical},
-                    {Ikona::Warning, QMessageBox::Warning},
-                    {Ikona::Information, QMessageBox::Information}};
-    struct {
-        Przyciski przyciski;
-        Qt::Key yes, no;
-    } const zestawy[]{{Przyciski::Ok, Qt::Key_O, Qt::Key_unknown},
-                      {Przyciski::OkCancel, Qt::Key_O, Qt::Key_A},
-                      {Przyciski::YesNo, Qt::Key_T, Qt::Key_N}};
-    for (auto [ikona, icon] : ikony)
-        for (auto [przyciski, yes, no] : zestawy)
-            for (Qt::Key key : {yes, no, Qt::Key_Return, Qt::Key_Escape}) {
-                if (key == Qt::Key_unknown)
-                    continue;
+    const std::map<Ikona, QMessageBox::Icon> icons{{Ikona::Critical, QMessageBox::Critical},
+                                                   {Ikona::Warning, QMessageBox::Warning},
+                                                   {Ikona::Information, QMessageBox::Information}};
+    const std::map<Przyciski, std::pair<Qt::Key, Qt::Key>> letters{{Przyciski::Ok, {Qt::Key_O, Qt::Key_O}},
+                                                                   {Przyciski::OkCancel, {Qt::Key_O, Qt::Key_A}},
+                                                                   {Przyciski::YesNo, {Qt::Key_T, Qt::Key_N}}};
+    for (auto [ikona, icon] : icons)
+        for (auto [przyciski, letter] : letters)
+            for (Qt::Key key : {letter.first, letter.second, Qt::Key_Return, Qt::Key_Escape}) {
                 whenAsked<QMessageBox>([key, icon = icon](QMessageBox* box) {
                     EXPECT_EQ(box->icon(), icon);
                     QTest::keyClick(box, key);
                 });
                 const bool answer = showMessageBox(okno.get(), {"tytuł", "tekst", ikona, przyciski});
                 const bool byEnter = key == Qt::Key_Return && ikona != Ikona::Warning; // what can't be undone isn't
-                EXPECT_EQ(answer, przyciski == Przyciski::Ok || key == yes || byEnter)
+                EXPECT_EQ(answer, przyciski == Przyciski::Ok || key == letter.first || byEnter)
                     << int(ikona) << int(przyciski) << key;
             }
 }
