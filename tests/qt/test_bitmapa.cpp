@@ -51,6 +51,11 @@ TEST_F(BitmapaPliku, OnlyThePartThatIsWantedIsKept) {
     const auto topDown = load(with(bitmapFile({3, 2}, QImage::Format_Indexed8), HEIGHT, std::uint32_t(-2)));
     ASSERT_TRUE(topDown);
     EXPECT_EQ(topDown->piksele[3], RED);
+    Bajty runs = with(bitmapFile({3, 2}, QImage::Format_Indexed8), COMPRESSION, 2);
+    runs.resize(runs.size() - 8); // in place of the pixels, two runs of three and the end
+    for (Bajt b : {3, 0, 0, 0, 3, 0, 0, 1})
+        runs.push_back(b);
+    EXPECT_TRUE(load(runs));
 }
 
 TEST_F(BitmapaPliku, WhatIsNoPictureIsRefused) {

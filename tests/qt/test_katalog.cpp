@@ -13,10 +13,6 @@
 namespace dorva::test {
 namespace {
 
-// What lies over a part of another one, and that.
-const std::pair<QString, QString> NA_WIERZCHU[]{
-    {"fraAutor", "fraPole"}, {"cmdCzysc", "fraPole"}, {"fraPPM", "fraObiekty"}, {"fraBufor", "fraObiekty"}};
-
 QString captionOf(const QWidget* widget) {
     for (const char* property : {"title", "text"})
         if (const QVariant value = widget->property(property); value.isValid())
@@ -85,32 +81,6 @@ TEST_F(Katalog, EveryControlStandsAtItsPlaceWithItsWords) {
     EXPECT_FALSE(palette->geometry().contains(find("lblKolor(4)")->mapToGlobal(QPoint(0, 0)))); // covers no swatch
 }
 
-TEST_F(Katalog, ControlsLieInTheirFramesAndSideBySide) {
-    const QList<QWidget*> controls = controlsOf(okno.get());
-    const auto lieApart = [](const QWidget* a, const QWidget* b) {
-        const QRect both = a->geometry() & b->geometry();
-        return a->parent() != b->parent() || std::min(both.width(), both.height()) <= 1; // a common border
-    };
-    for (qsizetype i = 0; i < controls.size(); ++i) {
-        const QWidget* control = controls[i];
-        const QString name = control->objectName();
-        if (!control->isVisible())
-            continue;
-        EXPECT_TRUE(name == "cmdBlokuj" || control->parentWidget()->rect().contains(control->geometry()))
-            << name.toStdString();
-        for (const QWidget* later : controls.mid(i + 1)) {
-            const std::pair above(later->objectName(), name);
-            EXPECT_TRUE(!later->isVisible() || lieApart(control, later) ||
-                        std::ranges::find(NA_WIERZCHU, above) != std::end(NA_WIERZCHU))
-                << above.first.toStdString() << " over " << name.toStdString();
-        }
-    }
-    for (const char* name : {"txtNazwa", "txtAutor", "txtAutorGry(0)"}) { // each shows its full width
-        const auto* box = find<QLineEdit>(name);
-        EXPECT_LE(QFontMetrics(box->font()).horizontalAdvance(QString(box->maxLength(), 'W')), box->width() - 6);
-    }
-}
-
 TEST_F(Katalog, TabVisitsTheControlsInOrder) {
     open();
     QStringList visited;
@@ -118,11 +88,10 @@ TEST_F(Katalog, TabVisitsTheControlsInOrder) {
         visited += QApplication::focusWidget()->objectName();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
-    const QStringList wanted{"optEtapNR(0)",   "chkOstatni",     "optObiektyNR(1)",   "txtNazwa",  "txtAutor",
-                             "txtAutorGry(0)", "txtAutorGry(1)", "txtAutorGry(2)",    "cmdLoad",   "cmdLoadArch",
-                             "cmdTest",        "cmdSave",        "cmdSaveArch",       "cmdCreate", "hscMonet",
-                             "cmdCzysc",       "cmdResetKolory", "chkZachowajKolory", "optPPM(0)", "optEtapNR(0)"};
-    EXPECT_EQ(visited.join(" ").toStdString(), wanted.join(" ").toStdString()); // stage 1 of the desk lies in world 1
+    EXPECT_EQ(visited.join(" ").toStdString(), // stage 1 of the desk lies in world 1
+              "optEtapNR(0) chkOstatni optObiektyNR(1) txtNazwa txtAutor txtAutorGry(0) txtAutorGry(1) txtAutorGry(2) "
+              "cmdLoad cmdLoadArch cmdTest cmdSave cmdSaveArch cmdCreate hscMonet cmdCzysc cmdResetKolory "
+              "chkZachowajKolory optPPM(0) optEtapNR(0)");
 }
 
 // Container, binding, tab stop and kind alike: what is not in the catalogue is told by its name.

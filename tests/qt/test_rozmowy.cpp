@@ -15,12 +15,12 @@ protected:
     // Answers the next file dialog with a name, or cancels it where the name is empty.
     void whenAskedChoose(const fs::path& name) {
         whenAsked<QFileDialog>([this, name](QFileDialog* dialog) {
-            words = dialog->windowTitle();
+            words = {dialog->windowTitle()};
             for (auto label : {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::FileType, QFileDialog::Accept,
                                QFileDialog::Reject})
-                words += "|" + dialog->labelText(label);
-            filters = dialog->nameFilters();
-            proposed = dialog->findChild<QLineEdit*>("fileNameEdit")->text();
+                words += dialog->labelText(label);
+            words += dialog->nameFilters();
+            words += dialog->findChild<QLineEdit*>("fileNameEdit")->text();
             folder = dialog->directory().absolutePath();
             if (name.empty())
                 return dialog->reject();
@@ -28,8 +28,8 @@ protected:
             static_cast<QDialog*>(dialog)->accept();
         });
     }
-    QStringList filters;
-    QString words, proposed, folder;
+    QStringList words;
+    QString folder;
 };
 
 TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
@@ -42,10 +42,9 @@ TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
         QTimer::singleShot(0, [this] { whenAskedPress("OK"); });
     });
     click("cmdSave");
-    EXPECT_EQ(words, "Zapisywanie jako|Szukaj w:|&Nazwa pliku:|Pliki typu:|&Zapisz|&Anuluj");
-    EXPECT_EQ(proposed, "DETAP.1");
+    EXPECT_EQ(words.join("|"), "Zapisywanie jako|Szukaj w:|&Nazwa pliku:|Pliki typu:|&Zapisz|&Anuluj|"
+                               "Etap gry (DETAP.*)|Wszystkie pliki (*.*) (*)|DETAP.1");
     EXPECT_EQ(folder, QString::fromStdString(fs::canonical(root).generic_string()));
-    EXPECT_EQ(filters, QStringList({"Etap gry (DETAP.*)", "Wszystkie pliki (*.*) (*)"}));
     EXPECT_EQ(said.join(" "),
               "Ostrzeżenie!|Plik już istnieje!\nZastąpić? Informacja|Dane etapu zostały pomyślnie zapisane");
     EXPECT_EQ(readFile(copy), sampleEtap(1));
@@ -53,7 +52,7 @@ TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
     writeFile(copy, sampleEtap(9));
     whenAskedChoose(copy);
     click("cmdLoad");
-    EXPECT_EQ(words, "Otwieranie|Szukaj w:|&Nazwa pliku:|Pliki typu:|&Otwórz|&Anuluj");
+    EXPECT_EQ(words.mid(0, 6).join("|"), "Otwieranie|Szukaj w:|&Nazwa pliku:|Pliki typu:|&Otwórz|&Anuluj");
     EXPECT_EQ(find<QLabel>("lblInfo(3)")->text(), "9");
     EXPECT_EQ(e.NumerEtapu, 1);
     whenAskedChoose({});

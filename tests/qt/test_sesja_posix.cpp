@@ -4,6 +4,8 @@
 #include "qt/programy.h"
 #include "qt/sesja.h"
 
+#include <QProcess>
+
 #include <csignal>
 
 namespace dorva::test {
@@ -36,8 +38,6 @@ TEST_F(SesjaPosix, TheLauncherRunsTheEmulatorBesideTheEditor) {
 
     whenAskedPress("Tak");
     click("cmdTest");
-    EXPECT_EQ(said, QStringList("Dorva Planszownik|Został utworzony plik XEX z testowanym etapem.\n"
-                                "Uruchomić plik na emulatorze Atari?"));
     const std::string called =
         fs::canonical(base).string() + "\n-xe -nobasic -win-width 1008 -win-height 720 -run PLIKI/TEST.XEX\n";
     EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(root / "wywolanie").size() == called.size(); }));
@@ -46,6 +46,38 @@ TEST_F(SesjaPosix, TheLauncherRunsTheEmulatorBesideTheEditor) {
 
     startProgram(base / "PLIKI/BRAK.BAT", OknoProgramu::Hidden); // nothing happens, nothing is created
     EXPECT_FALSE(fs::exists(base / "PLIKI/BRAK.BAT"));
+}
+
+// The program itself, as a process.
+TEST_F(SesjaPosix, TheProgramLoadsAndStoresTheFolderThatItStandsIn) {
+    fs::copy_file(DORVA_PROGRAM, base / "planszownik");
+    fs::remove(base / "ETAPY/DETAP.1"); // appears, empty, when it is looked for
+    QProcess program;
+    program.start(QString::fromStdString((base / "planszownik").string()), QStringList());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return fs::exists(etap(1)); }));
+    QTest::qWait(500);
+    program.terminate();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(readFile(etap(1)).size(), std::size_t(ETAP_SIZE_BYTES));
+}
+
+TEST(Program, WithoutADisplayOneSentenceQtsReasonAndStatusOne) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* variable : {"WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_LOGGING_RULES", "XDG_SESSION_TYPE"})
+        environment.remove(variable);
+    for (const char* display : {"", ":9999"}) { // none, and one that is not there
+        environment.insert("DISPLAY", display);
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(DORVA_PROGRAM, QStringList());
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(program.exitCode(), 1);
+        const QByteArray said = program.readAllStandardError();
+        EXPECT_TRUE(said.startsWith("Planszownik nie może")) << said.toStdString();
+        EXPECT_TRUE(said.contains(QByteArray("could not connect to display ") + display)) << said.toStdString();
+    }
 }
 
 } // namespace
