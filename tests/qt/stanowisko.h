@@ -15,16 +15,16 @@
 
 namespace dorva::test {
 
-// A strip of 4096 x 32 in which each tile is a pattern of 2 x 2 dots of its own.
+// A pixel of a strip of 4096 x 32 in which each tile is a pattern of 2 x 2 dots of its own.
+inline std::uint32_t patternPixel(int shade, int tile, int x, int y) {
+    return 0xFF000000U | static_cast<std::uint32_t>(tile << 16 | (y / 2 * 16 + x / 2) << 8 | shade);
+}
+
 inline Bitmapa patternStrip(int shade) {
     Bitmapa strip{PASEK_WIDTH, OBRAZ_SIDE, {}};
-    strip.piksele.resize(static_cast<std::size_t>(PASEK_WIDTH * OBRAZ_SIDE));
     for (int y = 0; y < OBRAZ_SIDE; ++y)
-        for (int x = 0; x < PASEK_WIDTH; ++x) {
-            const int tile = x / OBRAZ_SIDE, dot = (y / 2 * 16 + x % OBRAZ_SIDE / 2) & 0xFF;
-            strip.piksele[static_cast<std::size_t>(y * PASEK_WIDTH + x)] =
-                0xFF000000U | static_cast<std::uint32_t>(tile << 16 | dot << 8 | shade);
-        }
+        for (int x = 0; x < PASEK_WIDTH; ++x)
+            strip.piksele.push_back(patternPixel(shade, x / OBRAZ_SIDE, x % OBRAZ_SIDE, y));
     return strip;
 }
 

@@ -2,9 +2,13 @@
 #include "stanowisko.h"
 
 #include "qt/budowa_okna.h"
+#include "qt/napisy.h"
 #include "qt/wytwornia.h"
 
+#include <QBitmap>
 #include <QCryptographicHash>
+#include <QFontDatabase>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QScrollBar>
 
@@ -12,13 +16,6 @@
 
 namespace dorva::test {
 namespace {
-
-QString captionOf(const QWidget* widget) {
-    for (const char* property : {"title", "text"})
-        if (const QVariant value = widget->property(property); value.isValid())
-            return value.toString();
-    return {};
-}
 
 class Katalog : public Stanowisko {
 protected:
@@ -47,7 +44,7 @@ protected:
                         .arg(r.width())
                         .arg(r.height())
                         .arg(control->isEnabled() ? "" : ", disabled", control->isVisible() ? "" : ", hidden",
-                             captionOf(control)) +
+                             control->property("title").toString() + control->property("text").toString()) +
                     control->toolTip();
             if (const QVariant alignment = control->property("alignment"); alignment.isValid())
                 rows.back() += QString(" / %1").arg(alignment.toInt());
@@ -103,6 +100,59 @@ TEST_F(Katalog, AMisspeltNameEndsTheProgram) {
                 "fraPloe");
     EXPECT_EXIT((void)kontrolki.get<QLineEdit>("cmdLoad"), end, "cmdLoad");
     EXPECT_EXIT(kontrolki.setTabOrder({"cmdLoad", "txtNzawa"}), end, "txtNzawa");
+}
+
+// Every caption in its box, in bold where a selected button has it so.
+TEST_F(Katalog, NoCaptionIsCutAndEachIsDrawn) {
+    open();
+    for (auto* widget : okno->findChildren<QWidget*>()) {
+        QFont font = widget->font();
+        const bool isFrame = widget->inherits("QGroupBox");
+        const auto* property = isFrame ? "title" : "text";
+        const QString caption = widget->property(property).toString();
+        if (caption.trimmed().isEmpty() || !widget->isVisible())
+            continue;
+        if (const auto* field = qobject_cast<QLineEdit*>(widget)) { // shows its full width
+            EXPECT_LE(QFontMetrics(font).horizontalAdvance(QString(field->maxLength(), 'W')), field->width() - 6);
+            continue;
+        }
+        const auto* label = qobject_cast<QLabel*>(widget);
+        const bool isButton = widget->inherits("QPushButton");
+        const int flags = isFrame || (label && !label->wordWrap()) ? 0 : Qt::TextWordWrap;
+        const int margin = isFrame ? 10 : isButton ? 2 : widget->inherits("QCheckBox") ? 10 : 0;
+        font.setBold(font.bold() || isButton);
+        const QSize box(widget->width() - 2 * margin, widget->height());
+        EXPECT_GE(double(box.width()) / widthForCaption(QFontMetrics(font), box, flags, caption.trimmed()), 0.9)
+            << caption.toStdString();
+        const QImage withCaption = widget->grab().toImage();
+        widget->setProperty(property, " ");
+        EXPECT_NE(widget->grab().toImage(), withCaption) << caption.toStdString();
+    }
+}
+
+TEST_F(Katalog, TheFontsTravelWithTheProgram) {
+    QStringList families;
+    for (int id = 0; id < 3; ++id)
+        families += QFontDatabase::applicationFontFamilies(id);
+    EXPECT_EQ(families, QStringList({"Liberation Sans", "Liberation Sans", "Liberation Mono"}));
+    EXPECT_EQ(find("cmdTest")->font().family(), families.front());
+    EXPECT_EQ(find("txtNazwa")->font().family(), families.back());
+}
+
+TEST_F(Katalog, ALongCaptionIsNarrowedToItsBox) {
+    const QRect box(20, 10, 60, 26);
+    for (int flags : {int(Qt::AlignCenter), Qt::AlignCenter | Qt::TextWordWrap})
+        for (const char* caption : {"|cccccccccccccccccccccc|", "|nie ma tu miejsca na tyle słów, ile ich jest|"}) {
+            QImage image(100, 50, QImage::Format_RGB32);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            drawCaption(painter, box, flags, caption);
+            painter.end();
+            const QImage paper = image.createMaskFromColor(qRgb(255, 255, 255), Qt::MaskInColor);
+            const QRect ink = QRegion(QBitmap::fromImage(paper)).boundingRect();
+            EXPECT_TRUE(box.contains(ink)) << caption << flags << " to " << ink.right();
+            EXPECT_GT(ink.width(), box.width() * 3 / 4) << caption << flags;
+        }
 }
 
 } // namespace

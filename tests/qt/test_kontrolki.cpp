@@ -30,7 +30,7 @@ TEST_F(Kontrolki, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
     const auto after = [&](auto act) {
         bar->setValue(50);
         act();
-        return bar->value() - 50;
+        return e.okno.hscMonet - 50;
     };
     const std::map<Qt::Key, int> keys{{Qt::Key_Right, 1}, {Qt::Key_Up, 1},    {Qt::Key_PageUp, 1},
                                       {Qt::Key_Left, -1}, {Qt::Key_Down, -1}, {Qt::Key_PageDown, -1}};
@@ -119,6 +119,7 @@ TEST_F(Kontrolki, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
         QFocusEvent event(type, Qt::ActiveWindowFocusReason);
         QApplication::sendEvent(nazwa, &event);
     }
+    Q_EMIT qApp->focusWindowChanged(okno->windowHandle());
     EXPECT_EQ(nazwa->text(), "ala");
     EXPECT_EQ(nazwa->selectedText(), "");
     click("lblKolor(4)");

@@ -103,6 +103,10 @@ TEST_F(Malowanie, OnlyWhatChangedIsRepainted) {
     okno->showRecord();
     QTest::qWait(50);
     EXPECT_EQ(ofPicker.region, QRegion(rectOf(56).adjusted(-1, -1, 1, 1)) & find("imgZnak")->rect());
+    ofPicker.region = {};
+    moveOver(16);
+    QTest::qWait(50);
+    EXPECT_TRUE(ofPicker.region.contains(rectOf(16)) && ofPicker.region.contains(rectOf(56)));
 }
 
 TEST_F(Malowanie, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
@@ -153,19 +157,15 @@ TEST_F(Malowanie, PicturesAreTheStripsPixels) {
         e.okno.imgPG[51].znak = znak(70); // no tile
         optObiektyNR_Click(e, swiat);
         okno->showRecord();
-        const Bitmapa strip = patternStrip(shadeOf(swiat));
         const auto stripPixel = [&](Znak z, int x, int y) {
-            const int position = kod(z) < 64 ? kod(z) : kod(z) - 64;
-            return QRgb(strip.piksele[std::size_t(y * PASEK_WIDTH + position * 32 + x)]);
+            return QRgb(patternPixel(shadeOf(swiat), kod(z) < 64 ? kod(z) : kod(z) - 64, x, y));
         };
         const QImage shot = board->grab().toImage(), picker = find("imgZnak")->grab().toImage();
         int wrong = 0;
-        for (int cell = 0; cell < PLANSZA_CELLS; ++cell)
-            for (int y = 0; y < 16; ++y)
-                for (int x = 0; x < 16; ++x)
-                    if (isTile(cellOf(cell)))
-                        wrong += shot.pixel(cell % 40 * 16 + x, cell / 40 * 16 + y) !=
-                                 stripPixel(cellOf(cell), 2 * x, 2 * y);
+        for (int y = 0; y < shot.height(); ++y)
+            for (int x = 0; x < shot.width(); ++x)
+                if (const Znak z = cellOf(y / 16 * 40 + x / 16); isTile(z))
+                    wrong += shot.pixel(x, y) != stripPixel(z, x % 16 * 2, y % 16 * 2);
         for (int slot : WYBOR_ORDER)
             wrong += picker.pixel(rectOf(slot).topLeft() + QPoint(11, 21)) != stripPixel(znak(slot), 10, 20);
         for (auto [icon, slot] : {std::pair(0, 63), {1, 9}, {2, 12}, {4, 13}, {5, 10}, {6, 14}, {7, 2}, {8, 55}})
