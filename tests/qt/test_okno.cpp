@@ -96,7 +96,8 @@ TEST_F(OknoTest, ThePaletteWritesIntoTheSlotThatWasPicked) {
     click("picPaleta(90)");
     EXPECT_EQ(e.okno.lblKolor[4].value, 180);
     EXPECT_EQ(find<QLabel>("lblWybrany")->text(), "180, $B4");
-    EXPECT_EQ(colour("lblKolor(4)", QPalette::Window), qRgb(0x16, 0x92, 0x12));
+    for (const char* name : {"lblKolor(4)", "picPaleta(90)", "picWybrany"})
+        EXPECT_EQ(find(name)->grab().toImage().pixel(4, 4), qRgb(0x16, 0x92, 0x12)) << name;
 
     click("lblKolor(11)");
     EXPECT_EQ(colour("lblKolor(4)", QPalette::WindowText), qRgb(255, 255, 255));
