@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 record=no
 [ "${1-}" != --record ] || { record=yes && shift; }
 build=${1-build/release}
-player=$build/tests/gra/gracz
+player=$build/game/sim/gracz
 [ -f "$player" ] || { echo "runs: no $player; build it first" >&2; exit 1; }
 
 failed=0
