@@ -37,19 +37,18 @@ protected:
         QStringList rows;
         for (const QWidget* control : controls) {
             const QRect r = control->geometry();
-            rows += QString("%1 in %2 at %3,%4 of %5x%6%7%8: %9 / ")
+            rows += QString("%1 in %2 at %3,%4 of %5x%6%7%8%9 / ")
                         .arg(control->objectName(), control->parentWidget()->objectName())
                         .arg(r.x())
                         .arg(r.y())
                         .arg(r.width())
                         .arg(r.height())
                         .arg(control->isEnabled() ? "" : ", disabled", control->isVisible() ? "" : ", hidden",
-                             control->property("title").toString() + control->property("text").toString()) +
-                    control->toolTip();
-            if (const QVariant alignment = control->property("alignment"); alignment.isValid())
-                rows.back() += QString(" / %1").arg(alignment.toInt());
-            if (control->objectName().startsWith("pic"))
-                rows.back() += " / " + control->palette().color(QPalette::Window).name();
+                             control->font().bold() ? ", bold" : "");
+            for (const char* property : {"title", "text", "toolTip", "alignment"})
+                rows.back() += control->property(property).toString() + " / ";
+            if (control->testAttribute(Qt::WA_SetPalette))
+                rows.back() += control->palette().color(QPalette::Window).name();
         }
         rows.sort();
         const QByteArray list = rows.join("\n").toUtf8();
@@ -59,7 +58,7 @@ protected:
 };
 
 TEST_F(Katalog, EveryControlStandsAtItsPlaceWithItsWords) {
-    expectSum(controlsOf(okno.get()), "2aef6c77ad6088dda4ed7b269b15f93d");
+    expectSum(controlsOf(okno.get()), "6814279e4373d7309a08f9be1aa37ba1");
     EXPECT_EQ(okno->minimumSize(), QSize(897, 617));
     EXPECT_EQ(okno->maximumSize(), QSize(897, 617));
     for (const char* selected : {"optEtapNR(0)", "optObiektyNR(0)", "optPPM(0)", "optNN(0)"})
@@ -71,7 +70,7 @@ TEST_F(Katalog, EveryControlStandsAtItsPlaceWithItsWords) {
     start();
     click("lblKolor(4)");
     const auto* palette = find("dlgPaleta");
-    expectSum(controlsOf(palette), "ebdc3a54aee9e348c5d335d4a34ed267");
+    expectSum(controlsOf(palette), "77545dd0a56a0928971607b53501600c");
     EXPECT_EQ(palette->windowTitle(), "Paleta Atari");
     EXPECT_EQ(palette->minimumSize(), QSize(210, 337));
     EXPECT_EQ(palette->maximumSize(), QSize(210, 337));
