@@ -95,8 +95,7 @@ TEST_F(Katalog, AMisspeltNameEndsTheProgram) {
     QWidget window;
     const KontrolkiOkna kontrolki(katalogOkna(), &window);
     const auto end = ::testing::ExitedWithCode(1);
-    EXPECT_EXIT(KontrolkiOkna({{wytwornia::ramka, "fraA", -1, "fraPloe", 0, 0, 0, 0, "", ""}}, &window), end,
-                "fraPloe");
+    EXPECT_EXIT(KontrolkiOkna({{wytwornia::ramka, "a", -1, "fraB", 0, 0, 0, 0, "", ""}}, &window), end, "fraB");
     EXPECT_EXIT((void)kontrolki.get<QLineEdit>("cmdLoad"), end, "cmdLoad");
     EXPECT_EXIT(kontrolki.setTabOrder({"cmdLoad", "txtNzawa"}), end, "txtNzawa");
 }

@@ -67,6 +67,7 @@ TEST_F(Rozmowy, FilesAreListedByNumberInPolish) {
         };
         EXPECT_TRUE(QTest::qWaitFor([&] { return text(31, 1) != ""; }));
         EXPECT_EQ(text(9, 0), "DETAP.10");
+        EXPECT_EQ(QCoreApplication::translate("QFileDialog", "Directory:"), "Katalog:"); // the toolkit's own words
         EXPECT_TRUE(isNameBefore("etap 02", "Etap 3"));
         EXPECT_EQ(text(9, 1), "931 B");
         EXPECT_EQ(text(9, 3).left(10), QDate::currentDate().toString("dd.MM.yyyy"));
