@@ -28,51 +28,15 @@ static unsigned bledy;
         }                                                                                                              \
     } while (0)
 
-static const char litery[] = " .^,n|=%zE+wMKBSeO*Q!gLRdu$fTtmpPbo@iDs<>AV?";
-static const byte kody[] = {NIC,
-                            ZIEMIA,
-                            PULAPKA,
-                            SLAD,
-                            NACZYNIE,
-                            MUR_V,
-                            MUR_H,
-                            KRUCHY,
-                            ZAROSLA,
-                            WYJSCIE,
-                            DRZWI,
-                            WODA,
-                            MASKA,
-                            KLUCZ,
-                            BOMBA,
-                            SKRZYNIA,
-                            ELIKSIR,
-                            BLOK,
-                            PROMIENNIK,
-                            ODPALONA,
-                            DUCH,
-                            STWOREK,
-                            STWOR + LEWO,
-                            STWOR + PRAWO,
-                            STRAZNIK,
-                            STRAZNIK + 1,
-                            MONETA,
-                            OGIEN,
-                            TROPICIEL,
-                            TROPICIEL + GORA,
-                            MIOTNIK,
-                            MIOTACZ,
-                            PLUJKA,
-                            BAGNO,
-                            MAGICZNY,
-                            MASZYNA,
-                            POCHODNIA,
-                            DORVA,
-                            PO_OCZY + 1,
-                            PROMIEN + LEWO,
-                            PROMIEN + PRAWO,
-                            PROMIEN + GORA,
-                            PROMIEN + DOL,
-                            70};
+static const char litery[] = " .^,n|=%zE+wMKBSeO*Q!gLRdu$fTtmpPbo@iDs<>AVxX?";
+static const byte kody[] = {
+    NIC,           ZIEMIA,           PULAPKA,       SLAD,        NACZYNIE,       MUR_V,           MUR_H,
+    KRUCHY,        ZAROSLA,          WYJSCIE,       DRZWI,       WODA,           MASKA,           KLUCZ,
+    BOMBA,         SKRZYNIA,         ELIKSIR,       BLOK,        PROMIENNIK,     ODPALONA,        DUCH,
+    STWOREK,       STWOR + LEWO,     STWOR + PRAWO, STRAZNIK,    STRAZNIK + 1,   MONETA,          OGIEN,
+    TROPICIEL,     TROPICIEL + GORA, MIOTNIK,       MIOTACZ,     PLUJKA,         BAGNO,           MAGICZNY,
+    MASZYNA,       POCHODNIA,        DORVA,         PO_OCZY + 1, PROMIEN + LEWO, PROMIEN + PRAWO, PROMIEN + GORA,
+    PROMIEN + DOL, WYBUCH,           WYBUCH + 3,    70};
 
 static const char liczby[] = "ewzkbmoctapgh";
 static byte* const gdzie[] = {&energia, &wynik,     &zycia,        &klucze, &bomby,     &brak_masek, &otwarte,
@@ -290,7 +254,10 @@ static const struct wiersz bomby_i_mury[] = {
     {0, "130", "D###  ##|", "e99"},
     {"D ", "b 9", 0, "g0"}, /* a trigger held since before the stage says nothing */
     {0, ".-B", 0, "g4"},
-    {"DB  ", "RBR 110", 0, "e64"},               /* too near */
+    {"DB,  ", "RRBRR", "  Q D", "b0"}, /* on a track too */
+    {"DQ ", "90", "Dxx", "e64"},       /* too near; the smoke stays for a while */
+    {0, "27", "DXX"},
+    {0, "9", "D  "},
     {"E.M/+QK/oeD", "200", "E M/+#K/oe"},        /* nothing that a stage needs is lost */
     {" QB$/O|*L/D   ", "260", "#  $/%| ", "x1"}, /* a chain; blocks crack; coins and walls stay */
 };
@@ -306,9 +273,13 @@ static const struct wiersz wedrowcy[] = {
     {0, "60", 0, "e69"},
     {"DL", "R", "D", "e84"},
     {0, "4000", 0, "e0 w2"},
+    {"Dd", "R", "D", "e79"}, /* into their arms */
+    {"DT", "R", "DT", "e79"},
+    {"D!", "R", "D!", "e87"},
     {"g..D", "9", "R"}, /* it wakes in her row only */
     {"g   /    /   D", "90", "g"},
-    {"!.../..../D|||", "900", "#"},                        /* a ghost passes earth and leaves it whole */
+    {"!.../..../D|||", "63", " .../!.../D", "e87"}, /* a ghost passes earth and leaves it whole */
+    {0, "126", " ..!/..../D", "e87"},
     {"Di!|", "RRRR", 0, "t1 e99"},                         /* a torch keeps it away */
     {"R   s/|||||/D", "180", 0, "e99"},                    /* a statue is no heroine */
     {"D      /T| || |/       ", "RRRDDRRR 144", 0, "e59"}, /* a tracker takes her way, round the corner */
@@ -328,6 +299,10 @@ static const struct wiersz strzelanie[] = {
     {"mD /|  /|  ", "9 DR 60", "m", "e99"},          /* she can step aside */
     {"m     |/||||||D/|||||||", "300", "m ", "e99"}, /* not through what is in between */
     {"P  S D", "400", "###S", "e99"},
+    {"P  D", "60", 0, "e79"},
+    {" pD", "180", 0, "e79"},
+    {"m/ /D", "40", 0, "e87"},
+
     {"D   p   ", "180", "####### ", "e79"},
 };
 
@@ -352,6 +327,7 @@ static const struct wiersz zywioly[] = {
     {" oD|||o  /|||||||||/o| o     ", "L", "######D"},
     {0, "RL", " D"},
     {0, "L", "Do"},
+    {"Do////////////|o ", "R", "#o////////////|D"},
     {"Do ", "RR", " oD"}, /* one alone is just passed */
 };
 
