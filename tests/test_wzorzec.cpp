@@ -11,7 +11,8 @@ protected:
         fs::create_directories((wzorzec / name).parent_path());
         writeFile(wzorzec / name, bytes);
     }
-    bool lay() { return layOut(SYSTEM_PLIKOW, wzorzec, base); }
+    bool lay() { return refused().empty(); }
+    std::vector<fs::path> refused() { return layOut(SYSTEM_PLIKOW, wzorzec, base); }
 
     fs::path wzorzec;
 
@@ -64,12 +65,16 @@ TEST_F(Wzorzec, WithoutItsRecordEverythingIsItsOwners) {
 TEST_F(Wzorzec, WhatCannotBePutInIsTold) {
     fs::create_directory(base / "NOWY");
     writeFile(base / "NOWY/GŁĘBOKI", {5}); // a file where a folder is needed
-    EXPECT_FALSE(lay());
+    EXPECT_EQ(refused(), std::vector<fs::path>{"NOWY/GŁĘBOKI/plik"});
     EXPECT_EQ(readFile(etap(1)), Bajty{1}) << "the rest is laid";
     fs::remove(etap(1));
     fs::create_directory(etap(1));
     fs::remove_all(base / "NOWY");
     EXPECT_TRUE(lay()) << "a folder in a file's place is its owner's";
+    fs::remove_all(wzorzec);
+    EXPECT_TRUE(lay()) << "nothing was delivered";
+    writeFile(wzorzec, {});
+    EXPECT_FALSE(lay());
 }
 
 } // namespace

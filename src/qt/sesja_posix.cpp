@@ -21,7 +21,7 @@ void onSignal(int) {
 
 } // namespace
 
-// start.sh did it.
+// What starts the program has done it: start.sh of the package, run.sh of the sources.
 void prepareFolder(const std::filesystem::path&) {}
 
 // What it would like to keep goes to /dev/null (setUpApplication).

@@ -8,18 +8,28 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QStringList>
 #include <QWidget>
+
+#include <algorithm>
+#include <cstddef>
 
 namespace dorva {
 
 // A newer version is unpacked over an older one, and a double click starts it: nothing else could lay it out.
 void prepareFolder(const std::filesystem::path& folder) {
-    if (layOut(SYSTEM_PLIKOW, folder / "wzorzec", folder))
+    constexpr std::size_t NAMES_MAX = 5;
+    const auto refused = layOut(SYSTEM_PLIKOW, folder / "wzorzec", folder);
+    if (refused.empty())
         return;
-    const auto text =
-        QString("Nie można zapisywać w folderze\n%1.\nRozpakuj Planszownik tam, gdzie możesz tworzyć pliki.")
-            .arg(nameOfPath(folder))
-            .toStdString();
+    QStringList names;
+    for (std::size_t i = 0; i < std::min(refused.size(), NAMES_MAX); ++i)
+        names += nameOfPath(folder / refused[i]);
+    if (refused.size() > NAMES_MAX)
+        names += "...";
+    const auto text = QString("Nie udało się zapisać:\n%1\nRozpakuj Planszownik tam, gdzie możesz tworzyć pliki.")
+                          .arg(names.join('\n'))
+                          .toStdString();
     (void)showMessageBox(nullptr, {"Dorva Planszownik", text, Ikona::Warning, Przyciski::Ok});
 }
 

@@ -81,7 +81,9 @@ Wynik open(const fs::path& path, Otwarcie otwarcie, Uchwyt& file) {
     const ::DWORD attributes = ::GetFileAttributesW(path.c_str());
     if (access == GENERIC_WRITE && attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
         return Wynik::Odmowa;
-    return patiently([&] { return openAs(path, access, creation, FILE_ATTRIBUTE_NORMAL, file); }, false);
+    // A name whose file is removed and still held by someone is denied to a new one for a moment.
+    return patiently([&] { return openAs(path, access, creation, FILE_ATTRIBUTE_NORMAL, file); },
+                     otwarcie == Otwarcie::Nowy);
 }
 
 ::DWORD atMost(std::size_t count) {

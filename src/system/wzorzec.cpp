@@ -58,13 +58,15 @@ private:
     std::size_t stored_ = 0;
 };
 
-// The files of a tree, by their names within it.
+// The files of a tree, by their names within it; the tree itself where its listing breaks off. None if it is missing.
 std::vector<fs::path> filesIn(const fs::path& tree) {
     std::vector<fs::path> names;
     std::error_code error;
     for (fs::recursive_directory_iterator at(tree, error), end; !error && at != end; at.increment(error))
-        if (std::error_code unknown; at->is_regular_file(unknown))
+        if (std::error_code unknown; !at->is_directory(unknown))
             names.push_back(at->path().lexically_relative(tree));
+    if (error && error != std::errc::no_such_file_or_directory)
+        names.emplace_back();
     return names;
 }
 
@@ -76,25 +78,30 @@ bool put(const SystemPlikow& system, const fs::path& path, const Bajty& bytes) {
 
 } // namespace
 
-bool layOut(const SystemPlikow& system, const fs::path& wzorzec, const fs::path& folder) {
+std::vector<fs::path> layOut(const SystemPlikow& system, const fs::path& wzorzec, const fs::path& folder) {
     Spis spis(system, folder / SPIS);
-    bool allLaid = true;
+    std::vector<fs::path> refused;
     for (const fs::path& name : filesIn(wzorzec)) {
         const auto fresh = readWhole(system, wzorzec / name);
-        const auto old = readWhole(system, folder / name);
-        if (!fresh || (!old && fileExists(system, folder / name)))
+        if (!fresh) {
+            refused.push_back(name);
             continue;
+        }
+        const auto old = readWhole(system, folder / name);
         const std::u8string u8 = name.generic_u8string();
         const std::string text(u8.begin(), u8.end());
-        const bool isOwners = old && !old->empty() && *old != *fresh && !spis.knows(lineOf(text, *old));
+        const bool isOwners = old ? !old->empty() && *old != *fresh && !spis.knows(lineOf(text, *old))
+                                  : fileExists(system, folder / name);
         if (isOwners)
             continue;
         if (old == fresh || put(system, folder / name, *fresh))
             spis.add(lineOf(text, *fresh));
         else
-            allLaid = false;
+            refused.push_back(name);
     }
-    return spis.store() && allLaid;
+    if (!spis.store())
+        refused.emplace_back(SPIS);
+    return refused;
 }
 
 } // namespace dorva
