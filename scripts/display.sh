@@ -35,9 +35,34 @@ find_window() {
     [ -n "$window" ]
 }
 
-# Places in the window, in pixels: board cells of 16 from 96, 16; picker slots of 32 from 168, 472.
+# Where controls are pressed, in pixels: free of the text in boxes.
+places='
+optEtapNR(0)    37  32
+optEtapNR(1)    37  48
+optObiektyNR(0) 776 32
+optObiektyNR(1) 816 32
+optObiektyNR(2) 856 32
+lblKolor(0)     840 110
+lblKolor(4)     852 175
+cmdCzysc        816 373
+lblInfo(2)      280 376
+txtNazwa        160 425
+txtAutorGry(0)  100 585
+txtAutorGry(1)  260 585
+cmdTest         836 572
+cmdCreate       836 596
+cmdSave         592 596
+'
+place_of() { # place_of CONTROL
+    echo "$places" | while read -r control x y; do [ "$control" != "$1" ] || echo "$x $y"; done
+}
+# Board cells of 16 from 96, 16; picker slots of 32 from 168, 472.
 point() { xdotool mousemove --window "$window" "$1" "$2"; sleep 0.15; }
 click() { point "$1" "$2"; xdotool click "${3-1}"; sleep 0.35; }
+press() { # press CONTROL
+    # shellcheck disable=SC2046 # two words: x and y
+    click $(place_of "$1")
+}
 point_cell() { point $((96 + 16 * $1 + 8)) $((16 + 16 * $2 + 8)); } # COLUMN ROW
 cell() { point_cell "$1" "$2"; xdotool click 1; sleep 0.35; }
 slot() { click $((168 + 32 * $1 + 17)) $((489 + 32 * $2)); } # COLUMN ROW

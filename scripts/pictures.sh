@@ -45,7 +45,7 @@ shot() { sleep 0.3; import -window "${2-$window}" "$room/$1.png"; }
 
 point 450 350
 shot okno
-click 816 373 # "Czyść etap", Tak
+press cmdCzysc # Tak
 xdotool key Tab Return
 sleep 0.4
 slot 0 0 # NIC
@@ -59,19 +59,19 @@ slot 0 1                # MASKA
 cell 12 5 && cell 24 11 && cell 28 13
 slot 6 0 && drag 24 12 27 12
 slot 8 0 && drag 5 4 7 4
-click 280 376 # the goal
-click 160 425
+press "lblInfo(2)" # as many as there are: the goal
+press txtNazwa
 xdotool type --delay 60 'mój pierwszy etap'
 xdotool key Tab
-click 37 32
+press "optEtapNR(0)"
 point 450 350
 shot pierwszy-etap
-click 836 572 # "Test etapu"
+press cmdTest
 sleep 0.5
 shot pytanie root
 xdotool key Tab Return
 sleep 0.4
-click 852 175 # the swatch of "grunt"
+press "lblKolor(4)"
 sleep 0.5
 palette=$(xdotool search --name 'Paleta Atari' | head -n 1)
 xdotool mousemove --window "$palette" 95 215 mousemove_relative 1 0
@@ -83,7 +83,7 @@ slot 10 0 && cell 20 16 # a door without a key, an odd object, no heroine
 slot 18 1 && cell 22 16
 slot 1 0 && cell 6 6
 shot info
-click 836 596 # "Utworzenie gry"
+press cmdCreate
 sleep 0.8
 shot zapis root
 xdotool key Escape

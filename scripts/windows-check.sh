@@ -88,23 +88,23 @@ work() { # work PICTURE_PREFIX
     slot 2 0
     cell 20 9
     cell 21 9
-    click 36 48
+    press "optEtapNR(1)"
     slot 12 0
     cell 5 5
-    click 100 585
+    press "txtAutorGry(0)"
     xdotool key ctrl+a type --delay 80 'Zażółć gęślą jaźń'
-    click 260 585
+    press "txtAutorGry(1)"
     xdotool key ctrl+a type --delay 80 'ŁÓDŹ 2'
-    click 36 32
+    press "optEtapNR(0)"
     picture "$window" "$1-okno"
-    click 592 596
+    press cmdSave
     dialog 'Zapisywanie jako'
     choose 'etap z Polski' "$1-zapis"
     dialog '^Informacja$'
     picture root "$1-komunikat"
     xdotool key Return
     sleep 1
-    click 836 596
+    press cmdCreate
     dialog 'Zapisywanie jako'
     choose 'gra.xex'
     dialog '^Dorva Planszownik$'
@@ -144,10 +144,10 @@ done
 rm "$folder/ETAPY/DETAP.3"
 start_windows
 for world in 1 2 3; do
-    click $((776 + 40 * (world - 1))) 32
+    press "optObiektyNR($((world - 1)))"
     picture "$window" "windows-swiat$world"
 done
-click 840 110
+press "lblKolor(0)"
 dialog 'aleta'
 picture root windows-paleta
 close
