@@ -2,7 +2,7 @@
 
 #include "qt/przeklad.h"
 #include "qt/rozmowy.h"
-#include "system/system_plikow.h"
+#include "system/pliki.h"
 #include "system/wzorzec.h"
 
 #include <QCloseEvent>
