@@ -216,14 +216,8 @@ TEST(Etapy, EachAsksForItsTools) {
     }
 }
 
-TEST(Etapy, TheFirstHasNothingThatMoves) {
-    for (int code : {18, 23, 24, 25, 26, 27, 28, 29, 35, 36, 37, 38, 39, 40, 41, 42})
-        EXPECT_EQ(countOf(readEtap(1), znak(code)), 0) << code;
-}
-
 TEST(Etapy, WorldsTakeTurnsGoalsRiseTextsDiffer) {
     std::set<std::string> nazwy;
-    std::set<std::string> barwy;
     std::set<int> uzyte;
     for (int number = 1; number <= ETAPY_COUNT; ++number) {
         const Bajty etap = readEtap(number);
@@ -242,14 +236,8 @@ TEST(Etapy, WorldsTakeTurnsGoalsRiseTextsDiffer) {
 
         const std::string nazwa = DecodeTekst(std::span(etap).subspan(uklad::NAZWA, NAZWA_WIDTH)).znaki;
         EXPECT_TRUE(nazwy.insert(nazwa).second) << number;
-        for (char c : nazwa)
-            EXPECT_TRUE((c >= 'A' && c <= 'Z') || static_cast<Bajt>(c) >= 0x80 ||
-                        std::string_view(" .,!?").find(c) != std::string_view::npos)
-                << number << " " << c;
-        barwy.insert(std::string(etap.begin() + uklad::KOLORY, etap.begin() + uklad::PLANSZA));
         EXPECT_EQ(etap[uklad::KOLORY + 11] % 16, 4) << number << ": the panel's luminance";
     }
-    EXPECT_GE(barwy.size(), 30U);
     for (int code : WYBOR_ORDER)
         EXPECT_TRUE(uzyte.contains(code)) << "no stage uses tile " << code;
 }
@@ -272,52 +260,50 @@ TEST_F(Swiaty32, TheEditorFindsNoFaultAndKeepsEveryByte) {
     }
 }
 
-std::string messageOf(const std::function<void()>& parse) {
-    try {
-        parse();
-    } catch (const BladZrodla& blad) {
-        return blad.what();
+void expectTold(const std::function<void(const Zrodlo&)>& parse, const std::map<std::string, std::string>& mistakes) {
+    for (const auto& [source, message] : mistakes) {
+        std::string told;
+        try {
+            parse({"s", source});
+        } catch (const BladZrodla& blad) {
+            told = blad.what();
+        }
+        EXPECT_EQ(told.substr(0, message.size()), message) << source;
     }
-    return "";
 }
 
 TEST(Kompilator, MistakesAreToldWithTheirLine) {
     const std::string kolory = "grunt 1\ntwarz 2\nubranie 3\nwoda 4\ntlo 5\n";
     const std::string pusty = "0 NIC\n....\n....\n....\n....\n....\n....\n....\n....\n";
-    for (const auto& [source, message] :
-         std::map<std::string, std::string>{{"grunt 300\n", "s:1: a number from 0 to 255"},
-                                            {"twarz 1\n", "s:1: the colour grunt"},
-                                            {kolory + "\n; uwaga\n0 NICO\n", "s:8: the tile \"0 NIC\""},
-                                            {kolory + "0 NIC\n...\n", "s:7: a row of a tile"},
-                                            {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
-                                            {kolory + pusty + "1 ZIEMIA\nlustro 1\n", "s:16: a number from 0 to 0"},
-                                            {kolory + pusty, "s:14: the file ends"}})
-        EXPECT_EQ(messageOf([&s = source] { parseRysunki({"s", s}); }).substr(0, message.size()), message) << source;
+    expectTold([](const Zrodlo& zrodlo) { parseRysunki(zrodlo); },
+               {{"grunt 300\n", "s:1: a number from 0 to 255"},
+                {"twarz 1\n", "s:1: the colour grunt"},
+                {kolory + "\n; uwaga\n0 NICO\n", "s:8: the tile \"0 NIC\""},
+                {kolory + "0 NIC\n...\n", "s:7: a row of a tile"},
+                {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
+                {kolory + pusty + "1 ZIEMIA\nlustro 1\n", "s:16: a number from 0 to 0"},
+                {kolory + pusty, "s:14: the file ends"}});
 
-    const Legenda legenda = parseLegenda({"l", "kolory standard\n. 0 NIC\n~ 139 WODA ; INV\n"});
     const std::string head = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n";
     const std::string row = std::string(40, '.') + "\n";
-    const Swiaty swiaty{};
-    for (const auto& [source, message] : std::map<std::string, std::string>{
-             {"swiat 4\n", "s:1: a number from 1 to 3"},
-             {"swiat 1\nkolory niebo 4\n", "s:2: no colour"},
-             {"swiat 1\nkolory tlo\n", "s:2: a number"},
-             {"swiat 1\nkolory standard\ncel 100\n", "s:3: a number from 1 to 99"},
-             {"swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie " + row, "s:5: at most 32"},
-             {head + ".\n", "s:8: a row of the board"},
-             {head + std::string(39, '.') + "?\n", "s:8: the legend"},
-             {head + row, "s:8: the file ends"}})
-        EXPECT_EQ(messageOf([&, &s = source] {
-                      parseEtap({"s", s}, legenda, swiaty);
-                  }).substr(0, message.size()),
-                  message)
-            << source;
-    for (const char* source : {"ab 0 NIC\n", ". 0 NIC\n. 1 ZIEMIA\n", ". 64 NIC\n", ". 1 NIC\n", ". x NIC\n", ". 0\n"})
-        EXPECT_EQ(messageOf([&, &s = source] {
-                      parseLegenda({"l", std::string("kolory tlo 4\n") + source});
-                  }).substr(0, 2),
-                  "l:")
-            << source;
+    expectTold(
+        [](const Zrodlo& zrodlo) {
+            parseEtap(zrodlo, parseLegenda({"l", "kolory standard\n. 0 NIC\n~ 139 WODA ; INV\n"}), {});
+        },
+        {{"swiat 4\n", "s:1: a number from 1 to 3"},
+         {"swiat 1\nkolory niebo 4\n", "s:2: no colour"},
+         {"swiat 1\nkolory tlo\n", "s:2: a number"},
+         {"swiat 1\nkolory standard\ncel 100\n", "s:3: a number from 1 to 99"},
+         {"swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie " + row, "s:5: at most 32"},
+         {head + ".\n", "s:8: a row of the board"},
+         {head + std::string(39, '.') + "?\n", "s:8: the legend"},
+         {head + row, "s:8: the file ends"}});
+    const std::string barwy = "kolory tlo 4\n";
+    expectTold([](const Zrodlo& zrodlo) { parseLegenda(zrodlo); }, {{barwy + "ab 0 NIC\n", "s:2"},
+                                                                    {barwy + ". 0 NIC\n. 1 ZIEMIA\n", "s:3"},
+                                                                    {barwy + ". 64 NIC\n", "s:2"},
+                                                                    {barwy + ". 1 NIC\n", "s:2"},
+                                                                    {barwy + ". 0\n", "s:2"}});
 }
 
 TEST(Kompilator, TheTemplateOfAStageIsAStage) {
