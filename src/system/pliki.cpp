@@ -77,9 +77,7 @@ private:
     Wynik wynik_;
 };
 
-std::optional<Bajty> readOpened(const Otwarty& file, std::size_t count) {
-    if (!file.length())
-        return std::nullopt;
+std::optional<Bajty> readBytes(const Otwarty& file, std::size_t count) {
     Bajty bytes(count);
     return file.readAll(bytes) ? std::optional(std::move(bytes)) : std::nullopt;
 }
@@ -247,17 +245,18 @@ std::optional<Bajty> readOrCreate(const SystemPlikow& system, const fs::path& pa
     const Otwarty file(system, path, Otwarcie::Odczyt);
     if (file.wynik() == Wynik::NieMa)
         const Otwarty created(system, path, Otwarcie::Utworzenie);
-    return readOpened(file, count);
+    return file.length() ? readBytes(file, count) : std::nullopt;
 }
 
 std::optional<Bajty> readFirst(const SystemPlikow& system, const fs::path& path, std::size_t count) {
-    return readOpened(Otwarty(system, path, Otwarcie::Odczyt), count);
+    const Otwarty file(system, path, Otwarcie::Odczyt);
+    return file.length() ? readBytes(file, count) : std::nullopt;
 }
 
 std::optional<Bajty> readWhole(const SystemPlikow& system, const fs::path& path) {
     const Otwarty file(system, path, Otwarcie::Odczyt);
     const auto length = file.length();
-    return length && *length <= WHOLE_MAX_BYTES ? readOpened(file, static_cast<std::size_t>(*length)) : std::nullopt;
+    return length && *length <= WHOLE_MAX_BYTES ? readBytes(file, static_cast<std::size_t>(*length)) : std::nullopt;
 }
 
 std::optional<std::uintmax_t> lengthOf(const SystemPlikow& system, const fs::path& path) {
