@@ -108,9 +108,19 @@ static byte jest_stworem(byte z) {
     return (z >= DUCH && z < WYBUCH) || (z >= TROPICIEL && z < MIOTNIK);
 }
 
-/* One step of time: the stick is tapped, or the trigger, or nothing. */
+/* Where something stands in her way, so that a tap of the stick ends the greeting and does no more. */
+static byte w_mur(void) {
+    byte k;
+    for (k = 0; k < 3 && ceny[znak(tu() + obok[k])] != NIE; ++k) {
+    }
+    return k;
+}
+
+/* One step of time: the stick is tapped, or the trigger, or nothing. The game waits for the first tap. */
 static void krok(byte co) {
     byte i, bylo;
+    if (!dlugosc && co >= CZEKA)
+        co = w_mur();
     if (dlugosc < KROKOW)
         przebieg[dlugosc++] = litery[co];
     drazek = co < CZEKA ? stan_drazka[co] : 15;

@@ -26,6 +26,7 @@ gorny:          .byte   0,$0C,  0,  0,$0C,$0C,$0C,$0C,$18
 dolny:          .byte $06,  0,$06,  0,  0,  0,  0,  0,  0
 LICZBA_POLSKICH = * - dolny
 KOD_L = 108
+SWIATLO = %00101000                     ; the two pixels of a gateway
 
 ; icons of the panel, on the codes of signs that a panel never shows
 ikony:
@@ -36,9 +37,11 @@ ikony:
         .byte %00111000, %01111100, %01010100, %01111100, %00111000, %11111110, %00111000, %01101100  ; life
         .byte %00000000, %11000000, %11111100, %11111111, %11111100, %11000000, %11000000, %11000000  ; flag
 IKONY_BAJTY = * - ikony
+ZERO = 16
 
 .segment "BSS"
 otwarte_wyjscie: .res 8
+blask:  .res 1
 
 .segment "ZEROPAGE"
 zrodlo: .res 2
@@ -61,6 +64,9 @@ zrob_czcionki:
         sta czcionka_panelu + 256,x
         inx
         bne @panel
+        lda #$66                        ; a zero without a stroke
+        sta czcionka_panelu + ZERO * 8 + 3
+        sta czcionka_panelu + ZERO * 8 + 4
         ldx #IKONY_BAJTY - 1
 @ikona: lda ikony,x
         sta czcionka_panelu + IKONA * 8,x
@@ -160,10 +166,16 @@ wez_zestaw:
         bne @krata
         rts
 
-; From now on the exit looks open, whatever the colours of the stage.
+; The exit looks open, whatever the colours of the stage: a light shines in the gateway by turns. Once a frame.
 otworz_wyjscie:
+        lda RTCLOK+2
+        and #16
+        beq :+
+        lda #SWIATLO
+:       sta blask
         ldx #7
 :       lda otwarte_wyjscie,x
+        ora blask
         sta zestaw + WYJSCIE * 8,x
         dex
         bpl :-

@@ -7,6 +7,7 @@
 .include "reguly.inc"
 .export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, blysnij, czekaj_klatke, czekaj_klatki, czysc_tekst
 .export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, kolory
+.import barwa_tekstu
 .import pokaz_nakladke, schowaj_nakladke, plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
 
 .segment "EKRANY"
@@ -212,14 +213,22 @@ co_klatke: cld                             ; the score may be in the middle of a
 ; info line -> board
 dli_plansza:
         pha
+        txa
+        pha
+        tya
+        pha
+        lda #>zestaw                    ; all at hand: the first line of the board begins soon
+        ldx kolory + 5
+        ldy kolory + 6
         sta WSYNC
-        lda #>zestaw
         sta CHBASE
-        lda kolory + 5
-        sta COLPF1
-        lda kolory + 6
-        sta COLPF2
+        stx COLPF1
+        sty COLPF2
         nastepne_dli dli_symbole
+        pla
+        tay
+        pla
+        tax
         pla
         rti
 
@@ -273,8 +282,9 @@ dli_tekst:
         sta CHBASE
         lda #$0C
         sta COLPF1
-        lda #$00
+        lda barwa_tekstu
         sta COLPF2
+        lda #0
         sta COLBK
         nastepne_dli dli_stopka
         pla

@@ -5,10 +5,12 @@
 .importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, reguly_start, takt, rysuj_dorve
 .import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
+.import linia_info, dwie_cyfry
 .import zacznij_panel, rysuj_panel, info_powitanie, info_takt
 .import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, ucisz_muzyke, dodaj_punkty
 
 CZAS_SMIERCI = 50
+PREMIA_KOLUMNA = 26                     ; 17 letters in the middle of 40, the figures last
 ETAPY     = 32
 CH_ESC    = 28
 CH_BRAK   = $FF
@@ -194,11 +196,22 @@ pokaz_strate:
         ldx #CZAS_SMIERCI
         jmp czekaj_klatki
 
+; The bonus for time in figures, at the end of its message.
+pokaz_premie:
+        lda premia
+        jsr dwie_cyfry
+        stx linia_info + PREMIA_KOLUMNA
+        sta linia_info + PREMIA_KOLUMNA + 1
+        rts
+
 ; What is left of the bonus for time turns into points, ten for each.
 policz_premie:
         lda #KOM_PREMIA
         sta komunikat
         jsr info_takt
+        jsr pokaz_premie
+        ldx #25
+        jsr czekaj_klatki
 @licz:  lda premia
         beq @koniec
         dec premia
@@ -208,6 +221,7 @@ policz_premie:
         lda premia
         and #3
         bne @licz
+        jsr pokaz_premie
         lda #EF_MONETA
         jsr zagraj
         jsr rysuj_panel

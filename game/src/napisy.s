@@ -4,7 +4,7 @@
 .include "reguly.inc"
 .export pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi
 .export t_cel, t_grasz, t_klawisze1, t_klawisze2, t_klawisze3, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
-.export t_etap_nr, t_nowy
+.export t_etap_nr, t_nowy, t_dalej
 .exportzp napis
 
 .repeat 64, I
@@ -32,6 +32,7 @@ t_koniec:    tekst "KONIEC GRY"
 t_wynik:     tekst "PUNKTY 000000"
 t_wygrana:   tekst "GRATULACJE!"
 t_wygrana2:  tekst "DORVA PRZESZlA OSTATNI ETAP"
+t_dalej:     tekst "FIRE LUB START - DALEJ"
 t_brak:      tekst "NA PLANSZY NIE MA DORVY"
 t_brak2:     tekst "POSTAW Ja W EDYTORZE I SPRoBUJ ZNOWU"
 t_etap_nr:   tekst "ETAP "
@@ -46,11 +47,12 @@ k_ogien:     tekst "MASZ POCHODNIe!"
 k_zycie:     tekst "DODATKOWE zYCIE!"
 k_pauza:     tekst "PAUZA - OPTION: GRAMY DALEJ"
 k_stracila:  tekst "STRACIlA zYCIE"
-k_premia:    tekst "PREMIA ZA CZAS"
+k_premia:    tekst "PREMIA ZA CZAS 00"
+k_drzwi:     tekst "DRZWI STOJa OTWOREM"
 
 .linecont +
 .define KOMUNIKATY k_klucz, k_klucz, k_maski, k_otwarte, k_bomba, k_stoi, k_rusza, k_ogien, k_zycie, k_pauza, \
-        k_stracila, k_premia
+        k_stracila, k_premia, k_drzwi
 komunikaty_lo: .lobytes KOMUNIKATY
 komunikaty_hi: .hibytes KOMUNIKATY
 

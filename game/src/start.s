@@ -4,14 +4,16 @@
 .import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj, pierwszy_etap
 
 .segment "CODE"
-start:  ldx #$FF
+start:  lda #1
+        sta pierwszy_etap
+wznow:  ldx #$FF
         txs
         cld
         lda #GLOWNA
         sta PORTB
-        lda #<start                     ; RESET comes back here
+        lda #<wznow                     ; RESET comes back here
         sta DOSVEC
-        lda #>start
+        lda #>wznow
         sta DOSVEC+1
         lda #<nic
         sta DOSINI
@@ -21,7 +23,6 @@ start:  ldx #$FF
         sta COLDST
         lda #1
         sta BOOTQ
-        sta pierwszy_etap
         jsr cisza
         jsr ucisz_muzyke
         jsr zrob_czcionki

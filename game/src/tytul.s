@@ -5,12 +5,12 @@
 .include "atari.inc"
 .include "rekord.inc"
 .include "reguly.inc"
-.export tytul, ekran_konca, ekran_wygranej, ekran_bez_dorvy
+.export tytul, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
 .import pierwszy_etap, zacznij_muzyke, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
 .import czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
 .import t_cel, t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
-.import t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
+.import t_dalej, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 
 POLE      = 8                           ; screen column of the field's column 0
 LINIE     = 3
@@ -58,6 +58,8 @@ do_kroku: .res 1        ; frames until her next step
 parzyste: .res 1        ; the two tiles of the frame
 nieparzyste: .res 1
 poczatek: .res 1
+barwa_tekstu: .res 1    ; the colour behind the text
+swieto: .res 1          ; it changes all the time
 
 .segment "CODE"
 
@@ -68,6 +70,8 @@ tytul:  lda pierwszy_etap
         sta do_kroku
         lda #0
         sta droga
+        sta barwa_tekstu
+        sta swieto
         lda #PROSTO
         sta drazek_tytulu
         jsr zacznij_muzyke
@@ -121,17 +125,17 @@ rysuj_tytul:
         jsr dwie_cyfry
         stx ekran + 7 * 40 + 21
         sta ekran + 7 * 40 + 22
-        pisz_w 9, t_cel
-        pisz_w 10, t_grasz
-        pisz_w 12, t_klawisze1
-        pisz_w 13, t_klawisze2
-        pisz_w 14, t_klawisze3
+        pisz_w 8, t_cel
+        pisz_w 9, t_grasz
+        pisz_w 11, t_klawisze1
+        pisz_w 12, t_klawisze2
+        pisz_w 13, t_klawisze3
         jmp pokaz_tekst
 
 ; Game over.
 ekran_konca:
         lda #WYBUCH
-        ldy #NIC
+        ldy #WYBUCH + 3
         jsr rysuj_logo
         pisz_w 4, t_koniec
         jsr pisz_wynik
@@ -139,8 +143,9 @@ ekran_konca:
 
 ; The last stage is behind her.
 ekran_wygranej:
+        inc swieto
         lda #MASKA
-        ldy #NIC
+        ldy #MONETA
         jsr rysuj_logo
         pisz_w 3, t_wygrana
         pisz_w 5, t_wygrana2
@@ -155,12 +160,20 @@ ekran_bez_dorvy:
         pisz_w 6, t_brak2
 ; Shows the screen until fire or START.
 czekaj_na_gracza:
+        pisz_w 12, t_dalej
         jsr zacznij_muzyke
         jsr pokaz_tekst
         jsr czekaj_na_puszczenie
 @czekaj:
         jsr czekaj_klatke
-        jsr wcisniete
+        jsr idz_pod_logo
+        lda swieto
+        beq :+
+        lda RTCLOK+2                    ; the next hue every 32 frames
+        lsr
+        and #$F0
+        sta barwa_tekstu
+:       jsr wcisniete
         bne @czekaj
 czekaj_na_puszczenie:
         jsr czekaj_klatke

@@ -101,6 +101,7 @@ drzwi:  lda klucze
         beq @nie
         dec klucze
         dzwiek EF_DRZWI
+        powiedz KOM_DRZWI
         jmp na_puste
 @nie:   powiedz KOM_KLUCZ
         rts

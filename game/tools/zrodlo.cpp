@@ -80,7 +80,8 @@ Bajty readPlik(const std::filesystem::path& path) {
 }
 
 void writePlik(const std::filesystem::path& path, const Bajty& bytes) {
-    std::filesystem::create_directories(path.parent_path());
+    if (path.has_parent_path())
+        std::filesystem::create_directories(path.parent_path());
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     if (!file.flush())
