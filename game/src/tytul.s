@@ -111,6 +111,7 @@ tytul:  lda pierwszy_etap
         bne @etap
         ldx #ETAPY
 @etap:  stx numer_etapu
+        stx pierwszy_etap
         jmp @od_nowa
 
 ; Shows the title for stage numer_etapu: the logo wears its world and colours.
