@@ -125,20 +125,17 @@ TEST_F(MiejscaPosix, ReadOnlyTreeAndReadOnlyFiles) {
     }
 }
 
-TEST_F(MiejscaPosix, StagesThatMayBeWrittenInAReadOnlyFolder) {
+TEST_F(MiejscaPosix, AStageThatMayBeWrittenInAReadOnlyFolder) {
     fs::permissions(root, fs::perms(0755));
     fs::permissions(base / "ETAPY", fs::perms(0555));
-    for (int number = 1; number <= ETAPY_COUNT; ++number)
-        fs::permissions(etap(number), fs::perms(0666));
-    EXPECT_EQ(asOrdinaryUser([&] {
-                  start();
-                  cell(5, 5) = BOMBA;
-                  SelectEtapNR(e, 1);
-                  EXPECT_TRUE(shown.empty());
-              }),
-              0);
+    fs::permissions(etap(1), fs::perms(0666));
+    const auto status = asOrdinaryUser([&] {
+        start();
+        cell(5, 5) = BOMBA;
+        SelectEtapNR(e, 1);
+    });
+    EXPECT_EQ(status, 0);
     EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 205], 14);
-    EXPECT_EQ(namesIn("ETAPY").size(), 32U);
 }
 
 } // namespace

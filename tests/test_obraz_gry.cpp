@@ -73,20 +73,13 @@ TEST_F(ObrazGry, GameReadsEverythingBeforeItAsks) {
     cmdTest_Click(e);
     EXPECT_TRUE(dialogs.empty());
     EXPECT_TRUE(shown.empty());
+    writeFile(base / "PLIKI/DP2.DTA", sampleSzablon());
+    writeFile(*chosen, {1});
+    answers = {false}; // not over it
+    cmdCreate_Click(e);
+    EXPECT_EQ(readFile(*chosen), Bajty{1});
     EXPECT_FALSE(fs::exists(base / "PLIKI/TEST.XEX"));
     EXPECT_EQ(e.okno.chkOstatni, 0);
-}
-
-TEST_F(ObrazGry, CancelsLeaveFilesAlone) {
-    start();
-    cmdCreate_Click(e);
-    writeFile(root / "stara.xex", {1});
-    chosen = root / "stara.xex";
-    answers = {false};
-    cmdCreate_Click(e);
-    EXPECT_EQ(readFile(root / "stara.xex"), Bajty{1});
-    EXPECT_FALSE(fs::exists(base / "PLIKI/TEST.XEX"));
-    EXPECT_NE(e.OstatniaSciezka, *chosen);
 }
 
 TEST_F(ObrazGry, TestBuildTakesTheBoardAndMarksItLast) {

@@ -25,19 +25,12 @@ TEST_F(PlikiPosix, WriteRefusesWhatCouldNotBeOpened) {
     fs::create_directory(root / "katalog");
     ASSERT_EQ(::mkfifo((root / "potok").c_str(), 0600), 0);
     fs::create_symlink("petla", root / "petla");
-    for (const char* name : {"katalog", "potok", "petla", "brak/plik"})
+    for (const char* name : {"katalog", "potok", "petla", "brak/plik"}) {
         EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, root / name, Bajty{1})) << name;
+        EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root / name, 1)) << name;
+    }
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 4U) << "no temporary file is left";
     EXPECT_TRUE(fs::is_fifo(root / "potok"));
-}
-
-TEST_F(PlikiPosix, ReadNeverHangsAndCreatesTheMissing) {
-    ASSERT_EQ(::mkfifo((root / "potok").c_str(), 0600), 0);
-    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root / "potok", 1));
-    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, "/dev/zero", 1));
-    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root, 1));
-    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root / "nowy", 1));
-    EXPECT_EQ(lengthOf(SYSTEM_PLIKOW, root / "nowy"), 0U);
 }
 
 TEST_F(PlikiPosix, FileSystemsWithoutModeBitsOrHardLinks) {
@@ -77,6 +70,10 @@ TEST_F(PlikiPosix, StartSweepsLeftoversOfTheDeadAlone) {
     start();
     EXPECT_EQ(namesIn("ETAPY").size(), 34U);
     EXPECT_EQ(namesIn("PLIKI"), (std::vector<std::string>{"DP1.DTA", "DP2.DTA"}));
+    writeFile(root / "dorva-999999999.dp-tmp", {1});
+    chosen = root / "etap";
+    cmdSave_Click(e);
+    EXPECT_FALSE(fs::exists(root / "dorva-999999999.dp-tmp")) << "nor do any stay beside a chosen file";
 }
 
 } // namespace

@@ -59,6 +59,10 @@ TEST_F(Tiles, ChangeOfWorldChangesPicturesOnly) {
     EXPECT_EQ(e.okno.imgInfo[0], (ObrazRef{2, DORVA}));
     EXPECT_EQ(e.okno.imgInfo[2], e.okno.imgInfo[3]);
     EXPECT_EQ(e.okno.lblKolor, before.lblKolor);
+    e.okno.optNN = 1;
+    ASSERT_TRUE(SelectObiektyNR(e, 0));
+    EXPECT_EQ(kod(e.okno.imgZnak[5].znak), 133) << "the picker's tiles are INV";
+    ASSERT_TRUE(SelectObiektyNR(e, 2));
     EXPECT_FALSE(SelectObiektyNR(e, 3));
     EXPECT_FALSE(SelectObiektyNR(e, -1) || SetOstatni(e, -1));
     PackEtap(e);
@@ -91,14 +95,14 @@ TEST_F(Tiles, StripsOfOtherSizes) {
 TEST_F(Tiles, ReloadTakesNewColoursOfTheWorldOnShow) {
     start(); // stage 1 stands in world 1
     e.okno.chkZachowajKolory = true;
-    for (const char* name : {"FNT01", "FNT11"})
-        writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".ORN.ND.KOLORY"), {1, 2, 3, 4, 5});
+    writeFile(base / "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY", {6, 7, 8, 9, 10});
+    writeFile(base / "OBIEKTY/ORN_EXPORT/FNT11.ORN.ND.KOLORY", {1, 2, 3, 4, 5});
     const Bajt slot3 = e.okno.lblKolor[3].value;
     cmdReload_Click(e);
     for (std::size_t k = 0; k < 5; ++k)
         EXPECT_EQ(e.okno.lblKolor[4 + k].value, k + 1);
     EXPECT_EQ(e.okno.lblKolor[3].value, slot3);
-    EXPECT_EQ(e.KoloryDomyslne[0][8], 5);
+    EXPECT_EQ(e.KoloryDomyslne[0][8], 10);
     e.okno.chkZachowajKolory = false;
     ASSERT_TRUE(SelectObiektyNR(e, 2));
     cmdResetKolory_Click(e);
