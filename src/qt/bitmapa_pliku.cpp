@@ -4,9 +4,9 @@
 
 #include <QBuffer>
 #include <QImageReader>
-
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <span>
 

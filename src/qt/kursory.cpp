@@ -2,8 +2,8 @@
 
 #include <QBitmap>
 #include <QImage>
-
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace dorva {

@@ -1,8 +1,8 @@
 #include "qt/obrazki.h"
 
 #include <QColor>
-
 #include <algorithm>
+#include <cstddef>
 #include <string>
 
 namespace dorva {

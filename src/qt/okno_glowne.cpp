@@ -7,8 +7,6 @@
 
 #include <QCloseEvent>
 
-#include <utility>
-
 namespace dorva {
 
 OknoGlowne::OknoGlowne(Edytor& e)

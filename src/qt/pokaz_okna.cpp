@@ -9,6 +9,8 @@
 
 #include <QCheckBox>
 #include <QSignalBlocker>
+#include <cstddef>
+#include <string_view>
 
 namespace dorva {
 namespace {

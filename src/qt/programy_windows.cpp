@@ -4,7 +4,7 @@
 #include "system/system_plikow.h"
 
 #include <array>
-#include <string>
+#include <filesystem>
 #include <windows.h>
 
 namespace dorva {

@@ -2,8 +2,8 @@
 
 #include <QFile>
 #include <QWidget>
-
 #include <algorithm>
+#include <cstddef>
 
 namespace dorva {
 namespace {

@@ -3,8 +3,9 @@
 #include <QFileDialog>
 #include <QSocketNotifier>
 #include <QWidget>
-
 #include <csignal>
+#include <filesystem>
+
 #include <sys/socket.h>
 #include <unistd.h>
 

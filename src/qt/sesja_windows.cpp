@@ -10,9 +10,9 @@
 #include <QGuiApplication>
 #include <QStringList>
 #include <QWidget>
-
 #include <algorithm>
 #include <cstddef>
+#include <filesystem>
 
 namespace dorva {
 
