@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QImageReader>
+
 #include <algorithm>
 #include <array>
 #include <cstdint>

@@ -2,6 +2,7 @@
 
 #include <QBitmap>
 #include <QImage>
+
 #include <array>
 #include <cstddef>
 #include <string_view>

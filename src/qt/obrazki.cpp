@@ -1,6 +1,7 @@
 #include "qt/obrazki.h"
 
 #include <QColor>
+
 #include <algorithm>
 #include <cstddef>
 #include <string>

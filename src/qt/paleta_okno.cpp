@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QWindow>
+
 #include <cstddef>
 #include <utility>
 

@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QSignalBlocker>
+
 #include <cstddef>
 #include <string_view>
 

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QProcess>
+
 #include <filesystem>
 
 namespace dorva {

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QWidget>
+
 #include <algorithm>
 #include <cstddef>
 

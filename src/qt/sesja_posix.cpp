@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QSocketNotifier>
 #include <QWidget>
+
 #include <csignal>
 #include <filesystem>
 

@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QStringList>
 #include <QWidget>
+
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>

@@ -22,6 +22,7 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
+
 #include <string_view>
 
 namespace dorva {
