@@ -115,7 +115,7 @@ windows() {
         scripts/windows.sh --tests
     fi
 }
-summary_windows() { grep -E 'skipped|PASSED|logic only|all well' "$1" | tail -n 3 | paste -sd';' | sed 's/;/; /g'; }
+summary_windows() { grep -E '^windows: skipped|PASSED|logic only|all well' "$1" | tail -n 3 | paste -sd';' | sed 's/;/; /g'; }
 
 # The sample game in the emulator, where there is one.
 play() {

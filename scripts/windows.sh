@@ -19,6 +19,7 @@ done
 # Wine for tests: a folder of its own, no window of its own, no word but the program's.
 export WINEPREFIX="$PWD/$build/wine" WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
 libraries=$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)
+trap 'wineserver -k 2>/dev/null || true' EXIT # nothing of it goes on running
 export WINEPATH="${libraries%/*};/usr/x86_64-w64-mingw32/lib"
 
 logic_tests() {
