@@ -25,16 +25,26 @@ protected:
 };
 
 TEST_F(Windows, AHolderOfAMomentIsWaitedFor) {
-    for (::DWORD share : SHARES) {
+    const auto whileHeld = [&](::DWORD share, auto call) {
         ::HANDLE held = hold(etap(1), share);
         std::thread holder([held] {
             ::Sleep(60);
             ::CloseHandle(held);
         });
-        EXPECT_TRUE(writeWhole(SYSTEM_PLIKOW, etap(1), Bajty{9})) << share;
+        EXPECT_TRUE(call()) << share;
         holder.join();
+    };
+    for (::DWORD share : SHARES) {
+        whileHeld(share, [&] { return writeWhole(SYSTEM_PLIKOW, etap(1), Bajty{9}); });
         EXPECT_EQ(readFile(etap(1)), Bajty{9});
+        whileHeld(share, [&] { return SYSTEM_PLIKOW.remove(etap(1)) == Wynik::Ok; });
+        writeFile(etap(1), {1});
     }
+    whileHeld(FILE_SHARE_DELETE, [&] { // the name stays taken until the last holder lets go
+        Uchwyt file{};
+        return SYSTEM_PLIKOW.remove(etap(1)) == Wynik::Ok &&
+               SYSTEM_PLIKOW.open(etap(1), Otwarcie::Nowy, file) == Wynik::Ok && SYSTEM_PLIKOW.close(file) == Wynik::Ok;
+    });
 }
 
 TEST_F(Windows, AHolderForGoodAndAReadOnlyFileAreRefusals) {

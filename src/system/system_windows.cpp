@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <limits>
 #include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 #include <windows.h>
 
@@ -144,6 +146,10 @@ Wynik rename(const fs::path& from, const fs::path& to) {
     return wynik == Wynik::Odmowa ? Wynik::Blad : wynik;
 }
 
+Wynik remove(const fs::path& path) {
+    return patiently([&] { return done(::DeleteFileW(path.c_str())); }, false);
+}
+
 Wynik list(const fs::path& folder, std::vector<fs::path>& names) {
     ::WIN32_FIND_DATAW entry{};
     ::HANDLE listing = ::FindFirstFileW((folder / L"*").c_str(), &entry);
@@ -175,7 +181,7 @@ const SystemPlikow SYSTEM_PLIKOW{
     .rename = rename,
     .link = [](const fs::path& from,
                const fs::path& to) { return done(::CreateHardLinkW(to.c_str(), from.c_str(), nullptr)); },
-    .remove = [](const fs::path& path) { return done(::DeleteFileW(path.c_str())); },
+    .remove = remove,
     .flushFolder = [](const fs::path&) { return Wynik::Ok; }, // renaming writes through
     .list = list,
 };

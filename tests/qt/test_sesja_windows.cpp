@@ -33,7 +33,7 @@ protected:
     }
 };
 
-TEST_F(SesjaWindows, TheLauncherTakesAnyEmulatorOfItsFolderBeforeThoseInThePath) {
+TEST_F(SesjaWindows, TheLauncherTakesAnEmulatorOfItsFolderElseOneInThePathElseTellsThereIsNone) {
     open();
     const auto here = base.u8string();
     const std::string place = std::string(here.begin(), here.end()) + '\n';
@@ -49,6 +49,8 @@ TEST_F(SesjaWindows, TheLauncherTakesAnyEmulatorOfItsFolderBeforeThoseInThePath)
     EXPECT_FALSE(fs::exists(elsewhere / "wywolanie"));
     fs::remove_all(beside);
     EXPECT_EQ(launchedIn(elsewhere), place + "-xe -nobasic -win-width 1008 -win-height 720 -run PLIKI\\TEST.XEX\n");
+    fs::rename(elsewhere / "atari800.exe", elsewhere / "powershell.exe"); // what shows the message
+    EXPECT_NE(launchedIn(elsewhere).find("Nie ma emulatora Atari. Pobierz"), std::string::npos);
     ::SetEnvironmentVariableW(L"PATH", path.toStdWString().c_str());
 }
 
