@@ -165,6 +165,20 @@ wait "$program" || true
 program=''
 expect "the end of the session stores the stage" eval "! cmp -s '$room/before' '$folder/ETAPY/DETAP.1'"
 
+# Killed while it goes to and fro between stages and stores them; what is left over is swept by the next start.
+cp -r "$folder/ETAPY" "$room/stages"
+for moment in 0.2 0.4 0.6 0.8; do
+    start_windows
+    press "optEtapNR(0)"
+    xdotool key --delay 1 --repeat-delay 4 --repeat 250 Down Up &
+    keys=$!
+    sleep $moment
+    kill -9 "$program"
+    wait "$program" "$keys" || true
+    program=''
+    expect "a kill leaves whole stages" diff -r -x '*.dp-tmp' "$room/stages" "$folder/ETAPY"
+done
+
 for dpi in 120 144 192; do
     set_dpi $dpi
     start_windows
@@ -176,5 +190,5 @@ for dpi in 120 144 192; do
 done
 set_dpi 96
 expect "no dialog is kept in the registry" eval "! grep -q 'QtProject.*FileDialog' '$WINEPREFIX/user.reg'"
-expect "nor half a file" [ -z "$(find "$folder" -name '*.kopia*' -o -name '*.dp-tmp')" ]
+expect "nor a leftover" [ -z "$(find "$folder" -name '*.kopia*' -o -name '*.dp-tmp')" ]
 echo "windows-check: all well; $(du -h "$zip" | cut -f 1) zipped"

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds Qt for Windows, once, from Debian's own source package and into the user's cache. Only what the window
-# (core, gui, widgets) and its tests (testlib) need; shared libraries. An hour and more on two cores.
+# (core, gui, widgets) and its tests (testlib) need; shared libraries. Roughly an hour on two cores.
 # --where: only prints the folder, whether anything is in it or not.
 set -eu
 

@@ -1,6 +1,6 @@
 #!/bin/sh
 # The Windows version, made on Debian 12: build/windows/dorva-planszownik-<version>-windows-x64.zip. Installs the tools,
-# builds Qt once into the user's cache (windows-qt.sh: an hour and more), then the program.
+# builds Qt once into the user's cache (windows-qt.sh: roughly an hour), then the program.
 # --tests: only the logic's tests, under Wine; they need no Qt.
 # --check: makes the zip, then runs the logic's tests, the window's tests and the program from the zip under Wine.
 # --have-qt: only tells by its status whether Qt is there.

@@ -40,11 +40,6 @@ TEST_F(Windows, AHolderOfAMomentIsWaitedFor) {
         whileHeld(share, [&] { return SYSTEM_PLIKOW.remove(etap(1)) == Wynik::Ok; });
         writeFile(etap(1), {1});
     }
-    whileHeld(FILE_SHARE_DELETE, [&] { // the name stays taken until the last holder lets go
-        Uchwyt file{};
-        return SYSTEM_PLIKOW.remove(etap(1)) == Wynik::Ok &&
-               SYSTEM_PLIKOW.open(etap(1), Otwarcie::Nowy, file) == Wynik::Ok && SYSTEM_PLIKOW.close(file) == Wynik::Ok;
-    });
 }
 
 TEST_F(Windows, AHolderForGoodAndAReadOnlyFileAreRefusals) {
