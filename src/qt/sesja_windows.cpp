@@ -6,6 +6,7 @@
 #include "system/wzorzec.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QStringList>
@@ -25,7 +26,7 @@ void prepareFolder(const std::filesystem::path& folder) {
         return;
     QStringList names;
     for (std::size_t i = 0; i < std::min(refused.size(), NAMES_MAX); ++i)
-        names += nameOfPath(folder / refused[i]);
+        names += QDir::toNativeSeparators(nameOfPath(folder / refused[i]));
     if (refused.size() > NAMES_MAX)
         names += "...";
     const auto text = QString("Nie udało się zapisać:\n%1\nRozpakuj Planszownik tam, gdzie możesz tworzyć pliki.")
