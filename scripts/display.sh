@@ -29,10 +29,14 @@ close_display() {
     done
 }
 
-# Sets window to the editor's own.
+# Sets window to the editor's own, once it is there. Another window that closes meanwhile ends a search with an error.
 find_window() {
-    window=$(timeout 20 xdotool search --sync --onlyvisible --name '^Dorva Planszownik \[' | head -n 1)
-    [ -n "$window" ]
+    for _ in $(seq 100); do
+        window=$(xdotool search --onlyvisible --name '^Dorva Planszownik \[' 2>/dev/null | head -n 1) || true
+        [ -z "$window" ] || return 0
+        sleep 0.2
+    done
+    return 1
 }
 
 # Where controls are pressed, in pixels: free of the text in boxes.

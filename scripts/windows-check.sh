@@ -176,6 +176,7 @@ for moment in 0.2 0.4 0.6 0.8; do
     kill -9 "$program"
     wait "$program" "$keys" || true
     program=''
+    sleep 0.5 # its window goes
     expect "a kill leaves whole stages" diff -r -x '*.dp-tmp' "$room/stages" "$folder/ETAPY"
 done
 
