@@ -71,9 +71,13 @@ TEST_F(Dialogi, NamesFiltersAndWhereTheNextOneStarts) {
                        {cmdCreate_Click, "Dorva - wyprawy.xex", "Plik gry|*.xex|Wszystkie pliki (*.*)|*.*"}};
     start();
     SelectEtapNR(e, 6);
+    writeFile(root / "archiwum", sampleArchiwum());
+    writeFile(root / "etap", sampleEtap(7));
     fs::path last = fs::canonical(root);
     for (const Dialog& d : all) {
-        chosen = root / (d.operation == cmdSaveArch_Click || d.operation == cmdLoadArch_Click ? "a.dpa" : "plik");
+        chosen = root / (d.operation == cmdLoadArch_Click ? "archiwum"
+                         : d.operation == cmdLoad_Click   ? "etap"
+                                                          : d.name);
         d.operation(e);
         EXPECT_EQ(dialogs.back().name, d.name);
         EXPECT_EQ(dialogs.back().filter, d.filter);

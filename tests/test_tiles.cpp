@@ -119,7 +119,8 @@ TEST_F(Tiles, PaletteFileOrBuiltInTable) {
     EXPECT_EQ(e.Paleta, PaletaWbudowana);
     writeFile(base / "PLIKI/PALETY/Bitwor.act", Bajty(800, 3));
     LoadPaleta(e);
-    EXPECT_EQ(e.Paleta[255], (Rgb{3, 3, 3}));
+    for (Rgb colour : e.Paleta)
+        EXPECT_EQ(colour, (Rgb{3, 3, 3}));
     writeFile(base / "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY", Bajty(4, 99));
     LoadKolory(e, 0);
     EXPECT_EQ(e.KoloryDomyslne[0][4], 10);
