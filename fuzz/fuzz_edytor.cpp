@@ -146,10 +146,13 @@ void checkPack(Edytor e) {
         const int code = first[uklad::PLANSZA + static_cast<std::size_t>(i)];
         SPRAWDZ(code != kod(DORVA_INV) && (!isEdge(i) || code == 0 || code == 5 || code == 6 || code == wall));
     }
+    SPRAWDZ(e.okno.lblInfo[info::CEL_MASEK].liczba == e.okno.hscMonet);
     for (info::Figura unikat : {info::DORVA, info::WYJSCIE, info::MASZYNY, info::POCHODNIA}) {
         const Znak z = ZNAKI_INFO[unikat];
-        SPRAWDZ(e.okno.imgZnak[static_cast<std::size_t>(kod(z))].enabled == (e.okno.lblInfo[unikat].liczba == 0));
-        SPRAWDZ(e.okno.lblInfo[unikat].liczba == 0 || e.okno.imgBufor.znak != z);
+        const bool stands =
+            std::ranges::any_of(e.okno.imgPG, [&](const auto& cell) { return kod(cell.znak) % INV == kod(z); });
+        SPRAWDZ(e.okno.imgZnak[static_cast<std::size_t>(kod(z))].enabled == !stands &&
+                !(stands && e.okno.imgBufor.znak == z));
     }
 }
 

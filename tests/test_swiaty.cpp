@@ -132,6 +132,7 @@ enum Srodek { BOMBY, SKRZYNIE, MAGIA, KLUCZE, BRODZENIE, BAGNA, PLOMIENIE };
 struct Zasieg {
     int maski = 0, klucze = 0;
     bool wyjscie = false;
+    std::set<int> drzwi; // doors that have stopped her
     bool isEnough(const Bajty& etap) const { return wyjscie && maski >= etap[uklad::CEL_MASEK]; }
 };
 
@@ -144,8 +145,8 @@ bool isSolid(int code, const std::set<Srodek>& bez) {
 }
 
 // How far she may get at best without some of the means, the others given without end. A swamp takes her after three
-// cells where no crate fills it.
-Zasieg findZasieg(const Bajty& etap, const std::set<Srodek>& bez) {
+// cells where no crate fills it; without keys, some doors may have been opened.
+Zasieg findZasieg(const Bajty& etap, const std::set<Srodek>& bez, const std::set<int>& otwarte = {}) {
     std::vector<int> magiczne;
     int start = 0;
     for (int cell = 0; cell < PLANSZA_CELLS; ++cell) {
@@ -164,8 +165,11 @@ Zasieg findZasieg(const Bajty& etap, const std::set<Srodek>& bez) {
             const int code = codeAt(etap, 0, beside);
             zasieg.wyjscie |= code == kod(WYJSCIE);
             const int deep = code == 49 && bez.contains(SKRZYNIE) ? bagno + 1 : 0;
-            if (isEdge(beside) || isSolid(code, bez) || deep > 3)
+            if (isEdge(beside) || (isSolid(code, bez) && !otwarte.contains(beside)) || deep > 3) {
+                if (code == kod(DRZWI))
+                    zasieg.drzwi.insert(beside);
                 continue;
+            }
             const auto magiczny = std::find(magiczne.begin(), magiczne.end(), beside);
             if (magiczny != magiczne.end() && !bez.contains(MAGIA))
                 beside = magiczne.at(static_cast<std::size_t>(magiczny - magiczne.begin()) ^ 1U);
@@ -179,6 +183,17 @@ Zasieg findZasieg(const Bajty& etap, const std::set<Srodek>& bez) {
     return zasieg;
 }
 
+// Whatever doors she opens first, a key is left until she has all that she needs.
+bool isSafeToOpen(const Bajty& etap, const std::set<int>& otwarte = {}) {
+    const Zasieg zasieg = findZasieg(etap, {KLUCZE}, otwarte);
+    return zasieg.isEnough(etap) || (zasieg.klucze > static_cast<int>(otwarte.size()) &&
+                                     std::all_of(zasieg.drzwi.begin(), zasieg.drzwi.end(), [&](int drzwi) {
+                                         std::set<int> next = otwarte;
+                                         next.insert(drzwi);
+                                         return isSafeToOpen(etap, next);
+                                     }));
+}
+
 // The recorded runs prove that each stage can be finished; this, that none can be without its tools: one of them from
 // stage 9 on, two from stage 20 on. Keys are a tool where a key lies behind a door.
 TEST(Etapy, EachAsksForItsTools) {
@@ -188,6 +203,7 @@ TEST(Etapy, EachAsksForItsTools) {
         const Bajty etap = readEtap(number);
         const Zasieg wszystko = findZasieg(etap, {});
         EXPECT_TRUE(wszystko.isEnough(etap)) << number;
+        EXPECT_TRUE(isSafeToOpen(etap)) << number << ": a door that no key is left for";
         int narzedzia = 0;
         for (Srodek srodek : {BOMBY, SKRZYNIE, MAGIA, KLUCZE}) {
             const Zasieg bez = findZasieg(etap, {srodek});

@@ -25,7 +25,7 @@ klatka:  .res 1         ; the frame that the tick began in
 spoznione: .res 1       ; ticks that took longer than their frame: none, and scripts/play-check.sh looks
 
 .segment "BSS"
-pierwszy_etap: .res 1   ; the stage that the game began with
+pierwszy_etap: .res 1   ; the stage that the player has chosen
 do_panelu: .res 1       ; frames until the panel is written again
 powitanie_trwa: .res 1
 pauza:   .res 1
@@ -34,9 +34,7 @@ byly_klawisze: .res 1   ; console keys that were down in the frame before
 .segment "CODE"
 
 ; Plays from stage numer_etapu on, to the end of the game.
-graj:   lda numer_etapu
-        sta pierwszy_etap
-        lda #0
+graj:   lda #0
         sta spoznione
         jsr ucisz_muzyke
         jsr nowa_gra

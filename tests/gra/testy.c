@@ -1,14 +1,18 @@
 /* Tests of the rules. `testy GROUP` runs one group and ends with the number of failed checks.
 
-   Most of a group is a table. A row lays a board, makes moves and looks at the board and at figures:
-     board    rows of letters with '/' between them, from cell (1, 1) on, walls round about; `~` makes the next tile
-   INV. `2:` in front is the goal, else 1. A row without a board goes on where the last one ended. moves    L R U D a
-   tap of the stick, so one step; B a tap of the trigger; - a step's time; a number: ticks. l r u d b hold the stick or
-   the trigger on; `.` lets all go. `=e50` sets a figure. ':' a new stage begins,
-              '!' the try is lost and the board laid anew.
-     after    what must stand where, `#` anything; D is the heroine in any form
-     figures  letters of `liczby` with their values, h her column, f her form, x hundreds of points, j whether she is
-   there */
+   Most of a group is a table. A row lays a board, makes moves and looks at the board and at figures.
+
+   Board: rows of letters with '/' between them, from cell (1, 1) on, walls round about; `~` makes the next tile INV.
+   `2:` in front is the goal, else 1. A row without a board goes on where the last one ended.
+
+   Moves: L R U D a tap of the stick, so one step; B a tap of the trigger; - a step's time; a number: ticks. l r u d b
+   hold the stick or the trigger on; `.` lets all go. `=e50` sets a figure. `:` a new stage begins; `!` the try is lost
+   and the board laid anew.
+
+   Board after: what must stand where, `#` anything; D is the heroine in any form.
+
+   Figures: letters of `liczby` with their values, h her column; f her form, x hundreds of points, j whether she is
+   there. */
 #include "reguly.h"
 #include <ctype.h>
 #include <stdio.h>
