@@ -165,7 +165,7 @@ wait "$program" || true
 program=''
 expect "the end of the session stores the stage" eval "! cmp -s '$room/before' '$folder/ETAPY/DETAP.1'"
 
-# Killed while it goes to and fro between stages and stores them; what is left over is swept by the next start.
+# Killed while it goes to and fro between stages and stores them; what is left over is swept by a start an hour later.
 cp -r "$folder/ETAPY" "$room/stages"
 for moment in 0.2 0.4 0.6 0.8; do
     start_windows
@@ -178,6 +178,7 @@ for moment in 0.2 0.4 0.6 0.8; do
     program=''
     sleep 0.5 # its window goes
     expect "a kill leaves whole stages" diff -r -x '*.dp-tmp' "$room/stages" "$folder/ETAPY"
+    find "$folder" -name '*.dp-tmp' -exec touch -d '61 minutes ago' {} +
 done
 
 for dpi in 120 144 192; do

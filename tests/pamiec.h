@@ -6,6 +6,7 @@
 #include "system/system_plikow.h"
 
 #include <algorithm>
+#include <chrono>
 #include <map>
 #include <memory>
 #include <string>
@@ -124,6 +125,7 @@ inline Wynik describe(const PlikRef& plik, OpisPliku& opis) {
     opis.number = reinterpret_cast<std::uintptr_t>(plik.get());
     const auto isName = [&](const auto& entry) { return entry.second == plik; };
     opis.names = static_cast<std::uint64_t>(std::ranges::count_if(pamiec.nazwy, isName));
+    opis.age = std::chrono::hours(2);
     return Wynik::Ok;
 }
 
@@ -201,17 +203,14 @@ inline Wynik readLink(const Sciezka& path, Sciezka& target) {
     return Wynik::Ok;
 }
 
-inline Wynik linkName(const Sciezka& from, const Sciezka& to) {
-    if (pamiec.find(to))
-        return Wynik::Zajete;
-    pamiec.setName(to, pamiec.find(from));
-    return Wynik::Ok;
-}
-
 inline Wynik moveName(const Sciezka& from, const Sciezka& to) {
     pamiec.setName(to, pamiec.find(from));
     pamiec.setName(from, nullptr);
     return Wynik::Ok;
+}
+
+inline Wynik moveNewName(const Sciezka& from, const Sciezka& to) {
+    return pamiec.find(to) ? Wynik::Zajete : moveName(from, to);
 }
 
 inline Wynik removeName(const Sciezka& path) {
@@ -245,12 +244,12 @@ inline const SystemPlikow* systemPamieci() {
         .flush = mayFail<flushFile>,
         .close = closeFile,
         .describe = mayFail<describeFile>,
-        .setMode = [](Uchwyt, unsigned) { return Wynik::Ok; },
+        .makeLike = [](Uchwyt, const OpisPliku&) { return Wynik::Ok; },
         .stat = mayFail<statPath>,
         .lstat = mayFail<lstatPath>,
         .readLink = mayFail<readLink>,
         .rename = mayFail<moveName>,
-        .link = mayFail<linkName>,
+        .renameNew = mayFail<moveNewName>,
         .remove =
             [](const Sciezka& path) {
                 const Wynik wynik = mayFail<removeName>(path);

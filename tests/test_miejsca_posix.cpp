@@ -34,7 +34,8 @@ TEST_F(MiejscaPosix, LinkedStageStaysLinked) {
     fs::create_directory(root / "dysk");
     fs::rename(etap(2), root / "dysk/drugi");
     fs::create_symlink("../../dysk/drugi", etap(2));
-    writeFile(root / "dysk/dorva-999999999.dp-tmp", {1});
+    writeFile(root / "dysk/dorva-1.dp-tmp", {1});
+    fs::last_write_time(root / "dysk/dorva-1.dp-tmp", fs::file_time_type::clock::now() - std::chrono::hours(2));
     fs::remove(etap(3));
     fs::create_symlink("../../dysk/trzeci", etap(3));
     fs::create_hard_link(etap(4), root / "dysk/czwarty");
@@ -81,11 +82,12 @@ TEST_F(MiejscaPosix, PipesAndDevicesAreLeftAloneAndNeverHang) {
     expectNoLeftovers();
 }
 
+constexpr int NOBODY = 65534;
+
 // Runs `work` as an ordinary user where this is root: modes mean nothing to root.
 int asOrdinaryUser(const std::function<void()>& work) {
     const ::pid_t child = ::fork();
     if (child == 0) {
-        constexpr int NOBODY = 65534;
         if (::geteuid() == 0 && (::setgid(NOBODY) != 0 || ::setuid(NOBODY) != 0))
             ::_exit(2);
         work();
@@ -129,12 +131,18 @@ TEST_F(MiejscaPosix, AStageThatMayBeWrittenInAReadOnlyFolder) {
     fs::permissions(root, fs::perms(0755));
     fs::permissions(base / "ETAPY", fs::perms(0555));
     fs::permissions(etap(1), fs::perms(0666));
+    fs::permissions(base / "PLIKI", fs::perms(0777));
+    const auto linie = base / "PLIKI/DP1.DTA";
+    fs::permissions(linie, fs::perms(0660));
+    const bool foreignGroup = ::chown(linie.c_str(), NOBODY, 0) == 0; // only root may
     const auto status = asOrdinaryUser([&] {
         start();
         cell(5, 5) = BOMBA;
         SelectEtapNR(e, 1);
+        EXPECT_TRUE(writeAutorGry(e));
     });
     EXPECT_EQ(status, 0);
+    EXPECT_EQ(fs::status(linie).permissions(), fs::perms(foreignGroup ? 0600 : 0660)) << "not for its new group";
     EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 205], 14);
 }
 

@@ -33,32 +33,43 @@ TEST_F(Pliki, ListingThatBreaksOffGivesNoNames) {
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, ".ND").size(), 2U);
 }
 
-TEST_F(Pliki, InterruptedCallsAreAskedAgain) {
-    static int calls = 0;
-    SystemPlikow system = SYSTEM_PLIKOW;
-    system.read = [](Uchwyt file, std::span<Bajt> bytes, std::size_t& count) {
-        return ++calls % 2 ? Wynik::Przerwane : SYSTEM_PLIKOW.read(file, bytes, count);
-    };
-    system.write = [](Uchwyt file, std::span<const Bajt> bytes, std::size_t& count) {
-        return ++calls % 2 ? Wynik::Przerwane : SYSTEM_PLIKOW.write(file, bytes, count);
-    };
+TEST_F(Pliki, ANameWithoutAFolder) {
     fs::current_path(root);
-    ASSERT_TRUE(writeWhole(system, "plik", Bajty{4, 5})) << "a name without a folder";
-    EXPECT_EQ(readOrCreate(system, root / "plik", 2), (Bajty{4, 5}));
+    ASSERT_TRUE(writeWhole(SYSTEM_PLIKOW, "plik", Bajty{4, 5}));
+    EXPECT_EQ(readUpTo(SYSTEM_PLIKOW, root / "plik", 3), (Bajty{4, 5}));
 }
 
-TEST_F(Pliki, WhatCannotBeKeptIsNotReplaced) {
+// Another program writes to the file, or makes it, while the new content is flushed.
+TEST_F(Pliki, WhatComesBetweenIsKept) {
+    static fs::path between;
+    between = root / "plik";
+    SystemPlikow system = SYSTEM_PLIKOW;
+    system.flush = [](Uchwyt file) {
+        writeFile(std::exchange(between, "/brak/plik"), {7});
+        return SYSTEM_PLIKOW.flush(file);
+    };
+    EXPECT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{1}, {}));
+    EXPECT_EQ(readFile(root / "plik.kopia"), Bajty{7});
+    between = root / "plik";
+    EXPECT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{2}, Bajty{1}));
+    EXPECT_EQ(readFile(root / "plik.kopia2"), Bajty{7});
+    EXPECT_EQ(readFile(root / "plik"), Bajty{2});
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 4U);
+}
+
+TEST_F(Pliki, WhatCannotBeCopiedIsMovedOrNotReplaced) {
+    SystemPlikow taken = SYSTEM_PLIKOW, unmoved = SYSTEM_PLIKOW;
+    taken.renameNew = answer<Wynik::Zajete>;
+    unmoved.rename = answer<Wynik::Blad>;
     writeFile(root / "plik", {1});
-    SystemPlikow taken = SYSTEM_PLIKOW, linkless = SYSTEM_PLIKOW;
-    taken.link = answer<Wynik::Zajete>;
-    linkless.link = answer<Wynik::Odmowa>;
     EXPECT_FALSE(writeKeepingUnknown(taken, root / "plik", Bajty{2}, {})) << "another program took the copy's name";
     fs::resize_file(root / "plik", 100U << 20U);
-    EXPECT_FALSE(writeKeepingUnknown(linkless, root / "plik", Bajty{2}, {})) << "too long to be copied";
-    EXPECT_TRUE(writeKeepingUnknown(SYSTEM_PLIKOW, root / "plik", Bajty{2}, {})) << "a second name needs no copying";
+    EXPECT_FALSE(writeKeepingUnknown(unmoved, root / "plik", Bajty{2}, {}));
+    EXPECT_EQ(fs::file_size(root / "plik"), 100U << 20U) << "too long to be copied, and back at its place";
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 2U);
+    EXPECT_TRUE(writeKeepingUnknown(SYSTEM_PLIKOW, root / "plik", Bajty{2}, {}));
     EXPECT_EQ(fs::file_size(root / "plik.kopia"), 100U << 20U);
-    EXPECT_TRUE(writeKeepingUnknown(linkless, root / "nowy", Bajty{2}, {}));
-    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 4U);
+    EXPECT_EQ(readFile(root / "plik"), Bajty{2});
 }
 
 TEST_F(Pliki, ARenameThatIsCarriedOutAndAnsweredByAnErrorKeepsTheCopy) {

@@ -8,17 +8,25 @@
 namespace dorva::test {
 namespace {
 
+constexpr ::uid_t OTHER = 12345;
+
 class PlikiPosix : public Pulpit {};
 
 TEST_F(PlikiPosix, WriteKeepsModeAndLinks) {
     const auto file = root / "plik", link = root / "dowiazanie";
     writeFile(file, {1, 2, 3});
     fs::permissions(file, fs::perms(0640));
+    (void)::chown(file.c_str(), OTHER, OTHER); // only root may
+    struct ::stat before {
+    }, now{};
+    ::stat(file.c_str(), &before);
     fs::create_symlink("plik", link);
     ASSERT_TRUE(writeWhole(SYSTEM_PLIKOW, link, Bajty{9}));
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(readFile(file), Bajty{9});
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+    ::stat(file.c_str(), &now);
+    EXPECT_EQ(std::tuple(now.st_mode, now.st_uid, now.st_gid),
+              std::tuple(before.st_mode, before.st_uid, before.st_gid));
 }
 
 TEST_F(PlikiPosix, WriteRefusesWhatCouldNotBeOpened) {
@@ -33,10 +41,13 @@ TEST_F(PlikiPosix, WriteRefusesWhatCouldNotBeOpened) {
     EXPECT_TRUE(fs::is_fifo(root / "potok"));
 }
 
-TEST_F(PlikiPosix, FileSystemsWithoutModeBitsOrHardLinks) {
+TEST_F(PlikiPosix, FileSystemsWithoutModeBits) {
     SystemPlikow system = SYSTEM_PLIKOW;
-    system.setMode = [](Uchwyt, unsigned) { return Wynik::Odmowa; };
-    system.link = [](const fs::path&, const fs::path&) { return Wynik::Odmowa; };
+    system.makeLike = [](Uchwyt file, const OpisPliku& other) {
+        OpisPliku own;
+        SYSTEM_PLIKOW.describe(file, own);
+        return own.mode == other.mode ? Wynik::Ok : Wynik::Odmowa;
+    };
     ::umask(022);
     writeFile(root / "plik", {1});
     ASSERT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{2}, {}));
@@ -61,19 +72,22 @@ TEST_F(PlikiPosix, ExistenceAndSameness) {
     EXPECT_TRUE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / "petla")) << "can't be told";
 }
 
-TEST_F(PlikiPosix, StartSweepsLeftoversOfTheDeadAlone) {
-    for (const char* name : {"dorva-999999999.dp-tmp", "dorva-.dp-tmp"})
-        writeFile(base / "ETAPY" / name, {1});
-    writeFile(base / "PLIKI" / ("dorva-" + std::to_string(::getpid()) + ".dp-tmp"), {1});
-    writeFile(base / "ETAPY/dorva-1.dp-tmp", {1}); // process 1 always lives
-    writeFile(base / "ETAPY/moje.dp-tmp", {1});
+TEST_F(PlikiPosix, StartSweepsOldLeftoversAlone) {
+    const auto leave = [](const fs::path& path, std::chrono::minutes age) {
+        writeFile(path, {1});
+        fs::last_write_time(path, fs::file_time_type::clock::now() - age);
+    };
+    leave(base / "ETAPY/dorva-1.dp-tmp", std::chrono::minutes(61));
+    leave(base / "ETAPY/dorva-2.dp-tmp", std::chrono::minutes(59)); // it may be at work, on another machine
+    leave(base / "ETAPY/moje.dp-tmp", std::chrono::minutes(61));
+    leave(base / "PLIKI/dorva-2.dp-tmp", std::chrono::minutes(61));
+    leave(root / "dorva-1.dp-tmp", std::chrono::minutes(61));
     start();
     EXPECT_EQ(namesIn("ETAPY").size(), 34U);
     EXPECT_EQ(namesIn("PLIKI"), (std::vector<std::string>{"DP1.DTA", "DP2.DTA"}));
-    writeFile(root / "dorva-999999999.dp-tmp", {1});
     chosen = root / "etap";
     cmdSave_Click(e);
-    EXPECT_FALSE(fs::exists(root / "dorva-999999999.dp-tmp")) << "nor do any stay beside a chosen file";
+    EXPECT_FALSE(fs::exists(root / "dorva-1.dp-tmp")) << "nor do any stay beside a chosen file";
 }
 
 } // namespace

@@ -74,10 +74,7 @@ TEST_F(Windows, LongPathsWorkOrFailAsAWhole) {
     EXPECT_TRUE(listNames(SYSTEM_PLIKOW, folder, "").empty());
 }
 
-TEST_F(Windows, ProcessesAreKnownByNumber) {
-    EXPECT_TRUE(isRunning(ownNumber()));
-    EXPECT_FALSE(isRunning(0));
-    EXPECT_FALSE(isRunning(0xFFFFFFF0));
+TEST_F(Windows, TheProgramKnowsItsOwnFile) {
     EXPECT_EQ(ownExecutable().filename(), "dorva_tests.exe");
 }
 

@@ -38,13 +38,14 @@ bool readAutorGry(Edytor& e) {
     if (*length != AUTOR_GRY_SIZE_BYTES)
         for (int i = 0; i < LINIE_COUNT; ++i)
             SetTekst(e.okno, poleLinii(i), {});
+    const Bajty bytes = readUpTo(*e.system, pathOf(e), AUTOR_GRY_SIZE_BYTES).value_or(Bajty());
     for (int i = 0; i < LINIE_COUNT; ++i) {
+        const std::size_t start = i * LINIA_WIDTH, end = start + LINIA_WIDTH;
         SetTekst(e.okno, poleLinii(i), {});
-        const auto bytes = readFirst(*e.system, pathOf(e), (i + 1) * LINIA_WIDTH);
-        if (!bytes)
+        if (bytes.size() < end)
             return false;
-        SetTekst(e.okno, poleLinii(i), Tekst::fromBytes(std::span(*bytes).subspan(i * LINIA_WIDTH)));
-        e.znanyAutorGry = bytes;
+        SetTekst(e.okno, poleLinii(i), Tekst::fromBytes(std::span(bytes).subspan(start, LINIA_WIDTH)));
+        e.znanyAutorGry = Bajty(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(end));
     }
     return true;
 }

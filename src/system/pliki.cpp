@@ -1,9 +1,9 @@
 #include "system/pliki.h"
 
-#include "system/proces.h"
 #include "system/system_plikow.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -23,6 +23,7 @@ namespace fs = std::filesystem;
 constexpr std::uintmax_t WHOLE_MAX_BYTES = 64 << 20; // more than anything the editor makes or takes
 constexpr std::string_view TEMPORARY_PREFIX = "dorva-";
 constexpr std::string_view TEMPORARY_SUFFIX = ".dp-tmp";
+constexpr std::chrono::hours LEFTOVER_AGE{1}; // by then whoever wrote it, on whatever machine, is done or gone
 
 // An open file that is closed when its scope ends.
 class Otwarty {
@@ -44,12 +45,7 @@ public:
         const bool isRegular = ok() && system_.describe(file_, opis) == Wynik::Ok && opis.rodzaj == RodzajPliku::Zwykly;
         return isRegular ? std::optional(opis.length) : std::nullopt;
     }
-    [[nodiscard]] Wynik setMode(unsigned mode) const {
-        // Asked only where it is needed: some file systems know no mode bits and refuse every change.
-        OpisPliku opis;
-        const Wynik wynik = system_.describe(file_, opis);
-        return wynik != Wynik::Ok || opis.mode == mode ? wynik : system_.setMode(file_, mode);
-    }
+    [[nodiscard]] Wynik makeLike(const OpisPliku& other) const { return system_.makeLike(file_, other); }
     [[nodiscard]] bool readAll(std::span<Bajt> bytes) const { return moveAll(system_.read, bytes); }
     [[nodiscard]] bool writeAll(std::span<const Bajt> bytes) const { return moveAll(system_.write, bytes); }
     [[nodiscard]] bool flush() const { return system_.flush(file_) == Wynik::Ok; }
@@ -62,10 +58,7 @@ private:
     template <typename Bytes> bool moveAll(Wynik (*move)(Uchwyt, Bytes, std::size_t&), Bytes bytes) const {
         while (!bytes.empty()) {
             std::size_t count = 0;
-            const Wynik wynik = move(file_, bytes, count);
-            if (wynik == Wynik::Przerwane)
-                continue;
-            if (wynik != Wynik::Ok || count == 0)
+            if (move(file_, bytes, count) != Wynik::Ok || count == 0)
                 return false;
             bytes = bytes.subspan(count);
         }
@@ -126,22 +119,59 @@ std::optional<Cel> findCel(const SystemPlikow& system, const fs::path& path) {
     return Cel{*target, old};
 }
 
-Wynik writeTemporary(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes,
-                     const std::optional<OpisPliku>& like) {
-    Otwarty file(system, path, Otwarcie::Nowy);
-    Wynik wynik = file.wynik();
-    if (wynik == Wynik::Ok && like)
-        wynik = file.setMode(like->mode);
-    if (wynik != Wynik::Ok)
-        return wynik;
-    return file.writeAll(bytes) && file.flush() && file.closeNow() ? Wynik::Ok : Wynik::Blad;
-}
+// The coming content of a file: written and flushed beside it, under a name of its own, which goes unless it gets its
+// place.
+class Nowy {
+public:
+    Nowy(const SystemPlikow& system, const fs::path& target, std::span<const Bajt> bytes,
+         const std::optional<OpisPliku>& like)
+        : system_(system) {
+        constexpr int NAMES_MAX = 1000;
+        for (int number = 1; wynik_ == Wynik::Zajete && number <= NAMES_MAX; ++number) {
+            path_ = target.parent_path();
+            path_ /= std::string(TEMPORARY_PREFIX) + std::to_string(number) + std::string(TEMPORARY_SUFFIX);
+            wynik_ = write(bytes, like);
+        }
+    }
+    ~Nowy() { drop(); }
+    Nowy(const Nowy&) = delete;
+    Nowy& operator=(const Nowy&) = delete;
 
-// A name of our own beside the target, told apart by process.
-fs::path temporaryPath(const fs::path& target) {
-    return target.parent_path() /
-           (std::string(TEMPORARY_PREFIX) + std::to_string(ownNumber()) + std::string(TEMPORARY_SUFFIX));
-}
+    [[nodiscard]] Wynik wynik() const { return wynik_; }
+    Wynik replace(const fs::path& path) { return moveTo(path, system_.rename); }
+    Wynik takeFreeName(const fs::path& path) { return moveTo(path, system_.renameNew); }
+    void drop() {
+        if (isThere_)
+            system_.remove(path_);
+        isThere_ = false;
+    }
+
+private:
+    Wynik write(std::span<const Bajt> bytes, const std::optional<OpisPliku>& like) {
+        Otwarty file(system_, path_, Otwarcie::Nowy);
+        isThere_ = file.ok();
+        Wynik wynik = file.wynik();
+        if (wynik == Wynik::Ok && like)
+            wynik = file.makeLike(*like);
+        if (wynik != Wynik::Ok)
+            return wynik;
+        return file.writeAll(bytes) && file.flush() && file.closeNow() ? Wynik::Ok : Wynik::Blad;
+    }
+    Wynik moveTo(const fs::path& path, Wynik (*move)(const fs::path&, const fs::path&)) {
+        const Wynik wynik = wynik_ == Wynik::Ok ? move(path_, path) : wynik_;
+        if (wynik != Wynik::Ok)
+            return wynik;
+        isThere_ = false;
+        // The name is in place already, so a failure here is none of the write.
+        system_.flushFolder(folderOf(path));
+        return Wynik::Ok;
+    }
+
+    const SystemPlikow& system_;
+    fs::path path_;
+    Wynik wynik_ = Wynik::Zajete;
+    bool isThere_ = false;
+};
 
 bool writeOver(const SystemPlikow& system, const fs::path& path, Otwarcie otwarcie, std::span<const Bajt> bytes) {
     Otwarty file(system, path, otwarcie);
@@ -162,31 +192,19 @@ bool writeInPlace(const SystemPlikow& system, const Cel& cel, std::span<const Ba
     return false;
 }
 
-bool replace(const SystemPlikow& system, const Cel& cel, std::span<const Bajt> bytes) {
-    const fs::path temporary = temporaryPath(cel.path);
-    system.remove(temporary); // left over by a killed process of the same number
-    Wynik wynik = writeTemporary(system, temporary, bytes, cel.old);
-    if (wynik == Wynik::Ok)
-        wynik = system.rename(temporary, cel.path);
-    if (wynik != Wynik::Ok) {
-        system.remove(temporary);
-        return wynik == Wynik::Odmowa && writeInPlace(system, cel, bytes);
-    }
-    // The name is in place already, so a failure here is none of the write.
-    system.flushFolder(folderOf(cel.path));
-    return true;
+bool replace(const SystemPlikow& system, const Cel& cel, Nowy& nowy, std::span<const Bajt> bytes) {
+    const Wynik wynik = nowy.replace(cel.path);
+    if (wynik != Wynik::Odmowa)
+        return wynik == Wynik::Ok;
+    nowy.drop();
+    return writeInPlace(system, cel, bytes);
 }
 
-// Whether a name is that of a temporary file whose process is gone. Its number stands behind the prefix.
-bool isLeftover(const fs::path& name) {
-    const auto& text = name.native();
-    const auto prefix = fs::path(TEMPORARY_PREFIX).native();
-    if (!text.starts_with(prefix))
-        return false;
-    std::uint32_t number = 0;
-    for (std::size_t i = prefix.size(); i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i)
-        number = number * 10 + static_cast<std::uint32_t>(text[i] - '0');
-    return number == ownNumber() || !isRunning(number);
+// Whether a temporary file was left over by a program that was killed.
+bool isLeftover(const SystemPlikow& system, const fs::path& path) {
+    OpisPliku opis;
+    return path.filename().native().starts_with(fs::path(TEMPORARY_PREFIX).native()) &&
+           system.lstat(path, opis) == Wynik::Ok && opis.age > LEFTOVER_AGE;
 }
 
 // The first free name of <name>.kopia, .kopia2, .kopia3, ...
@@ -204,39 +222,39 @@ std::optional<fs::path> freeKopia(const SystemPlikow& system, const fs::path& pa
     return std::nullopt;
 }
 
-// A copy of an old file under a name that is free, or was a moment ago.
-Wynik copyAs(const SystemPlikow& system, const fs::path& kopia, const Bajty& old, const OpisPliku& like) {
-    const fs::path temporary = temporaryPath(kopia);
-    system.remove(temporary); // left over by a killed process of the same number
-    Wynik wynik = writeTemporary(system, temporary, old, like);
-    if (wynik != Wynik::Ok) {
-        system.remove(temporary);
-        return wynik;
-    }
-    wynik = system.link(temporary, kopia); // unlike a rename it never takes a name from another program
-    if (wynik != Wynik::Ok && wynik != Wynik::Zajete && system.rename(temporary, kopia) == Wynik::Ok)
-        return Wynik::Ok;
-    system.remove(temporary);
-    return wynik;
+// What was kept of a file before it is overwritten.
+struct Kopia {
+    std::optional<fs::path> path; // none where nothing had to be kept
+    std::optional<Bajty> old;     // its content; nothing where it can't be read and the file itself was moved
+};
+
+// Keeps what stands at the target now, unless it is known or as the coming bytes are: a copy, or the file itself where
+// it can't be copied. Nothing where it can't be kept.
+std::optional<Kopia> keepUnknown(const SystemPlikow& system, const Cel& cel, const fs::path& path,
+                                 std::span<const Bajt> bytes, const std::optional<Bajty>& known) {
+    auto old = readWhole(system, cel.path);
+    if (old ? old->empty() || old == known || std::ranges::equal(*old, bytes) : !fileExists(system, cel.path))
+        return Kopia{};
+    const auto kopia = freeKopia(system, path);
+    if (!kopia)
+        return std::nullopt;
+    if (old && Nowy(system, *kopia, *old, cel.old).takeFreeName(*kopia) == Wynik::Ok)
+        return Kopia{kopia, std::move(old)};
+    if (system.renameNew(cel.path, *kopia) != Wynik::Ok)
+        return std::nullopt;
+    system.flushFolder(folderOf(*kopia));
+    return Kopia{kopia, std::nullopt};
 }
 
-// A copy of the old file, or a second name for it where it can't be copied. A copy comes first: a second name of
-// somebody else's file could never be removed from a sticky folder.
-bool keepAs(const SystemPlikow& system, const Cel& cel, const fs::path& kopia, const std::optional<Bajty>& old) {
-    Wynik wynik = old ? copyAs(system, kopia, *old, *cel.old) : Wynik::Blad;
-    if (wynik != Wynik::Ok && wynik != Wynik::Zajete)
-        wynik = system.link(cel.path, kopia);
-    if (wynik == Wynik::Ok)
-        system.flushFolder(folderOf(kopia));
-    return wynik == Wynik::Ok;
-}
-
-// Whether a write that failed has certainly changed nothing: a rename can be carried out and still be answered by an
+// Undoes it after a write that has certainly changed nothing: a rename can be carried out and still be answered by an
 // error.
-bool isStillOld(const SystemPlikow& system, const Cel& cel, const std::optional<Bajty>& old) {
-    OpisPliku opis;
-    return system.stat(cel.path, opis) == Wynik::Ok && opis.isSameFile(*cel.old) &&
-           (!old || readWhole(system, cel.path) == old);
+void takeBack(const SystemPlikow& system, const Cel& cel, const Kopia& kopia) {
+    if (!kopia.path)
+        return;
+    if (!kopia.old)
+        (void)system.renameNew(*kopia.path, cel.path);
+    else if (readWhole(system, cel.path) == kopia.old)
+        system.remove(*kopia.path);
 }
 
 } // namespace
@@ -253,10 +271,16 @@ std::optional<Bajty> readFirst(const SystemPlikow& system, const fs::path& path,
     return file.length() ? readBytes(file, count) : std::nullopt;
 }
 
+std::optional<Bajty> readUpTo(const SystemPlikow& system, const fs::path& path, std::size_t count) {
+    const Otwarty file(system, path, Otwarcie::Odczyt);
+    const auto length = file.length();
+    return length ? readBytes(file, std::min<std::uintmax_t>(*length, count)) : std::nullopt;
+}
+
 std::optional<Bajty> readWhole(const SystemPlikow& system, const fs::path& path) {
     const Otwarty file(system, path, Otwarcie::Odczyt);
     const auto length = file.length();
-    return length && *length <= WHOLE_MAX_BYTES ? readBytes(file, static_cast<std::size_t>(*length)) : std::nullopt;
+    return length && *length <= WHOLE_MAX_BYTES ? readBytes(file, *length) : std::nullopt;
 }
 
 std::optional<std::uintmax_t> lengthOf(const SystemPlikow& system, const fs::path& path) {
@@ -282,7 +306,10 @@ bool isSameFile(const SystemPlikow& system, const fs::path& a, const fs::path& b
 
 bool writeWhole(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes) {
     const auto cel = findCel(system, path);
-    return cel && replace(system, *cel, bytes);
+    if (!cel)
+        return false;
+    Nowy nowy(system, cel->path, bytes, cel->old);
+    return replace(system, *cel, nowy, bytes);
 }
 
 bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes,
@@ -290,18 +317,18 @@ bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::
     const auto cel = findCel(system, path);
     if (!cel)
         return false;
-    if (!cel->old || cel->old->length == 0)
-        return replace(system, *cel, bytes);
-    const auto old = readWhole(system, cel->path);
-    if (old && (old == known || std::ranges::equal(*old, bytes)))
-        return replace(system, *cel, bytes);
-    const auto kopia = freeKopia(system, path);
-    if (!kopia || !keepAs(system, *cel, *kopia, old))
+    Nowy nowy(system, cel->path, bytes, cel->old);
+    if (nowy.wynik() != Wynik::Ok && nowy.wynik() != Wynik::Odmowa)
         return false;
-    if (replace(system, *cel, bytes))
+    if (!cel->old && nowy.takeFreeName(cel->path) == Wynik::Ok)
         return true;
-    if (isStillOld(system, *cel, old))
-        system.remove(*kopia);
+    // Looked at as late as can be: another program may have written there while the new content was flushed.
+    const auto kopia = keepUnknown(system, *cel, path, bytes, known);
+    if (!kopia)
+        return false;
+    if (replace(system, *cel, nowy, bytes))
+        return true;
+    takeBack(system, *cel, *kopia);
     return false;
 }
 
@@ -322,7 +349,7 @@ void sweepTemporary(const SystemPlikow& system, std::span<const fs::path> files)
             folders.insert(folderOf(*target));
     for (const fs::path& folder : folders)
         for (const fs::path& name : listNames(system, folder, TEMPORARY_SUFFIX))
-            if (isLeftover(name))
+            if (isLeftover(system, folder / name))
                 system.remove(folder / name);
 }
 

@@ -24,6 +24,9 @@ std::optional<Bajty> readOrCreate(const SystemPlikow&, const std::filesystem::pa
 // Likewise, but a missing file stays missing.
 std::optional<Bajty> readFirst(const SystemPlikow&, const std::filesystem::path&, std::size_t count);
 
+// Likewise, but a file that holds fewer bytes gives all of them.
+std::optional<Bajty> readUpTo(const SystemPlikow&, const std::filesystem::path&, std::size_t count);
+
 // The whole of a regular file; nothing where it can't be read or is longer than 64 MiB.
 std::optional<Bajty> readWhole(const SystemPlikow&, const std::filesystem::path&);
 
@@ -36,15 +39,15 @@ bool fileExists(const SystemPlikow&, const std::filesystem::path&);
 // Whether two paths lead to one file; also true where that can't be told.
 bool isSameFile(const SystemPlikow&, const std::filesystem::path&, const std::filesystem::path&);
 
-// Replaces the file by `bytes`: a temporary file in the same folder, flushed, renamed over the old one. Mode bits and
-// symbolic links are kept. On failure the old file is untouched and nothing else is left. Only where the folder
-// refuses new names, or a new file the old one's mode bits, and the file may be written all the same is it written in
-// place, and put back if that fails.
+// Replaces the file by `bytes`: a temporary file in the same folder, flushed, renamed over the old one. Mode bits,
+// group and symbolic links are kept. On failure the old file is untouched and nothing else is left. Only where the
+// folder refuses new names, or a new file the old one's mode bits, and the file may be written all the same is it
+// written in place, and put back if that fails.
 [[nodiscard]] bool writeWhole(const SystemPlikow&, const std::filesystem::path&, std::span<const Bajt> bytes);
 
-// Like writeWhole, for a file that holds what the caller knows: `known`, or nothing. Whatever else stands there, or
-// can't be read, is kept beside it first, as "<name>.kopia" (or .kopia2, .kopia3, ...), an empty file excepted. If that
-// isn't possible, nothing is written.
+// Like writeWhole, for a file that holds what the caller knows: `known`, or nothing. Whatever else stands there when
+// the new content is ready, or can't be read, is kept beside it first, as "<name>.kopia" (or .kopia2, .kopia3, ...), an
+// empty file excepted. If that isn't possible, nothing is written.
 [[nodiscard]] bool writeKeepingUnknown(const SystemPlikow&, const std::filesystem::path&, std::span<const Bajt> bytes,
                                        const std::optional<Bajty>& known);
 
@@ -53,7 +56,7 @@ bool isSameFile(const SystemPlikow&, const std::filesystem::path&, const std::fi
 std::vector<std::filesystem::path> listNames(const SystemPlikow&, const std::filesystem::path& folder,
                                              std::string_view suffix);
 
-// Removes what interrupted writes of these files may have left beside them.
+// Removes what interrupted writes of these files may have left beside them an hour ago or earlier.
 void sweepTemporary(const SystemPlikow&, std::span<const std::filesystem::path> files);
 
 } // namespace dorva

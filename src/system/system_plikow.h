@@ -4,6 +4,7 @@
 
 #include "podstawy.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -15,11 +16,10 @@ namespace dorva {
 // How a call went.
 enum class Wynik {
     Ok,
-    NieMa,     // nothing stands at the path
-    Zajete,    // the name is taken
-    Odmowa,    // no right to it
-    Przerwane, // ask again
-    Blad,      // any other failure
+    NieMa,  // nothing stands at the path
+    Zajete, // the name is taken
+    Odmowa, // no right to it, or no such thing on this file system
+    Blad,   // any other failure
 };
 
 enum class RodzajPliku { Zwykly, Katalog, Dowiazanie, Inny };
@@ -30,7 +30,9 @@ struct OpisPliku {
     std::uintmax_t length = 0;            // in bytes
     std::uint64_t volume = 0, number = 0; // together they tell files apart
     std::uint64_t names = 1;              // hard links
-    unsigned mode = 0;                    // who may do what, in the system's own bits; always 0 where it has none
+    unsigned mode = 0;                    // who may do what, in the system's own bits
+    unsigned owner = 0, group = 0;        // where the system has none of these three, they are always 0
+    std::chrono::seconds age{0};          // since the content last changed
 
     [[nodiscard]] bool isSameFile(const OpisPliku& other) const {
         return volume == other.volume && number == other.number;
@@ -48,6 +50,7 @@ enum class Otwarcie {
 // An open file as the system numbers it.
 enum class Uchwyt : std::intptr_t { Zaden = -1 };
 
+// No call is left interrupted by a signal.
 struct SystemPlikow {
     using Sciezka = std::filesystem::path;
 
@@ -59,13 +62,14 @@ struct SystemPlikow {
     Wynik (*flush)(Uchwyt);
     Wynik (*close)(Uchwyt);
     Wynik (*describe)(Uchwyt, OpisPliku&);
-    Wynik (*setMode)(Uchwyt, unsigned mode);
+    // Gives the file another's mode bits, and its owner and group where that may be. Who may use it never grows.
+    Wynik (*makeLike)(Uchwyt, const OpisPliku& other);
 
     Wynik (*stat)(const Sciezka&, OpisPliku&);
     Wynik (*lstat)(const Sciezka&, OpisPliku&); // of a link itself
     Wynik (*readLink)(const Sciezka&, Sciezka& target);
-    Wynik (*rename)(const Sciezka& from, const Sciezka& to); // `to` is replaced
-    Wynik (*link)(const Sciezka& from, const Sciezka& to);   // a second name for `from`
+    Wynik (*rename)(const Sciezka& from, const Sciezka& to);    // `to` is replaced
+    Wynik (*renameNew)(const Sciezka& from, const Sciezka& to); // `to` is a free name, or it is told as taken
     Wynik (*remove)(const Sciezka&);
 
     // Makes new names in a folder outlive a power cut.

@@ -4,12 +4,14 @@
 
 #include <array>
 #include <cerrno>
-#include <csignal>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <iterator>
 #include <span>
 #include <string_view>
 #include <sys/stat.h>
@@ -34,16 +36,23 @@ Wynik lastWynik() {
         return Wynik::Zajete;
     case EACCES:
     case EPERM:
+    case ENOSYS: // what network and user-space file systems say of calls that they don't have
+    case EOPNOTSUPP:
         return Wynik::Odmowa;
-    case EINTR:
-        return Wynik::Przerwane;
     default:
         return Wynik::Blad;
     }
 }
 
-Wynik done(int answer) {
-    return answer == 0 ? Wynik::Ok : lastWynik();
+// What a signal interrupted is asked again.
+template <typename Call> auto uninterrupted(Call call) {
+    for (;;)
+        if (const auto answer = call(); answer != -1 || errno != EINTR)
+            return answer;
+}
+
+template <typename Call> Wynik done(Call call) {
+    return uninterrupted(call) == 0 ? Wynik::Ok : lastWynik();
 }
 
 int number(Uchwyt file) {
@@ -66,21 +75,31 @@ constexpr int flagsOf(Otwarcie otwarcie) {
 }
 
 Wynik open(const fs::path& path, Otwarcie otwarcie, Uchwyt& file) {
-    file = Uchwyt{::open(path.c_str(), flagsOf(otwarcie) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, NEW_FILE_MODE)};
+    const int flags = flagsOf(otwarcie) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    file = Uchwyt{uninterrupted([&] { return ::open(path.c_str(), flags, NEW_FILE_MODE); })};
     return file == Uchwyt::Zaden ? lastWynik() : Wynik::Ok;
 }
 
 Wynik moved(::ssize_t answer, std::size_t& count) {
-    count = answer < 0 ? 0 : static_cast<std::size_t>(answer);
+    count = answer < 0 ? 0 : answer;
     return answer < 0 ? lastWynik() : Wynik::Ok;
 }
 
 Wynik read(Uchwyt file, std::span<Bajt> bytes, std::size_t& count) {
-    return moved(::read(number(file), bytes.data(), bytes.size()), count);
+    return moved(uninterrupted([&] { return ::read(number(file), bytes.data(), bytes.size()); }), count);
 }
 
 Wynik write(Uchwyt file, std::span<const Bajt> bytes, std::size_t& count) {
-    return moved(::write(number(file), bytes.data(), bytes.size()), count);
+    return moved(uninterrupted([&] { return ::write(number(file), bytes.data(), bytes.size()); }), count);
+}
+
+Wynik flush(Uchwyt file) {
+    return done([&] { return ::fsync(number(file)); });
+}
+
+// Not asked again: the file is closed even where a signal came between.
+Wynik close(Uchwyt file) {
+    return ::close(number(file)) == 0 || errno == EINTR ? Wynik::Ok : lastWynik();
 }
 
 constexpr RodzajPliku rodzajOf(::mode_t mode) {
@@ -90,44 +109,94 @@ constexpr RodzajPliku rodzajOf(::mode_t mode) {
                            : RodzajPliku::Inny;
 }
 
-Wynik told(int answer, const struct ::stat& info, OpisPliku& opis) {
-    if (answer != 0)
+// The description of a file, by a call that fills in what the system tells of it.
+template <typename Call> Wynik told(Call call, OpisPliku& opis) {
+    struct ::stat info {};
+    if (uninterrupted([&] { return call(&info); }) != 0)
         return lastWynik();
-    opis = {rodzajOf(info.st_mode),  static_cast<std::uintmax_t>(info.st_size), info.st_dev, info.st_ino, info.st_nlink,
-            info.st_mode & MODE_BITS};
+    opis = {rodzajOf(info.st_mode),
+            static_cast<std::uintmax_t>(info.st_size),
+            info.st_dev,
+            info.st_ino,
+            info.st_nlink,
+            info.st_mode & MODE_BITS,
+            info.st_uid,
+            info.st_gid,
+            std::chrono::seconds(::time(nullptr) - info.st_mtime)};
     return Wynik::Ok;
 }
 
 Wynik describe(Uchwyt file, OpisPliku& opis) {
-    struct ::stat info {};
-    return told(::fstat(number(file), &info), info, opis);
+    return told([&](auto* info) { return ::fstat(number(file), info); }, opis);
 }
 
 Wynik stat(const fs::path& path, OpisPliku& opis) {
-    struct ::stat info {};
-    return told(::stat(path.c_str(), &info), info, opis);
+    return told([&](auto* info) { return ::stat(path.c_str(), info); }, opis);
 }
 
 Wynik lstat(const fs::path& path, OpisPliku& opis) {
-    struct ::stat info {};
-    return told(::lstat(path.c_str(), &info), info, opis);
+    return told([&](auto* info) { return ::lstat(path.c_str(), info); }, opis);
+}
+
+Wynik setOwner(Uchwyt file, ::uid_t owner, ::gid_t group) {
+    return done([&] { return ::fchown(number(file), owner, group); });
+}
+
+// The mode bits of a file for a group of others: what that group may do everyone may do.
+unsigned withoutGroup(unsigned mode) {
+    constexpr unsigned GROUP_BITS = 070, OTHERS_BITS = 07, GROUP_SHIFT = 3;
+    return (mode & ~GROUP_BITS) | (mode & OTHERS_BITS) << GROUP_SHIFT;
+}
+
+// Asks only for what differs: some file systems know neither groups nor mode bits and refuse every change.
+Wynik makeLike(Uchwyt file, const OpisPliku& other) {
+    constexpr auto SAME = static_cast<unsigned>(-1);
+    OpisPliku own;
+    if (const Wynik wynik = describe(file, own); wynik != Wynik::Ok)
+        return wynik;
+    if (own.owner != other.owner)
+        (void)setOwner(file, other.owner, SAME);
+    const bool grouped = own.group == other.group || setOwner(file, SAME, other.group) == Wynik::Ok;
+    const unsigned mode = grouped ? other.mode : withoutGroup(other.mode);
+    return own.mode == mode ? Wynik::Ok : done([&] { return ::fchmod(number(file), mode); });
 }
 
 Wynik readLink(const fs::path& path, fs::path& target) {
     std::array<char, 4096> name{};
     const ::ssize_t length = ::readlink(path.c_str(), name.data(), name.size());
-    if (length <= 0 || static_cast<std::size_t>(length) == name.size())
+    if (length <= 0 || length == std::ssize(name))
         return Wynik::Blad;
-    target = std::string_view(name.data(), static_cast<std::size_t>(length));
+    target = std::string_view(name.data(), length);
     return Wynik::Ok;
 }
 
+Wynik renameOver(const fs::path& from, const fs::path& to) {
+    return done([&] { return ::rename(from.c_str(), to.c_str()); });
+}
+
+Wynik removeName(const fs::path& path) {
+    return done([&] { return ::unlink(path.c_str()); });
+}
+
+// By a second name, which is never made over another file. Where a file system has none, the name is looked at first.
+Wynik renameNew(const fs::path& from, const fs::path& to) {
+    const Wynik linked = done([&] { return ::link(from.c_str(), to.c_str()); });
+    if (linked == Wynik::Ok)
+        (void)removeName(from);
+    if (linked == Wynik::Ok || linked == Wynik::Zajete)
+        return linked;
+    OpisPliku opis;
+    const Wynik looked = lstat(to, opis);
+    return looked == Wynik::NieMa ? renameOver(from, to) : looked == Wynik::Ok ? Wynik::Zajete : looked;
+}
+
 Wynik flushFolder(const fs::path& folder) {
-    const int file = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (file < 0)
-        return lastWynik();
-    const Wynik wynik = done(::fsync(file));
-    ::close(file);
+    Uchwyt file{};
+    Wynik wynik = open(folder, Otwarcie::Odczyt, file);
+    if (wynik == Wynik::Ok) {
+        wynik = flush(file);
+        close(file);
+    }
     return wynik;
 }
 
@@ -153,28 +222,19 @@ const SystemPlikow SYSTEM_PLIKOW{
     .open = open,
     .read = read,
     .write = write,
-    .flush = [](Uchwyt file) { return done(::fsync(number(file))); },
-    .close = [](Uchwyt file) { return done(::close(number(file))); },
+    .flush = flush,
+    .close = close,
     .describe = describe,
-    .setMode = [](Uchwyt file, unsigned mode) { return done(::fchmod(number(file), mode)); },
+    .makeLike = makeLike,
     .stat = stat,
     .lstat = lstat,
     .readLink = readLink,
-    .rename = [](const fs::path& from, const fs::path& to) { return done(::rename(from.c_str(), to.c_str())); },
-    .link = [](const fs::path& from, const fs::path& to) { return done(::link(from.c_str(), to.c_str())); },
-    .remove = [](const fs::path& path) { return done(::unlink(path.c_str())); },
+    .rename = renameOver,
+    .renameNew = renameNew,
+    .remove = removeName,
     .flushFolder = flushFolder,
     .list = list,
 };
-
-std::uint32_t ownNumber() {
-    return static_cast<std::uint32_t>(::getpid());
-}
-
-bool isRunning(std::uint32_t process) {
-    const auto pid = static_cast<::pid_t>(process);
-    return pid > 0 && (::kill(pid, 0) == 0 || errno == EPERM);
-}
 
 fs::path ownExecutable() {
     std::error_code error;

@@ -4,10 +4,11 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <limits>
+#include <ratio>
 #include <span>
 #include <string>
 #include <string_view>
@@ -111,6 +112,16 @@ std::uint64_t joined(::DWORD high, ::DWORD low) {
     return std::uint64_t{high} << 32U | low;
 }
 
+std::chrono::seconds ageOf(const ::FILETIME& time) {
+    using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
+    const auto ticks = [](const ::FILETIME& t) {
+        return static_cast<std::int64_t>(joined(t.dwHighDateTime, t.dwLowDateTime));
+    };
+    ::FILETIME now{};
+    ::GetSystemTimeAsFileTime(&now);
+    return std::chrono::duration_cast<std::chrono::seconds>(Ticks(ticks(now) - ticks(time)));
+}
+
 Wynik describe(Uchwyt file, OpisPliku& opis) {
     opis = {};
     if (::GetFileType(handle(file)) != FILE_TYPE_DISK)
@@ -124,7 +135,10 @@ Wynik describe(Uchwyt file, OpisPliku& opis) {
             info.dwVolumeSerialNumber,
             joined(info.nFileIndexHigh, info.nFileIndexLow),
             info.nNumberOfLinks,
-            0};
+            0,
+            0,
+            0,
+            ageOf(info.ftLastWriteTime)};
     return Wynik::Ok;
 }
 
@@ -140,9 +154,9 @@ Wynik stat(const fs::path& path, OpisPliku& opis) {
 }
 
 // A target that someone holds open is told as access denied, like one that may not be touched.
-Wynik rename(const fs::path& from, const fs::path& to) {
-    constexpr ::DWORD REPLACE = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    const Wynik wynik = patiently([&] { return done(::MoveFileExW(from.c_str(), to.c_str(), REPLACE)); }, true);
+Wynik moveAs(const fs::path& from, const fs::path& to, ::DWORD how) {
+    const ::DWORD flags = how | MOVEFILE_WRITE_THROUGH;
+    const Wynik wynik = patiently([&] { return done(::MoveFileExW(from.c_str(), to.c_str(), flags)); }, true);
     return wynik == Wynik::Odmowa ? Wynik::Blad : wynik;
 }
 
@@ -166,7 +180,7 @@ Wynik list(const fs::path& folder, std::vector<fs::path>& names) {
 
 } // namespace
 
-// Mode bits are not there, and symbolic links, which take rights of their own here, are files like others.
+// Owners and mode bits are not there, and symbolic links, which take rights of their own here, are files like others.
 const SystemPlikow SYSTEM_PLIKOW{
     .open = open,
     .read = read,
@@ -174,30 +188,16 @@ const SystemPlikow SYSTEM_PLIKOW{
     .flush = [](Uchwyt file) { return done(::FlushFileBuffers(handle(file))); },
     .close = [](Uchwyt file) { return done(::CloseHandle(handle(file))); },
     .describe = describe,
-    .setMode = [](Uchwyt, unsigned) { return Wynik::Ok; },
+    .makeLike = [](Uchwyt, const OpisPliku&) { return Wynik::Ok; },
     .stat = stat,
     .lstat = stat,
     .readLink = [](const fs::path&, fs::path&) { return Wynik::Blad; },
-    .rename = rename,
-    .link = [](const fs::path& from,
-               const fs::path& to) { return done(::CreateHardLinkW(to.c_str(), from.c_str(), nullptr)); },
+    .rename = [](const fs::path& from, const fs::path& to) { return moveAs(from, to, MOVEFILE_REPLACE_EXISTING); },
+    .renameNew = [](const fs::path& from, const fs::path& to) { return moveAs(from, to, 0); },
     .remove = remove,
     .flushFolder = [](const fs::path&) { return Wynik::Ok; }, // renaming writes through
     .list = list,
 };
-
-std::uint32_t ownNumber() {
-    return ::GetCurrentProcessId();
-}
-
-bool isRunning(std::uint32_t process) {
-    ::HANDLE handle = ::OpenProcess(SYNCHRONIZE, FALSE, process);
-    if (!handle)
-        return ::GetLastError() != ERROR_INVALID_PARAMETER;
-    const bool running = ::WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
-    ::CloseHandle(handle);
-    return running;
-}
 
 fs::path ownExecutable() {
     std::wstring name(32768, L'\0'); // no path is longer
