@@ -1,24 +1,12 @@
 // The catalogue of the main window: every control, its place and its texts, in one table.
 #pragma once
 
+#include "qt/kontrolka.h"
+
 #include <string_view>
 #include <vector>
 
-class QWidget;
-
 namespace dorva {
-
-// A control. Place in twips within its container; `index` is -1 outside control arrays.
-struct Kontrolka {
-    QWidget* (*make)(const Kontrolka&, QWidget* parent); // its kind, of wytwornia.h
-    std::string_view name;
-    int index;
-    std::string_view container; // empty for the window itself
-    int left, top, width, height;
-    std::string_view caption;
-    std::string_view tooltip;
-    bool enabled = true, visible = true;
-};
 
 inline constexpr int TWIPS_PER_PIXEL = 15;
 constexpr int pixels(int twips) {

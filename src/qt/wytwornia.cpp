@@ -2,7 +2,6 @@
 
 #include "podstawy.h"
 #include "qt/czcionki.h"
-#include "qt/katalog.h"
 #include "qt/kontrolki.h"
 #include "qt/przeklad.h"
 #include "qt/widoki_znakow.h"

@@ -1,13 +1,9 @@
 // Makes the widget that a row of the catalogue asks for, with its caption; place and name are the caller's.
 #pragma once
 
-class QWidget;
+#include "qt/kontrolka.h"
 
-namespace dorva {
-
-struct Kontrolka;
-
-namespace wytwornia {
+namespace dorva::wytwornia {
 
 QWidget* ramka(const Kontrolka&, QWidget* parent);    // a frame with a caption
 QWidget* podklad(const Kontrolka&, QWidget* parent);  // a grey field without a border
@@ -24,5 +20,4 @@ QWidget* obraz(const Kontrolka&, QWidget* parent);    // the picture of one tile
 QWidget* plansza(const Kontrolka&, QWidget* parent);  // the board
 QWidget* wybor(const Kontrolka&, QWidget* parent);    // the tile picker
 
-} // namespace wytwornia
-} // namespace dorva
+} // namespace dorva::wytwornia
