@@ -26,7 +26,8 @@ struct Edytor {
     int NumerEtapu = 1;                              // 1..32
     int lastCell = 0;                                // the board cell that the mouse rules handled last
 
-    // what the files are known to hold: the bytes taken over or written, nothing where not all were taken over
+    // what was last taken over from a file (its first bytes, where it is longer) or written to it; nothing where a
+    // part was refused. A file that holds other bytes than these is kept aside before it is written over
     std::optional<Bajty> znanyEtap; // DETAP.<NumerEtapu>
     std::optional<Bajty> znanyAutorGry;
 
