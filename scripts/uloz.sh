@@ -1,7 +1,7 @@
 #!/bin/sh
 # uloz.sh FOLDER PROGRAM TREE...: lays a program folder. The program is renewed; of the trees' files goes into the
 # folder what is missing or empty there, and what is still exactly as an earlier run laid it. A file that was changed
-# since is its owner's and stays.
+# since is its owner's and stays, and so does a symbolic link.
 set -eu
 
 folder=$1 program=$2

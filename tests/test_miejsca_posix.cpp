@@ -2,6 +2,7 @@
 #include "output/obraz_gry.h"
 #include "pulpit.h"
 #include "stage/archiwum.h"
+#include "system/wzorzec.h"
 #include "tiles/kolory.h"
 
 #include <sys/stat.h>
@@ -54,6 +55,9 @@ TEST_F(MiejscaPosix, LinkedStageStaysLinked) {
         EXPECT_EQ(readFile(file)[32 + 246], 14) << file;
     EXPECT_EQ(readFile(root / "dysk/czwarty"), sampleEtap(4)) << "a second name keeps the old stage";
     expectNoLeftovers();
+    fs::create_symlink("brak", base / "trzeci");
+    EXPECT_TRUE(layOut(SYSTEM_PLIKOW, root / "dysk", base).empty());
+    EXPECT_FALSE(fs::exists(base / "trzeci")) << "laying out leaves links alone";
 }
 
 TEST_F(MiejscaPosix, PipesAndDevicesAreLeftAloneAndNeverHang) {

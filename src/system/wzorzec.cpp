@@ -1,6 +1,7 @@
 #include "system/wzorzec.h"
 
 #include "system/pliki.h"
+#include "system/system_plikow.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -58,6 +59,9 @@ private:
     std::size_t stored_ = 0;
 };
 
+// Folders are walked and made by the library, past the table of system calls: whatever fails there loses nothing, and
+// the next run goes on where this one stopped.
+
 // The files of a tree, by their names within it; the tree itself where its listing breaks off. None if it is missing.
 std::vector<fs::path> filesIn(const fs::path& tree) {
     std::vector<fs::path> names;
@@ -76,12 +80,19 @@ bool put(const SystemPlikow& system, const fs::path& path, const Bajty& bytes) {
     return writeWhole(system, path, bytes);
 }
 
+bool isLink(const SystemPlikow& system, const fs::path& path) {
+    OpisPliku opis;
+    return system.lstat(path, opis) == Wynik::Ok && opis.rodzaj == RodzajPliku::Dowiazanie;
+}
+
 } // namespace
 
 std::vector<fs::path> layOut(const SystemPlikow& system, const fs::path& wzorzec, const fs::path& folder) {
     Spis spis(system, folder / SPIS);
     std::vector<fs::path> refused;
     for (const fs::path& name : filesIn(wzorzec)) {
+        if (isLink(system, folder / name))
+            continue;
         const auto fresh = readWhole(system, wzorzec / name);
         if (!fresh) {
             refused.push_back(name);
