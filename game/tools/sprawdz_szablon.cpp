@@ -14,6 +14,21 @@
 
 using namespace dorva;
 
+// What the game's sources say of the record, the board and its tiles, beside what the editor says.
+namespace gra {
+#include "stale.h" // made of ../src/reguly.inc and rekord.inc
+} // namespace gra
+static_assert(gra::ETAP_KOLORY == uklad::KOLORY && gra::ETAP_PLANSZA == uklad::PLANSZA &&
+              gra::ETAP_CEL == uklad::CEL_MASEK && gra::ETAP_OSTATNI == uklad::OSTATNI &&
+              gra::ETAP_SWIAT == uklad::SWIAT && gra::ETAP_NAZWA == uklad::NAZWA &&
+              gra::ETAP_BAJTY == ETAP_SIZE_BYTES && gra::TYTUL_BAJTY == LINIA_TYTULU_SIZE_BYTES);
+static_assert(gra::KOLUMNY == PLANSZA_COLUMNS && gra::WIERSZE == PLANSZA_ROWS && gra::INV == INV);
+static_assert(znak(gra::NIC) == NIC && znak(gra::ZIEMIA) == ZIEMIA && znak(gra::PULAPKA) == PULAPKA &&
+              znak(gra::MUR_V) == MUREK_PIONOWY && znak(gra::MUR_H) == MUREK_POZIOMY && znak(gra::WYJSCIE) == WYJSCIE &&
+              znak(gra::DRZWI) == DRZWI && znak(gra::MASKA) == MASKA && znak(gra::KLUCZ) == KLUCZ &&
+              znak(gra::BOMBA) == BOMBA && znak(gra::MAGICZNY) == PRZEDMIOT && znak(gra::MASZYNA) == MASZYNA &&
+              znak(gra::POCHODNIA) == POCHODNIA && znak(gra::DORVA) == DORVA);
+
 namespace {
 
 constexpr std::uint16_t PORTB = 0xD301;
@@ -21,13 +36,11 @@ constexpr std::uint16_t RUN_ADDRESS = 0x02E0;
 constexpr std::uint16_t WINDOW = 0x4000;
 constexpr std::uint16_t WINDOW_END = 0x8000;
 constexpr std::uint16_t ROM_START = 0xC000;
-constexpr std::uint16_t STAGE_SPACING = 0x400;
 constexpr Bajt MAIN_MEMORY = 0xFF;
 
-// Stages 1..16 load into one bank, 17..32 into the next; PORTB while they do.
+// Each block of stages loads into a bank of its own; PORTB while it does.
 constexpr std::array<Bajt, 2> BANKS{0xE3, 0xE7};
-constexpr std::size_t STAGES_PER_BANK = 16;
-constexpr std::size_t SWITCH_AT = rekordOffset(STAGES_PER_BANK - 1) + ETAP_SIZE_BYTES; // the header of a bank switch
+constexpr std::size_t SWITCH_AT = rekordOffset(BLOK_ETAPOW - 1) + ETAP_SIZE_BYTES; // the header of a bank switch
 
 struct Segment {
     std::uint16_t start = 0;
@@ -92,8 +105,8 @@ void checkStages(const std::map<std::size_t, Segment>& segments) {
         }
         const Segment& s = found->second;
         expect(s.bytes == ETAP_SIZE_BYTES, "a stage record doesn't have 931 bytes", at);
-        expect(s.bank == BANKS[i / STAGES_PER_BANK], "a stage loads into the wrong bank", at);
-        expect(s.start == WINDOW + i % STAGES_PER_BANK * STAGE_SPACING, "a stage loads to the wrong place", at);
+        expect(s.bank == BANKS[i / BLOK_ETAPOW], "a stage loads into the wrong bank", at);
+        expect(s.start == WINDOW + i % BLOK_ETAPOW * gra::ETAP_ODSTEP, "a stage loads to the wrong place", at);
     }
     const auto change = segments.find(SWITCH_AT + 4);
     expect(change != segments.end() && change->second.start == PORTB, "no bank switch between the two blocks of stages",
@@ -101,12 +114,11 @@ void checkStages(const std::map<std::size_t, Segment>& segments) {
 }
 
 void checkTitle(const Bajty& file, const std::map<std::size_t, Segment>& segments) {
-    constexpr std::size_t LINES = 3;
     const auto found = segments.find(LINIE_TYTULU_OFFSET);
-    expect(found != segments.end() && found->second.bytes == LINES * LINIA_TYTULU_SIZE_BYTES &&
+    expect(found != segments.end() && found->second.bytes == LINIE_COUNT * LINIA_TYTULU_SIZE_BYTES &&
                found->second.bank == MAIN_MEMORY,
            "the title lines aren't one segment in main memory", LINIE_TYTULU_OFFSET);
-    for (std::size_t i = 0; i < LINES; ++i) {
+    for (std::size_t i = 0; i < LINIE_COUNT; ++i) {
         const std::size_t at = LINIE_TYTULU_OFFSET + i * LINIA_TYTULU_SIZE_BYTES;
         const auto line = std::span(file).subspan(at, LINIA_TYTULU_SIZE_BYTES);
         const auto end = std::ranges::find(line.subspan(1), line.back());

@@ -15,7 +15,7 @@ namespace {
 
 using Argumenty = std::vector<std::string>;
 
-constexpr std::size_t FIRST_LINIA = 2, FIRST_ETAP = 5; // arguments
+constexpr std::size_t FIRST_LINIA = 2, FIRST_ETAP = FIRST_LINIA + LINIE_COUNT; // arguments
 
 Tekst linia(const Argumenty& a, std::size_t index) {
     return toTekst(Zrodlo("title line", ""), a[FIRST_LINIA + index]);
@@ -37,7 +37,7 @@ void makeGra(const Argumenty& a) {
 
 void printTytul(const std::string& name) {
     const Bajty gra = readPlik(name);
-    for (std::size_t i = 0; i < 3 * LINIA_TYTULU_SIZE_BYTES; ++i)
+    for (std::size_t i = 0; i < LINIE_COUNT * LINIA_TYTULU_SIZE_BYTES; ++i)
         std::cout << int{gra.at(LINIE_TYTULU_OFFSET + i)} << ((i + 1) % LINIA_TYTULU_SIZE_BYTES ? ' ' : '\n');
 }
 

@@ -7,12 +7,12 @@ namespace {
 
 // Lays `bytes` over `length` bytes at `offset`; what does not fit exactly shifts all behind it.
 void splice(ObrazGry& gra, std::size_t offset, std::size_t length, std::span<const Bajt> bytes) {
-    const auto first = gra.begin() + static_cast<std::ptrdiff_t>(offset);
+    const auto first = gra.begin() + offset;
     if (bytes.size() == length) {
         std::copy(bytes.begin(), bytes.end(), first);
         return;
     }
-    const auto gap = gra.erase(first, first + static_cast<std::ptrdiff_t>(length));
+    const auto gap = gra.erase(first, first + length);
     gra.insert(gap, bytes.begin(), bytes.end());
 }
 

@@ -15,9 +15,10 @@ inline constexpr std::size_t LINIA_TYTULU_SIZE_BYTES = 22;
 inline constexpr std::size_t LINIE_TYTULU_OFFSET = 116180;
 
 // Where the record of stage `index` (0..31) stands in the game file: pitch 935, and 5 more bytes between
-// the first and the second block of 16.
+// the two blocks.
+inline constexpr std::size_t BLOK_ETAPOW = 16; // stages
 constexpr std::size_t rekordOffset(std::size_t index) {
-    return 29724 + 935 * index + (index >= 16 ? 5 : 0);
+    return 29724 + 935 * index + (index >= BLOK_ETAPOW ? 5 : 0);
 }
 static_assert(rekordOffset(15) + ETAP_SIZE_BYTES == 44680);
 static_assert(rekordOffset(16) == 44689 && rekordOffset(31) + ETAP_SIZE_BYTES == 59645);
