@@ -1,6 +1,19 @@
 #include "shell/okno.h"
 
+#include <string>
+#include <string_view>
+
 namespace dorva {
+namespace {
+
+// The description is a credit line.
+constexpr std::string_view NAZWA_DOMYSLNA = "           POWODZENIA!          ";
+constexpr std::string_view AUTOR_DOMYSLNY = "DORVA PLANSZOWNIK - EDYTOR ETAPOW                               ";
+constexpr std::string_view LINIA_DOMYSLNA = "DORVA PLANSZOWNIK!  ";
+static_assert(NAZWA_DOMYSLNA.size() == NAZWA_WIDTH && AUTOR_DOMYSLNY.size() == AUTOR_WIDTH &&
+              LINIA_DOMYSLNA.size() == LINIA_WIDTH);
+
+} // namespace
 
 Okno defaultOkno() {
     Okno okno;
@@ -19,6 +32,10 @@ Okno defaultOkno() {
     for (int k = 0; k < info::IKONY_COUNT; ++k)
         okno.imgInfo[k] = {ObrazRef::DOMYSLNY, ZNAKI_INFO[k]};
     okno.lblInfo[info::CEL_MASEK].liczba = okno.hscMonet;
+    okno.txtNazwa.tekst.znaki = NAZWA_DOMYSLNA;
+    okno.txtAutor.tekst.znaki = AUTOR_DOMYSLNY;
+    okno.txtAutorGry[0].tekst.znaki = LINIA_DOMYSLNA;
+    okno.txtAutorGry[1].tekst = okno.txtAutorGry[2].tekst = Tekst::spaces(LINIA_WIDTH);
     return okno;
 }
 

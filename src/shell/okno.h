@@ -5,16 +5,8 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 
 namespace dorva {
-
-// The texts of a new window; the description is a credit line.
-inline constexpr std::string_view NAZWA_DOMYSLNA = "           POWODZENIA!          ";
-inline constexpr std::string_view AUTOR_DOMYSLNY = "DORVA PLANSZOWNIK - EDYTOR ETAPOW                               ";
-inline constexpr std::string_view LINIA_DOMYSLNA = "DORVA PLANSZOWNIK!  ";
-static_assert(NAZWA_DOMYSLNA.size() == NAZWA_WIDTH && AUTOR_DOMYSLNY.size() == AUTOR_WIDTH &&
-              LINIA_DOMYSLNA.size() == LINIA_WIDTH);
 
 struct Okno {
     std::string caption;
@@ -40,11 +32,10 @@ struct Okno {
     std::array<std::string, 2> lblKodBufor{"0", "$0"};
 
     // texts
-    PoleTekstu txtNazwa{{std::string(NAZWA_DOMYSLNA)}};
-    PoleTekstu txtAutor{{std::string(AUTOR_DOMYSLNY)}};
+    PoleTekstu txtNazwa;
+    PoleTekstu txtAutor;
     bool txtAutorEnabled = true;
-    std::array<PoleTekstu, LINIE_COUNT> txtAutorGry{
-        {{{std::string(LINIA_DOMYSLNA)}}, {Tekst::spaces(LINIA_WIDTH)}, {Tekst::spaces(LINIA_WIDTH)}}};
+    std::array<PoleTekstu, LINIE_COUNT> txtAutorGry;
 
     // colours
     std::array<KolorSlot, SLOTY_COUNT> lblKolor{};

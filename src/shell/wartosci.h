@@ -52,12 +52,14 @@ struct KolorSlot {
     bool operator==(const KolorSlot&) const = default;
 };
 
-// The palette dialog: 128 cells of the even colour values, and the preview. `otwarcia` counts how often it was asked
-// for.
+// The cells of the palette dialog, the even colour values: a row a hue, a column a luminance.
+inline constexpr int PALETA_COLUMNS = 8, PALETA_ROWS = 16, PALETA_CELLS = PALETA_COLUMNS * PALETA_ROWS;
+
+// The palette dialog: its cells and the preview. `otwarcia` counts how often it was asked for.
 struct OknoPalety {
     bool otwarte = false;
     unsigned otwarcia = 0;
-    std::array<Rgb, 128> picPaleta{};
+    std::array<Rgb, PALETA_CELLS> picPaleta{};
     Rgb picWybrany{};
     std::string lblWybrany = "0";
 };
