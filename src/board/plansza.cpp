@@ -58,11 +58,15 @@ void SelectNN(Edytor& e, int index) {
 }
 
 void optNN_Click(Edytor& e, int index) {
-    const auto swiat = static_cast<std::int8_t>(e.okno.optObiektyNR);
+    showWybor(e.okno, e.okno.optObiektyNR, index);
+}
+
+void showWybor(Okno& okno, int swiat, int half) {
+    const std::int8_t s = swiat;
     for (int i = 0; i < ZNAKI_COUNT; ++i) {
-        ZnakSlot& slot = e.okno.imgZnak[i];
-        slot.znak = znak(index * INV + i);
-        slot.obraz = {swiat, slot.znak};
+        ZnakSlot& slot = okno.imgZnak[i];
+        slot.znak = znak(half * INV + i);
+        slot.obraz = {s, slot.znak};
     }
 }
 

@@ -16,4 +16,7 @@ void imgZnak_Click(Edytor&, int index);
 void SelectNN(Edytor&, int index);
 void optNN_Click(Edytor&, int index);
 
+// Fills the picker with a world's STD (0) or INV (1) tiles.
+void showWybor(Okno&, int swiat, int half);
+
 } // namespace dorva

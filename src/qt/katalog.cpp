@@ -46,7 +46,7 @@ constexpr Kontrolka POJEDYNCZE[]{
 
     {znacznik, "chkOstatni", -1, "fraOstatni", 360, 240, 255, 375, "",
      "zaznaczenie oznacza, że jest to ostatni etap w grze"},
-    {plansza, "imgPG", -1, "fraPlansza", 120, 120, 40 * 240, 20 * 240, "", ""},
+    {plansza, "imgPG", -1, "fraPlansza", 120, 120, PLANSZA_COLUMNS * 240, PLANSZA_ROWS * 240, "", ""},
     {etykieta, "lblSwiatInfo", -1, "fraObiektyNR", 120, 600, 1695, 375, "zmiana nie wpływa na ustawienia kolorów", ""},
     {przycisk, "cmdResetKolory", -1, "fraKolory", 120, 2760, 1695, 675, "Ustaw standardowe kolory danego świata", ""},
     {znacznik, "chkZachowajKolory", -1, "fraKolory", 240, 3480, 1455, 255, "Blokuj kolory",
@@ -56,7 +56,7 @@ constexpr Kontrolka POJEDYNCZE[]{
     {pole, "txtAutor", -1, "fraAutor", 120, 240, 8055, 285, "", ""},
     {pole, "txtData", -1, "fraAutor", 8160, 240, 240, 285, "", "", false, false},
     {przycisk, "cmdBlokuj", -1, "fraAutor", 120, 600, 375, 255, "<!>", "", false},
-    {wybor, "imgZnak", -1, "fraZnaki", 120, 120, 21 * 480 + 510, 480 + 510, "", ""},
+    {wybor, "imgZnak", -1, "fraZnaki", 120, 120, (WYBOR_COLUMNS - 1) * 480 + 510, 480 + 510, "", ""},
     {opcja, "optPPM", 0, "fraPPM", 120, 240, 735, 315, "pipeta", ""},
     {opcja, "optPPM", 1, "fraPPM", 120, 600, 735, 315, "gumka", ""},
     {obraz, "imgBufor", -1, "fraBuforZnak", 120, 120, 510, 510, "", ""},

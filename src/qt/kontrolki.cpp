@@ -102,7 +102,7 @@ void EtykietaObramowana::paintEvent(QPaintEvent* event) {
     drawBorder(painter, rect(), Qt::black);
 }
 
-void Figura::showFigura(const QString& text, bool czerwona) {
+void EtykietaFigury::showFigura(const QString& text, bool czerwona) {
     setText(text);
     if (std::exchange(czerwona_, czerwona) == czerwona)
         return;

@@ -58,7 +58,7 @@ protected:
 };
 
 // A figure of the panel. A red one is bold and stands on the lightest ground of the palette.
-class Figura : public EtykietaObramowana {
+class EtykietaFigury : public EtykietaObramowana {
 public:
     using EtykietaObramowana::EtykietaObramowana;
     void showFigura(const QString& text, bool czerwona);

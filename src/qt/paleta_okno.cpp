@@ -17,7 +17,6 @@
 namespace dorva {
 namespace {
 
-constexpr int COLUMNS = 8, ROWS = 16;
 constexpr int CELL_PITCH = 16, CELL_SIDE = 17;
 constexpr QSize CLIENT{210, 337};
 constexpr QRect FRA_PALETA{24, 16, 129, 257}, PIC_WYBRANY{160, 16, 41, 257}, LBL_WYBRANY{24, 280, 177, 17},
@@ -62,20 +61,21 @@ void PaletaOkno::build() {
     fraPaleta->setObjectName("fraPaleta");
     fraPaleta->setGeometry(FRA_PALETA);
     const QCursor hand = kursorPalety();
-    for (int i = 0; i < COLUMNS * ROWS; ++i) {
-        EtykietaObramowana* cell = addBarwa(fraPaleta, QString("picPaleta(%1)").arg(i),
-                                            {i % COLUMNS * CELL_PITCH, i / COLUMNS * CELL_PITCH, CELL_SIDE, CELL_SIDE});
+    for (int i = 0; i < PALETA_CELLS; ++i) {
+        EtykietaObramowana* cell =
+            addBarwa(fraPaleta, QString("picPaleta(%1)").arg(i),
+                     {i % PALETA_COLUMNS * CELL_PITCH, i / PALETA_COLUMNS * CELL_PITCH, CELL_SIDE, CELL_SIDE});
         cell->setToolTip(toQString(kolorText(2 * i)));
         cell->setCursor(hand);
         cell->onClick = [this, i] { onPick(i); };
         picPaleta_[i] = cell;
     }
     const auto digit = [](int value) { return QString::number(value, 16).toUpper(); };
-    for (int c = 0; c < COLUMNS; ++c)
+    for (int c = 0; c < PALETA_COLUMNS; ++c)
         addLabel(this, QString("lblPaleta(%1)").arg(c), digit(2 * c),
                  {FRA_PALETA.left() + CELL_PITCH * c, 0, CELL_SIDE, CELL_SIDE});
-    for (int r = 0; r < ROWS; ++r)
-        addLabel(this, QString("lblPaleta(%1)").arg(COLUMNS + r), digit(r),
+    for (int r = 0; r < PALETA_ROWS; ++r)
+        addLabel(this, QString("lblPaleta(%1)").arg(PALETA_COLUMNS + r), digit(r),
                  {0, FRA_PALETA.top() + CELL_PITCH * r, CELL_SIDE, CELL_SIDE});
 
     picWybrany_ = addBarwa(this, "picWybrany", PIC_WYBRANY);

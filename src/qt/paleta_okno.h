@@ -30,7 +30,7 @@ private:
     void bringUp();
 
     unsigned otwarcia_ = 0; // as often as it was brought up
-    std::array<EtykietaObramowana*, 128> picPaleta_{};
+    std::array<EtykietaObramowana*, PALETA_CELLS> picPaleta_{};
     QWidget* picWybrany_ = nullptr;
     QLabel* lblWybrany_ = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include "qt/budowa_okna.h"
 #include "qt/kontrolki.h"
+#include "qt/opcje_okna.h"
 #include "qt/paleta_okno.h"
 #include "qt/przeklad.h"
 #include "qt/widoki_znakow.h"
@@ -11,20 +12,9 @@
 #include <QSignalBlocker>
 
 #include <cstddef>
-#include <string_view>
 
 namespace dorva {
 namespace {
-
-// Where the record keeps the selected option of a group.
-struct GrupaOpcji {
-    std::string_view name;
-    int Okno::*selected;
-};
-constexpr GrupaOpcji GRUPY[]{{"optEtapNR", &Okno::optEtapNR},
-                             {"optObiektyNR", &Okno::optObiektyNR},
-                             {"optPPM", &Okno::optPPM},
-                             {"optNN", &Okno::optNN}};
 
 constexpr Qt::CheckState STANY[]{Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};
 
@@ -33,12 +23,12 @@ constexpr Qt::CheckState STANY[]{Qt::Unchecked, Qt::Checked, Qt::PartiallyChecke
 PokazOkna::PokazOkna(QWidget& window, const KontrolkiOkna& kontrolki, PaletaOkno& dlgPaleta, const Magazyn& zestawy)
     : obrazki_(zestawy), window_(window), dlgPaleta_(dlgPaleta), imgPG_(kontrolki.get<PlanszaWidget>("imgPG")),
       imgZnak_(kontrolki.get<WyborWidget>("imgZnak")), imgBufor_(kontrolki.get<ObrazWidget>("imgBufor")),
-      imgInfo_(kontrolki.getAll<ObrazWidget>("imgInfo")), lblInfo_(kontrolki.getAll<Figura>("lblInfo")),
+      imgInfo_(kontrolki.getAll<ObrazWidget>("imgInfo")), lblInfo_(kontrolki.getAll<EtykietaFigury>("lblInfo")),
       lblKodBufor_(kontrolki.getAll<Etykieta>("lblKodBufor")), lblKolor_(kontrolki.getAll<ProbkaKoloru>("lblKolor")),
       hscMonet_(kontrolki.get<QScrollBar>("hscMonet")), chkOstatni_(kontrolki.get<QCheckBox>("chkOstatni")),
       chkZachowajKolory_(kontrolki.get<QCheckBox>("chkZachowajKolory")),
       txtAutor_(kontrolki.get<PoleEdycji>("txtAutor")) {
-    for (const GrupaOpcji& grupa : GRUPY)
+    for (const GrupaOpcji& grupa : OPCJE)
         opcje_.push_back(kontrolki.getAll<QPushButton>(grupa.name));
     for (const Pole& pole : POLA)
         pola_.push_back(kontrolki.get<PoleEdycji>(pole.name, pole.index));
@@ -67,7 +57,7 @@ void PokazOkna::showObrazy(const Okno& okno) {
 
 void PokazOkna::showOpcje(const Okno& okno) {
     for (std::size_t group = 0; group < opcje_.size(); ++group) {
-        QPushButton* selected = opcje_[group][okno.*GRUPY[group].selected];
+        QPushButton* selected = opcje_[group][okno.*OPCJE[group].selected];
         if (selected->isChecked())
             continue;
         selected->setChecked(true);
@@ -101,7 +91,7 @@ void PokazOkna::showKolory(const Okno& okno) {
 
 void PokazOkna::showPola(const Okno& okno) {
     for (std::size_t i = 0; i < pola_.size(); ++i) {
-        const PoleTekstu& pole = POLA[i].in(okno);
+        const PoleTekstu& pole = POLA[i].box(okno);
         pola_[i]->showText(toQString(pole.tekst), pole.zaznaczenia);
     }
     txtAutor_->setEnabled(okno.txtAutorEnabled);

@@ -15,7 +15,7 @@ class QWidget;
 namespace dorva {
 
 class Etykieta;
-class Figura;
+class EtykietaFigury;
 class KontrolkiOkna;
 class ObrazWidget;
 class PaletaOkno;
@@ -46,7 +46,7 @@ private:
     WyborWidget* imgZnak_;
     ObrazWidget* imgBufor_;
     std::vector<ObrazWidget*> imgInfo_;
-    std::vector<Figura*> lblInfo_;
+    std::vector<EtykietaFigury*> lblInfo_;
     std::vector<Etykieta*> lblKodBufor_;
     std::vector<ProbkaKoloru*> lblKolor_;
     QScrollBar* hscMonet_;

@@ -4,7 +4,6 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <cstddef>
 
 namespace dorva {
 namespace {
@@ -24,11 +23,11 @@ QChar signOf(char c) {
 } // namespace
 
 QString toQString(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    return QString::fromUtf8(utf8.data(), utf8.size());
 }
 
 QString toQString(const Tekst& tekst) {
-    QString result(static_cast<qsizetype>(tekst.size()), Qt::Uninitialized);
+    QString result(tekst.size(), Qt::Uninitialized);
     std::transform(tekst.znaki.begin(), tekst.znaki.end(), result.begin(), signOf);
     return result;
 }
@@ -39,10 +38,10 @@ Tekst fromEdited(const QString& edited, const Tekst& before) {
     const auto prefix = std::mismatch(edited.begin(), edited.begin() + common, shown.begin()).first - edited.begin();
     const auto rest = common - prefix;
     const auto suffix = std::mismatch(edited.rbegin(), edited.rbegin() + rest, shown.rbegin()).first - edited.rbegin();
-    Tekst result{before.znaki.substr(0, static_cast<std::size_t>(prefix))};
+    Tekst result{before.znaki.substr(0, prefix)};
     for (char32_t c : edited.mid(prefix, edited.size() - prefix - suffix).toUcs4())
         result.znaki += static_cast<char>(c < ' ' || c == KOD_DEL ? Bajt{' '} : fromUnicode(c));
-    result.znaki += before.znaki.substr(before.size() - static_cast<std::size_t>(suffix));
+    result.znaki += before.znaki.substr(before.size() - suffix);
     return result;
 }
 

@@ -7,6 +7,7 @@
 #include "qt/bitmapa_pliku.h"
 #include "qt/budowa_okna.h"
 #include "qt/kontrolki.h"
+#include "qt/opcje_okna.h"
 #include "qt/paleta_okno.h"
 #include "qt/programy.h"
 #include "qt/przeklad.h"
@@ -39,16 +40,12 @@ constexpr PrzyciskOkna PRZYCISKI[]{{"cmdCzysc", cmdCzysc_Click},       {"cmdLoad
                                    {"cmdCreate", cmdCreate_Click},     {"cmdResetKolory", cmdResetKolory_Click},
                                    {"cmdReload", cmdReload_Click},     {"cmdORN", cmdORN_Click}};
 
-// What the selection of an option runs, and what a click on a label of an array runs.
-struct TablicaOkna {
+// What a click on a label of an array runs.
+struct EtykietyOkna {
     std::string_view name;
     void (*run)(Edytor&, int index);
 };
-constexpr TablicaOkna OPCJE[]{{"optEtapNR", SelectEtapNR},
-                              {"optObiektyNR", [](Edytor& e, int index) { (void)SelectObiektyNR(e, index); }},
-                              {"optPPM", [](Edytor& e, int index) { e.okno.optPPM = index; }},
-                              {"optNN", SelectNN}};
-constexpr TablicaOkna ETYKIETY[]{{"lblKolor", PickKolor}, {"lblInfo", lblInfo_Click}};
+constexpr EtykietyOkna ETYKIETY[]{{"lblKolor", PickKolor}, {"lblInfo", lblInfo_Click}};
 
 void bindPrzyciski(const KontrolkiOkna& kontrolki, const Wykonanie& run) {
     for (const PrzyciskOkna& p : PRZYCISKI) {
@@ -58,7 +55,7 @@ void bindPrzyciski(const KontrolkiOkna& kontrolki, const Wykonanie& run) {
 }
 
 void bindOpcje(const KontrolkiOkna& kontrolki, const Wykonanie& run) {
-    for (const TablicaOkna& opcje : OPCJE) {
+    for (const GrupaOpcji& opcje : OPCJE) {
         const auto buttons = kontrolki.getAll<QPushButton>(opcje.name);
         auto* group = new QButtonGroup(buttons.front()->parentWidget());
         for (int id = 0; QPushButton * button : buttons)
@@ -69,7 +66,7 @@ void bindOpcje(const KontrolkiOkna& kontrolki, const Wykonanie& run) {
 }
 
 void bindEtykiety(const KontrolkiOkna& kontrolki, const Wykonanie& run) {
-    for (const TablicaOkna& etykiety : ETYKIETY) {
+    for (const EtykietyOkna& etykiety : ETYKIETY) {
         for (int index = 0; Etykieta * label : kontrolki.getAll<Etykieta>(etykiety.name))
             label->onClick = [run, &etykiety, index = index++] { run([&](Edytor& e) { etykiety.run(e, index); }); };
     }
@@ -78,11 +75,11 @@ void bindEtykiety(const KontrolkiOkna& kontrolki, const Wykonanie& run) {
 void bindPola(const KontrolkiOkna& kontrolki, const Wykonanie& run) {
     for (const Pole& pole : POLA) {
         auto* box = kontrolki.get<PoleEdycji>(pole.name, pole.index);
-        box->setMaxLength(static_cast<int>(pole.width));
+        box->setMaxLength(pole.width);
         box->onEnter = [run, &pole] { run([&](Edytor& e) { txt_GotFocus(e, pole); }); };
         box->onLeave = [run, &pole] { run([&](Edytor& e) { txt_LostFocus(e, pole); }); };
         box->onEdit = [run, &pole](const QString& edited) {
-            run([&](Edytor& e) { txt_Change(e, pole, fromEdited(edited, pole.in(e.okno).tekst)); });
+            run([&](Edytor& e) { txt_Change(e, pole, fromEdited(edited, pole.box(e.okno).tekst)); });
         };
     }
 }

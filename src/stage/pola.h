@@ -11,24 +11,33 @@ namespace dorva {
 
 enum class Forma { Centred, Left };
 
+// Where a text box stands in a record, be it changed or only read.
+class Miejsce {
+public:
+    constexpr Miejsce(auto of) : changed_(of), read_(of) {}
+    PoleTekstu& operator()(Okno& okno) const { return *changed_(okno); }
+    const PoleTekstu& operator()(const Okno& okno) const { return *read_(okno); }
+
+private:
+    PoleTekstu* (*changed_)(Okno&);
+    const PoleTekstu* (*read_)(const Okno&);
+};
+
 // A text box.
 struct Pole {
     std::string_view name; // of its control
     int index;             // in a control array, or -1
-    PoleTekstu& (*box)(Okno&);
+    Miejsce box;
     std::size_t width;
     Forma forma;
-
-    // The box in a record that is only read.
-    [[nodiscard]] const PoleTekstu& in(const Okno& okno) const { return box(const_cast<Okno&>(okno)); }
 };
 
 inline constexpr std::array<Pole, 5> POLA{{
-    {"txtNazwa", -1, [](Okno& o) -> PoleTekstu& { return o.txtNazwa; }, NAZWA_WIDTH, Forma::Centred},
-    {"txtAutor", -1, [](Okno& o) -> PoleTekstu& { return o.txtAutor; }, AUTOR_WIDTH, Forma::Left},
-    {"txtAutorGry", 0, [](Okno& o) -> PoleTekstu& { return o.txtAutorGry[0]; }, LINIA_WIDTH, Forma::Left},
-    {"txtAutorGry", 1, [](Okno& o) -> PoleTekstu& { return o.txtAutorGry[1]; }, LINIA_WIDTH, Forma::Left},
-    {"txtAutorGry", 2, [](Okno& o) -> PoleTekstu& { return o.txtAutorGry[2]; }, LINIA_WIDTH, Forma::Left},
+    {"txtNazwa", -1, [](auto& o) { return &o.txtNazwa; }, NAZWA_WIDTH, Forma::Centred},
+    {"txtAutor", -1, [](auto& o) { return &o.txtAutor; }, AUTOR_WIDTH, Forma::Left},
+    {"txtAutorGry", 0, [](auto& o) { return &o.txtAutorGry[0]; }, LINIA_WIDTH, Forma::Left},
+    {"txtAutorGry", 1, [](auto& o) { return &o.txtAutorGry[1]; }, LINIA_WIDTH, Forma::Left},
+    {"txtAutorGry", 2, [](auto& o) { return &o.txtAutorGry[2]; }, LINIA_WIDTH, Forma::Left},
 }};
 inline constexpr const Pole &POLE_NAZWA = POLA[0], &POLE_AUTOR = POLA[1];
 

@@ -8,7 +8,6 @@
 namespace dorva {
 namespace {
 
-constexpr int COLUMNS = 8;
 constexpr int SLOT_PANELU = 11;
 constexpr int KOLUMNA_PANELU = 2; // luminance 4, the only one that the panel can take
 
@@ -46,7 +45,7 @@ void OpenPaleta(Edytor& e) {
 
 void picPaleta_Click(Edytor& e, int index) {
     if (e.WybranySlot == SLOT_PANELU)
-        index = index / COLUMNS * COLUMNS + KOLUMNA_PANELU;
+        index = index / PALETA_COLUMNS * PALETA_COLUMNS + KOLUMNA_PANELU;
     ShowKolor(e, e.WybranySlot, static_cast<Bajt>(2 * index));
     showWybrany(e);
 }

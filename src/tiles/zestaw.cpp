@@ -1,5 +1,6 @@
 #include "tiles/zestaw.h"
 
+#include "board/plansza.h"
 #include "sciezki.h"
 #include "system/pliki.h"
 #include "tiles/kolory.h"
@@ -31,7 +32,7 @@ void cutStrip(Magazyn& zestawy, const Bitmapa& strip, int swiat) {
 bool ScanZestawy(Edytor& e) {
     const auto folder = e.KatalogBazowy / sciezki::EKSPORT;
     const auto names = listNames(*e.system, folder, ".ND");
-    const int count = static_cast<int>(names.size());
+    const int count = names.size();
     for (int swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
         // The listing says once that it is at its end; asking it again is a failure.
         if (swiat > count)
@@ -59,13 +60,8 @@ void LoadZestaw(Edytor& e, const std::filesystem::path& path, int swiat) {
 
 void ShowZestaw(Edytor& e, int swiat) {
     Okno& okno = e.okno;
-    const auto s = static_cast<std::int8_t>(swiat);
-    const int half = okno.optNN == 1 ? INV : 0;
-    for (int i = 0; i < ZNAKI_COUNT; ++i) {
-        ZnakSlot& slot = okno.imgZnak[i];
-        slot.znak = znak(i + half);
-        slot.obraz = {s, slot.znak};
-    }
+    const std::int8_t s = swiat;
+    showWybor(okno, swiat, okno.optNN);
     okno.imgBufor.obraz = {s, okno.imgBufor.znak};
     for (PokazanyZnak& cell : okno.imgPG)
         cell.obraz = {s, cell.znak};
