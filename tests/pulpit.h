@@ -12,6 +12,7 @@
 #include <deque>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <random>
 
 namespace dorva::test {
@@ -23,23 +24,16 @@ inline constexpr bool POSIX = fs::path::preferred_separator == '/';
 
 // A new folder, in memory where the system has a place for that.
 inline fs::path makeFolder() {
-    const fs::path memory = "/dev/shm";
-    const fs::path place = POSIX && fs::exists(memory) ? memory : fs::temp_directory_path();
-    std::random_device random;
-    for (;;)
-        if (const fs::path folder = place / ("dorva-" + std::to_string(random())); fs::create_directory(folder))
-            return folder;
+    const fs::path place = POSIX && fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path();
+    fs::path folder = place;
+    while (!fs::create_directory(folder))
+        folder = place / ("dorva-" + std::to_string(std::random_device{}()));
+    return folder;
 }
 
 inline Bajty readFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
-    std::error_code error;
-    const auto length = fs::file_size(path, error);
-    if (error)
-        return {};
-    Bajty bytes(length);
-    file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    return bytes;
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 inline void writeFile(const fs::path& path, const Bajty& bytes) {

@@ -110,11 +110,10 @@ TEST(Zestaw, TilesAreDistinctAndDirectionsMirror) {
     std::set<Wzor> ziemie;
     for (const std::string name : ZESTAWY) {
         const Bajty znaki = readDane("OBIEKTY/ORN_EXPORT/" + name);
-        std::set<Wzor> rozne;
+        std::set<Wzor> rozne{wzor(znaki, 127)}; // no tile looks like a code that is none
         for (int code = 0; code < ZNAKI_COUNT; ++code)
             EXPECT_TRUE(rozne.insert(wzor(znaki, code)).second) << name << " repeats tile " << code;
         EXPECT_EQ(wzor(znaki, 0), Wzor{});
-        EXPECT_FALSE(rozne.contains(wzor(znaki, 127))) << "no tile looks like a code that is none";
         for (int code : {19, 26, 36, 43, 45})
             EXPECT_EQ(leftRight(wzor(znaki, code)), wzor(znaki, code + 1)) << name << " " << code;
         for (int code : {21, 28, 38, 47})
