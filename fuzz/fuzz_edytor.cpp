@@ -160,7 +160,7 @@ void checkPack(Edytor e) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const Edytor fresh = freshEditor();
-    static const auto szablon = std::make_shared<test::Plik>(test::Plik{Bajty(GRA_SIZE_BYTES, 7), {}, ""});
+    static const auto szablon = std::make_shared<test::Plik>(test::Plik{Bajty(GRA_SIZE_BYTES, 7), {}});
     Strumien stream{{data, size}};
     input = &stream;
     pamiec = {};

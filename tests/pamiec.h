@@ -34,7 +34,6 @@ struct Awaria {
 struct Plik {
     Bajty bytes;
     Bajty flushed; // what the disk is sure to hold
-    std::string celDowiazania;
 };
 using PlikRef = std::shared_ptr<Plik>;
 
@@ -48,17 +47,10 @@ struct Pamiec {
     std::vector<Otwarty> otwarte;
     Awaria awaria;
 
-    void put(const std::string& path, const Bajty& bytes, const std::string& celDowiazania = "") {
-        nazwy[path] = std::make_shared<Plik>(Plik{bytes, bytes, celDowiazania});
-    }
+    void put(const std::string& path, const Bajty& bytes) { nazwy[path] = std::make_shared<Plik>(Plik{bytes, bytes}); }
     [[nodiscard]] PlikRef find(const Sciezka& path) const {
         const auto found = nazwy.find(path.generic_string());
         return found == nazwy.end() ? nullptr : found->second;
-    }
-    // Links are followed, one step of them.
-    [[nodiscard]] Sciezka behindLink(const Sciezka& path) const {
-        const PlikRef plik = find(path);
-        return plik && !plik->celDowiazania.empty() ? path.parent_path() / plik->celDowiazania : path;
     }
     void setName(const Sciezka& path, const PlikRef& plik) {
         const std::string name = path.generic_string();
@@ -78,7 +70,7 @@ inline Pamiec pamiec;
 inline Pliki Pamiec::files(std::string_view prefix) const {
     Pliki files;
     for (const auto& [name, plik] : nazwy)
-        if (plik->celDowiazania.empty() && name.starts_with(prefix))
+        if (name.starts_with(prefix))
             files[name] = plik->bytes;
     return files;
 }
@@ -101,7 +93,7 @@ inline std::vector<Pliki> Pamiec::afterPowerCut() const {
         pliki.push_back(find(name));
         std::vector<Pliki> longer;
         for (const PlikRef& plik : pliki) {
-            if (!plik || !plik->celDowiazania.empty()) {
+            if (!plik) {
                 longer.insert(longer.end(), states.begin(), states.end());
                 continue;
             }
@@ -120,7 +112,7 @@ inline Wynik describe(const PlikRef& plik, OpisPliku& opis) {
     if (!plik)
         return Wynik::NieMa;
     opis = {};
-    opis.rodzaj = plik->celDowiazania.empty() ? RodzajPliku::Zwykly : RodzajPliku::Dowiazanie;
+    opis.rodzaj = RodzajPliku::Zwykly;
     opis.length = plik->bytes.size();
     opis.number = reinterpret_cast<std::uintptr_t>(plik.get());
     const auto isName = [&](const auto& entry) { return entry.second == plik; };
@@ -133,16 +125,11 @@ inline Wynik describeFile(Uchwyt file, OpisPliku& opis) {
     return describe(pamiec.at(file).plik, opis);
 }
 
-inline Wynik lstatPath(const Sciezka& path, OpisPliku& opis) {
+inline Wynik describePath(const Sciezka& path, OpisPliku& opis) {
     return describe(pamiec.find(path), opis);
 }
 
-inline Wynik statPath(const Sciezka& path, OpisPliku& opis) {
-    return lstatPath(pamiec.behindLink(path), opis);
-}
-
-inline Wynik openPath(const Sciezka& link, Otwarcie otwarcie, Uchwyt& file) {
-    const Sciezka path = pamiec.behindLink(link);
+inline Wynik openPath(const Sciezka& path, Otwarcie otwarcie, Uchwyt& file) {
     auto plik = pamiec.find(path);
     if (plik && otwarcie == Otwarcie::Nowy)
         return Wynik::Zajete;
@@ -198,11 +185,6 @@ inline Wynik closeFile(Uchwyt file) {
     return pamiec.awaria.strikes() ? pamiec.awaria.error : Wynik::Ok;
 }
 
-inline Wynik readLink(const Sciezka& path, Sciezka& target) {
-    target = pamiec.find(path)->celDowiazania;
-    return Wynik::Ok;
-}
-
 inline Wynik moveName(const Sciezka& from, const Sciezka& to) {
     pamiec.setName(to, pamiec.find(from));
     pamiec.setName(from, nullptr);
@@ -245,9 +227,9 @@ inline const SystemPlikow* systemPamieci() {
         .close = closeFile,
         .describe = mayFail<describeFile>,
         .makeLike = [](Uchwyt, const OpisPliku&) { return Wynik::Ok; },
-        .stat = mayFail<statPath>,
-        .lstat = mayFail<lstatPath>,
-        .readLink = mayFail<readLink>,
+        .stat = mayFail<describePath>,
+        .lstat = mayFail<describePath>,
+        .readLink = nullptr, // there are no links
         .rename = mayFail<moveName>,
         .renameNew = mayFail<moveNewName>,
         .remove =

@@ -48,9 +48,8 @@ void makeStage() {
     pamiec.put(at("wybrany"), sampleEtap(9));
 }
 
-void makeLink() {
-    pamiec.put(at("cel"), {1, 2, 3});
-    pamiec.put(at("wybrany"), {}, "cel");
+void makeOther() {
+    pamiec.put(at("wybrany"), {1, 2, 3});
 }
 
 void startNew(Edytor& e) {
@@ -73,19 +72,19 @@ const std::vector<Scenariusz> SCENARIUSZE{
      {"Nie można zapisać etapu."},
      {ETAP_1}},
     {"load", makeStage, cmdLoad_Click, {}, {}, true},
-    {"save", makeLink, cmdSave_Click, {ZASTAPIC, "Dane etapu zostały pomyślnie zapisane"}, {at("cel")}},
+    {"save", makeOther, cmdSave_Click, {ZASTAPIC, "Dane etapu zostały pomyślnie zapisane"}, {at("wybrany")}},
     {"clear", nothing, cmdCzysc_Click, {std::string(komunikaty::CZYSZCZENIE.text)}, {}, true},
     {"archive save",
-     makeLink,
+     makeOther,
      cmdSaveArch_Click,
      {ZASTAPIC, "Archiwum zostało pomyślnie zapisane"},
-     {at("cel"), ETAP_1}},
+     {at("wybrany"), ETAP_1}},
     {"archive load", makeArchive, cmdLoadArch_Click, {}, {at("praca/ETAPY/DETAP.2"), LINIE}, true},
     {"game build",
-     makeLink,
+     makeOther,
      cmdCreate_Click,
      {ZASTAPIC, std::string(komunikaty::GRA_UTWORZONA.text)},
-     {at("cel"), XEX}},
+     {at("wybrany"), XEX}},
     {"test build", nothing, cmdTest_Click, {std::string(komunikaty::TEST_UTWORZONY.text)}, {XEX}},
     {"exit", nothing, Form_QueryUnload, {}, {ETAP_1, LINIE}},
     {"exit after an early end of start", removeTileSets, Form_QueryUnload, {}, {ETAP_1, LINIE}},

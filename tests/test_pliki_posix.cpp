@@ -21,6 +21,9 @@ TEST_F(PlikiPosix, WriteKeepsModeAndLinks) {
     }, now{};
     ::stat(file.c_str(), &before);
     fs::create_symlink("plik", link);
+    SystemPlikow unread = SYSTEM_PLIKOW;
+    unread.readLink = [](const fs::path&, fs::path&) { return Wynik::Blad; };
+    EXPECT_FALSE(writeWhole(unread, link, Bajty{9}));
     ASSERT_TRUE(writeWhole(SYSTEM_PLIKOW, link, Bajty{9}));
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(readFile(file), Bajty{9});
