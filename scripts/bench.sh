@@ -3,6 +3,7 @@
 # Benchmarks X and XPlain take turns; the medians of their repetitions are compared. Times in microseconds.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+scripts/options.sh bench '' "$@"
 scripts/setup.sh --tests
 cmake --preset release >/dev/null
 cmake --build --preset release >/dev/null

@@ -4,6 +4,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
+scripts/options.sh docs-check '--write' "$@"
 [ -d build/release/data ] || { echo "docs-check: nothing is built; run scripts/run.sh --no-start first"; exit 1; }
 room=$(mktemp -d)
 trap 'rm -rf "$room"' EXIT

@@ -5,6 +5,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
+scripts/options.sh package-check 'ARCHIVE' "$@"
 archive=${1-$(find build/release -maxdepth 1 -name 'dorva-planszownik-*.tar.gz' 2>/dev/null | sort | tail -n 1)}
 [ -f "$archive" ] || { echo "package-check: no package; run scripts/package.sh first"; exit 1; }
 archive=$(realpath "$archive")

@@ -3,6 +3,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
+scripts/options.sh package '' "$@"
 scripts/run.sh --no-start
 cd build/release
 cpack

@@ -6,6 +6,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
+scripts/options.sh play-check '--pictures BUILD' "$@"
 pictures=no
 [ "${1-}" != --pictures ] || { pictures=yes && shift; }
 build=${1-build/release}

@@ -3,6 +3,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
+scripts/options.sh test '' "$@"
 scripts/setup.sh --tests
 cmake --preset release >/dev/null
 cmake --build --preset release

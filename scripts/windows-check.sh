@@ -6,6 +6,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
+scripts/options.sh windows-check '' "$@"
 zip=$(realpath build/windows/dorva-planszownik-*-windows-x64.zip)
 pictures=$PWD/build/windows/obrazy
 mkdir -p "$pictures"

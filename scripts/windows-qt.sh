@@ -3,6 +3,7 @@
 # (core, gui, widgets) and its tests (testlib) need; shared libraries. Roughly an hour on two cores.
 # --where: only prints the folder, whether anything is in it or not.
 set -eu
+"$(dirname "$0")/options.sh" windows-qt '--where' "$@"
 
 version=6.4.2
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/dorva-planszownik

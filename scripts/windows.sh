@@ -7,6 +7,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
+scripts/options.sh windows '--tests --check --have-qt' "$@"
 qt=$(scripts/windows-qt.sh --where)
 build=build/windows
 case ${1-} in --have-qt) [ -f "$qt/ready" ] && exit || exit 1 ;; esac
