@@ -1,13 +1,18 @@
 #!/bin/sh
 # Installs what is missing, builds the program and its data, lays the program folder and starts the editor.
-# --no-start: all but that.
+# --no-start: all but that. Without Qt the data are built and laid all the same, and the status is 1.
 set -eu
 
 cd "$(dirname "$0")/.."
+scripts/options.sh run '--no-start' "$@"
 scripts/setup.sh
 cmake --preset release >/dev/null
 cmake --build --preset release --target praca
 scripts/lay.sh build/release
+[ -x build/release/src/qt/planszownik ] || {
+    echo "run: the window can't be built, Qt 6 is missing (qt6-base-dev); the data are laid in $PWD/planszownik" >&2
+    exit 1
+}
 [ "${1-}" != --no-start ] || exit 0
 planszownik/planszownik || {
     status=$?
