@@ -8,10 +8,11 @@ display_server='' display_manager='' window=''
 open_display() {
     Xvfb -displayfd 3 -noreset -screen 0 "$2x$3x24" 3>"$1/display" >/dev/null 2>&1 &
     display_server=$!
-    while [ ! -s "$1/display" ]; do
-        kill -0 "$display_server" 2>/dev/null || { echo "display: Xvfb does not start" >&2; return 1; }
+    for _ in $(seq 100); do
+        if [ -s "$1/display" ] || ! kill -0 "$display_server" 2>/dev/null; then break; fi
         sleep 0.2
     done
+    [ -s "$1/display" ] || { echo "display: Xvfb does not start" >&2; return 1; }
     DISPLAY=:$(cat "$1/display")
     export DISPLAY
 }

@@ -4,11 +4,14 @@
 set -eu
 
 cd "$(dirname "$0")/.."
+scripts/options.sh pictures '' "$@"
 for tool in Xvfb openbox xdotool import convert; do
-    command -v $tool >/dev/null || { echo "pictures: $tool is missing"; exit 1; }
+    command -v $tool >/dev/null || { echo "pictures: $tool is missing" >&2; exit 1; }
 done
 pictures=$PWD/docs/obrazy
-archive=$(realpath "$(find build/release -maxdepth 1 -name 'dorva-planszownik-*.tar.gz' | sort | tail -n 1)")
+archive=$(find build/release -maxdepth 1 -name 'dorva-planszownik-*.tar.gz' 2>/dev/null | sort | tail -n 1)
+[ -f "$archive" ] || { echo "pictures: no package; run scripts/package.sh first" >&2; exit 1; }
+archive=$(realpath "$archive")
 
 . scripts/display.sh
 editor='' room=''
