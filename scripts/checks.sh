@@ -102,6 +102,9 @@ documents() {
     if game_built; then scripts/docs-check.sh; else echo 'skipped: the game is not built'; fi
 }
 
+# What the log says of parts left out, and how it ended.
+outcome() { grep -E "^(windows: )?skipped|$1" "$2" | tail -n 3 | paste -sd';' | sed 's/;/; /g'; }
+
 # The package unpacked, used, and unpacked again over itself.
 package() {
     if window_built && game_built; then
@@ -110,6 +113,7 @@ package() {
         echo 'skipped: the window or the game is not built'
     fi
 }
+summary_package() { outcome 'all well' "$1"; }
 
 # The Windows version under Wine: the logic's tests always, the window where Qt for Windows lies in the cache.
 windows() {
@@ -119,7 +123,7 @@ windows() {
         scripts/windows.sh --tests
     fi
 }
-summary_windows() { grep -E '^windows: skipped|PASSED|logic only|all well' "$1" | tail -n 3 | paste -sd';' | sed 's/;/; /g'; }
+summary_windows() { outcome 'PASSED|logic only|all well' "$1"; }
 
 # The sample game in the emulator, where there is one.
 play() {

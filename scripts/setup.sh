@@ -4,12 +4,14 @@
 # --tests: also what tests and benchmarks need. --checks: all that, and what the slower checks need. --windows: also what
 # the Windows version and a look at it under Wine need.
 set -u
+"$(dirname "$0")/options.sh" setup '--tests --checks --windows' "$@" || exit
 
 packages="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n cc65"
 case ${1-} in --tests | --checks) packages="$packages libgtest-dev libbenchmark-dev" ;; esac
 [ "${1-}" != --windows ] || packages="$packages g++-mingw-w64-x86-64-posix googletest qt6-base-dev-tools dpkg-dev perl
     python3 wine wine64 xvfb openbox xdotool x11-xkb-utils imagemagick unzip"
-[ "${1-}" != --checks ] || packages="$packages clang libclang-rt-14-dev llvm clang-tidy clang-format shellcheck"
+[ "${1-}" != --checks ] || packages="$packages clang libclang-rt-dev llvm clang-tidy clang-format shellcheck
+    xvfb openbox xdotool desktop-file-utils"
 
 if ! command -v dpkg-query >/dev/null 2>&1; then
     for tool in cmake ninja c++ ca65; do
