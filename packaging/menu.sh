@@ -2,6 +2,7 @@
 # Dodaje Planszownik do menu programów bieżącego użytkownika. Z opcją --usun: usuwa go stamtąd.
 set -eu
 cd "$(dirname "$0")"
+case ${1-} in '' | --usun) ;; *) echo "menu.sh: nie ma opcji $1; jest: --usun" >&2 && exit 2 ;; esac
 
 wpis=${XDG_DATA_HOME:-$HOME/.local/share}/applications/dorva-planszownik.desktop
 if [ "${1-}" = --usun ]; then
