@@ -92,11 +92,24 @@ TEST_F(Start, HooksThatThrowOrAreMissingAnswerLikeACancel) {
     }
 }
 
-TEST_F(Start, RelativeProgramFolder) {
+// Told by its name alone, one with spaces, quotes and Polish letters.
+TEST_F(Start, OddFolderAndFileNames) {
+    const std::string quote = POSIX ? "\"" : "'";
+    const auto odd = root / (POSIX ? "Moje gry: zażółć gęślą jaźń" : "Moje gry - zażółć gęślą jaźń & %100^");
+    fs::rename(base, odd);
     fs::current_path(root);
-    Form_Load(e, base.filename(), "1.0.2");
-    EXPECT_EQ(e.image, sampleEtap(1));
+    Form_Load(e, odd.filename(), "1.0.2");
     EXPECT_EQ(e.OstatniaSciezka, fs::canonical(root));
+    chosen = root / ("Gra " + quote + "Łoś" + quote + ".dpa");
+    cmdSaveArch_Click(e);
+    cmdLoadArch_Click(e);
+    chosen = root / "Gra łosia.xex";
+    cmdCreate_Click(e);
+    EXPECT_EQ(readFile(*chosen).size(), GRA_SIZE_BYTES);
+    EXPECT_EQ(readFile(odd / "PLIKI/TEST.XEX"), readFile(*chosen));
+    EXPECT_EQ(started.size(), 1U);
+    SelectEtapNR(e, 8);
+    EXPECT_EQ(e.image, sampleEtap(9));
 }
 
 TEST_F(Start, EmptiedBoxIsRefilledAndLeavingFitsTheText) {
