@@ -33,9 +33,10 @@ apt-get $own_list update -qq
 apt-get $own_list source -qq qt6-base/bookworm
 source=$(echo qt6-base-$version*/)
 
+# directwrite can't be linked without direct2d; letters are drawn by freetype.
 off=
-for feature in network sql dbus xml concurrent printsupport vulkan direct2d icu zstd glib system_zlib pkg_config tabletevent \
-    jpeg gif ico textmarkdownreader textmarkdownwriter textodfwriter; do
+for feature in network sql dbus xml concurrent printsupport vulkan direct2d directwrite directwrite3 icu zstd glib \
+    system_zlib pkg_config tabletevent jpeg gif ico textmarkdownreader textmarkdownwriter textodfwriter; do
     off="$off -DFEATURE_$feature=OFF"
 done
 # shellcheck disable=SC2086
