@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 #include <iterator>
 #include <random>
+#include <utility>
 
 namespace dorva::test {
 
@@ -124,7 +125,7 @@ protected:
             dialogs.push_back(d);
             return chosen;
         };
-        edytor.haki.startProgram = [this](const fs::path& p, OknoProgramu) { started.push_back(p); };
+        edytor.haki.startProgram = [this](const fs::path& p, OknoProgramu o) { started.emplace_back(p, o); };
         edytor.haki.loadPicture = [this](const fs::path& p, int, int) -> std::optional<Bitmapa> {
             const auto found = strips.find(p.filename().string());
             return found == strips.end() ? std::nullopt : std::optional(found->second);
@@ -149,11 +150,11 @@ protected:
     const SystemPlikow* dysk = &SYSTEM_PLIKOW;
     fs::path root, base;
     Edytor e;
-    std::vector<std::string> shown;        // texts of the message boxes
-    std::deque<bool> answers;              // to the message boxes, OK and Yes when used up
-    std::vector<DialogPliku> dialogs;      // the file dialogs
-    std::optional<fs::path> chosen;        // in the file dialogs
-    std::vector<fs::path> started;         // programs
+    std::vector<std::string> shown;   // texts of the message boxes
+    std::deque<bool> answers;         // to the message boxes, OK and Yes when used up
+    std::vector<DialogPliku> dialogs; // the file dialogs
+    std::optional<fs::path> chosen;   // in the file dialogs
+    std::vector<std::pair<fs::path, OknoProgramu>> started;
     std::map<std::string, Bitmapa> strips; // pictures by file name
 };
 

@@ -33,7 +33,9 @@ TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {
     cmdCreate_Click(e);
     EXPECT_EQ(shown,
               std::vector<std::string>{"Został utworzony plik XEX z grą Dorva.\nUruchomić grę na emulatorze Atari?"});
-    EXPECT_EQ(started, std::vector<fs::path>{base / "PLIKI/DP3.BAT"});
+    cmdORN_Click(e);
+    EXPECT_EQ(started, (decltype(started){{base / "PLIKI/DP3.BAT", OknoProgramu::Hidden},
+                                          {base / "OBIEKTY/ORN.exe", OknoProgramu::Normal}}));
     EXPECT_EQ(fs::current_path(), fs::canonical(base));
 
     const Bajty game = readFile(*chosen);
@@ -57,7 +59,7 @@ TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {
     answers = {true, false};
     cmdCreate_Click(e);
     EXPECT_EQ(readFile(*chosen), game);
-    EXPECT_EQ(started.size(), 1U) << "No starts nothing";
+    EXPECT_EQ(started.size(), 2U) << "No starts nothing";
 }
 
 TEST_F(ObrazGry, GameReadsEverythingBeforeItAsks) {

@@ -12,7 +12,8 @@ template <Wynik wynik> Wynik answer(const fs::path&, const fs::path&) {
 }
 
 TEST_F(Pliki, WhatIsNotOnDiskIsNotWritten) {
-    writeFile(root / "plik", {1});
+    fs::current_path(root);
+    ASSERT_TRUE(writeWhole(SYSTEM_PLIKOW, "plik", Bajty{1})) << "a name without a folder";
     SystemPlikow unflushed = SYSTEM_PLIKOW, unclosed = SYSTEM_PLIKOW;
     unflushed.flush = [](Uchwyt) { return Wynik::Blad; };
     unclosed.close = [](Uchwyt file) { return SYSTEM_PLIKOW.close(file), Wynik::Blad; };
@@ -31,12 +32,6 @@ TEST_F(Pliki, ListingThatBreaksOffGivesNoNames) {
     };
     EXPECT_TRUE(listNames(system, root, ".ND").empty());
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, ".ND").size(), 2U);
-}
-
-TEST_F(Pliki, ANameWithoutAFolder) {
-    fs::current_path(root);
-    ASSERT_TRUE(writeWhole(SYSTEM_PLIKOW, "plik", Bajty{4, 5}));
-    EXPECT_EQ(readUpTo(SYSTEM_PLIKOW, root / "plik", 3), (Bajty{4, 5}));
 }
 
 // Another program writes to the file, or makes it, while the new content is flushed.

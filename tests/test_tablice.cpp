@@ -1,5 +1,4 @@
 // Tables that other programs and people rely on, as a whole: a slip in one entry shows in a sum or in its row.
-#include "output/narzedzia.h"
 #include "output/obraz_gry.h"
 #include "pulpit.h"
 #include "shell/komunikaty.h"
@@ -89,16 +88,6 @@ TEST_F(Dialogi, NamesFiltersAndWhereTheNextOneStarts) {
         EXPECT_EQ(e.OstatniaSciezka, last) << "a cancel changes nothing";
     }
     EXPECT_EQ(dialogs.size(), 10U);
-}
-
-TEST_F(Dialogi, ProgramsAndTheirWindows) {
-    start();
-    std::vector<std::pair<fs::path, OknoProgramu>> programs;
-    e.haki.startProgram = [&](const fs::path& path, OknoProgramu window) { programs.emplace_back(path, window); };
-    RunEmulator(e);
-    cmdORN_Click(e);
-    EXPECT_EQ(programs, (decltype(programs){{base / "PLIKI/DP3.BAT", OknoProgramu::Hidden},
-                                            {base / "OBIEKTY/ORN.exe", OknoProgramu::Normal}}));
 }
 
 } // namespace
