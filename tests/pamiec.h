@@ -195,6 +195,13 @@ inline Wynik moveNewName(const Sciezka& from, const Sciezka& to) {
     return pamiec.find(to) ? Wynik::Zajete : moveName(from, to);
 }
 
+inline Wynik swapNames(const Sciezka& one, const Sciezka& other) {
+    const PlikRef plik = pamiec.find(one);
+    pamiec.setName(one, pamiec.find(other));
+    pamiec.setName(other, plik);
+    return Wynik::Ok;
+}
+
 inline Wynik removeName(const Sciezka& path) {
     if (!pamiec.find(path))
         return Wynik::NieMa;
@@ -232,6 +239,7 @@ inline const SystemPlikow* systemPamieci() {
         .readLink = nullptr, // there are no links
         .rename = mayFail<moveName>,
         .renameNew = mayFail<moveNewName>,
+        .swap = mayFail<swapNames>,
         .remove =
             [](const Sciezka& path) {
                 const Wynik wynik = mayFail<removeName>(path);

@@ -247,15 +247,20 @@ TEST_P(Awarie, NoPowerCutLosesAnything) {
     watched.flush = traced<&SystemPlikow::flush>;
     watched.rename = traced<&SystemPlikow::rename>;
     watched.renameNew = traced<&SystemPlikow::renameNew>;
+    watched.swap = traced<&SystemPlikow::swap>;
     watched.remove = traced<&SystemPlikow::remove>;
     watched.flushFolder = traced<&SystemPlikow::flushFolder>;
-    open();
-    e.system = &watched;
-    s.run(e);
-    ASSERT_FALSE(HasFailure());
-    for (const Pliki& disk : pamiec.afterPowerCut())
-        for (const auto& [name, bytes] : after)
-            EXPECT_TRUE(bytes.empty() || isIn(disk, name, bytes)) << name << " is told as written and isn't there";
+    for (bool swaps : {true, false}) {
+        open();
+        e.system = &watched;
+        if (!swaps)
+            watched.swap = [](const Sciezka&, const Sciezka&) { return Wynik::Odmowa; };
+        s.run(e);
+        ASSERT_FALSE(HasFailure());
+        for (const Pliki& disk : pamiec.afterPowerCut())
+            for (const auto& [name, bytes] : after)
+                EXPECT_TRUE(bytes.empty() || isIn(disk, name, bytes)) << name << " is told as written and isn't there";
+    }
     std::cout << s.name << ": " << calls << " calls, " << cuts << " power cuts\n";
 }
 

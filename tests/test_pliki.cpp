@@ -34,41 +34,56 @@ TEST_F(Pliki, ListingThatBreaksOffGivesNoNames) {
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, ".ND").size(), 2U);
 }
 
-// Another program writes to the file, or makes it, while the new content is flushed.
+// Another program makes the file or writes to it while the new content is flushed, while a copy is named, or at the
+// last moment.
 TEST_F(Pliki, WhatComesBetweenIsKept) {
-    static fs::path between;
-    between = root / "plik";
-    SystemPlikow system = SYSTEM_PLIKOW;
-    system.flush = [](Uchwyt file) {
-        writeFile(std::exchange(between, "/brak/plik"), {7});
-        return SYSTEM_PLIKOW.flush(file);
+    static std::string moments;
+    static fs::path plik;
+    plik = root / "plik";
+    static const auto passes = [](char moment) {
+        if (moments.starts_with(moment)) {
+            moments.erase(0, 1);
+            writeFile(plik, {static_cast<Bajt>(moment)});
+        }
     };
-    EXPECT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{1}, {}));
-    EXPECT_EQ(readFile(root / "plik.kopia"), Bajty{7});
-    between = root / "plik";
-    EXPECT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{2}, Bajty{1}));
-    EXPECT_EQ(readFile(root / "plik.kopia2"), Bajty{7});
-    EXPECT_EQ(readFile(root / "plik"), Bajty{2});
-    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 4U);
+    SystemPlikow system = SYSTEM_PLIKOW;
+    system.flush = [](Uchwyt file) { return passes('f'), SYSTEM_PLIKOW.flush(file); };
+    system.renameNew = [](const fs::path& from, const fs::path& to) {
+        const Wynik wynik = SYSTEM_PLIKOW.renameNew(from, to);
+        return passes(to == plik ? ' ' : 'k'), wynik;
+    };
+    system.swap = [](const fs::path& one, const fs::path& other) {
+        return passes('s'), SYSTEM_PLIKOW.swap(one, other);
+    };
+    moments = "fk";
+    EXPECT_TRUE(writeKeepingUnknown(system, plik, Bajty{1}, {}));
+    moments = POSIX ? "s" : "f"; // Windows exchanges no names
+    EXPECT_TRUE(writeKeepingUnknown(system, plik, Bajty{2}, Bajty{1}));
+    EXPECT_EQ(readFile(plik), Bajty{2});
+    EXPECT_EQ(readFile(root / "plik.kopia"), Bajty{'f'});
+    EXPECT_EQ(readFile(root / "plik.kopia2"), Bajty{'k'});
+    EXPECT_EQ(readFile(root / "plik.kopia3"), Bajty{static_cast<Bajt>(POSIX ? 's' : 'f')});
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 5U);
 }
 
-TEST_F(Pliki, WhatCannotBeCopiedIsMovedOrNotReplaced) {
-    SystemPlikow taken = SYSTEM_PLIKOW, unmoved = SYSTEM_PLIKOW;
-    taken.renameNew = answer<Wynik::Zajete>;
-    unmoved.rename = answer<Wynik::Blad>;
+TEST_F(Pliki, WhatCannotBeKeptIsNotReplaced) {
+    SystemPlikow swapless = SYSTEM_PLIKOW, unnamed = SYSTEM_PLIKOW;
+    swapless.swap = answer<Wynik::Odmowa>;
+    unnamed.renameNew = answer<Wynik::Blad>;
     writeFile(root / "plik", {1});
-    EXPECT_FALSE(writeKeepingUnknown(taken, root / "plik", Bajty{2}, {})) << "another program took the copy's name";
-    fs::resize_file(root / "plik", 100U << 20U);
-    EXPECT_FALSE(writeKeepingUnknown(unmoved, root / "plik", Bajty{2}, {}));
-    EXPECT_EQ(fs::file_size(root / "plik"), 100U << 20U) << "too long to be copied, and back at its place";
+    EXPECT_FALSE(writeKeepingUnknown(unnamed, root / "plik", Bajty{2}, {}));
+    fs::resize_file(root / "plik", 100U << 20U); // too long to be copied
+    for (const SystemPlikow& system : {swapless, unnamed})
+        EXPECT_FALSE(writeKeepingUnknown(system, root / "plik", Bajty{2}, {}));
+    EXPECT_EQ(fs::file_size(root / "plik"), 100U << 20U);
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 2U);
-    EXPECT_TRUE(writeKeepingUnknown(SYSTEM_PLIKOW, root / "plik", Bajty{2}, {}));
-    EXPECT_EQ(fs::file_size(root / "plik.kopia"), 100U << 20U);
-    EXPECT_EQ(readFile(root / "plik"), Bajty{2});
+    EXPECT_EQ(writeKeepingUnknown(SYSTEM_PLIKOW, root / "plik", Bajty{2}, {}), POSIX) << "under another name, as it is";
+    EXPECT_EQ(fs::file_size(root / (POSIX ? "plik.kopia" : "plik")), 100U << 20U);
 }
 
 TEST_F(Pliki, ARenameThatIsCarriedOutAndAnsweredByAnErrorKeepsTheCopy) {
     SystemPlikow moves = SYSTEM_PLIKOW, refuses = SYSTEM_PLIKOW;
+    moves.swap = refuses.swap = answer<Wynik::Odmowa>;
     moves.rename = [](const fs::path& from, const fs::path& to) { return SYSTEM_PLIKOW.rename(from, to), Wynik::Blad; };
     refuses.rename = answer<Wynik::Blad>;
     for (bool carriedOut : {true, false}) {
@@ -84,7 +99,7 @@ TEST_F(Pliki, ARenameThatIsCarriedOutAndAnsweredByAnErrorKeepsTheCopy) {
 TEST_F(Pliki, InPlaceWhereTheFolderRefusesNewNames) {
     static bool full;
     SystemPlikow system = SYSTEM_PLIKOW;
-    system.rename = answer<Wynik::Odmowa>;
+    system.rename = system.swap = answer<Wynik::Odmowa>;
     system.write = [](Uchwyt file, std::span<const Bajt> bytes, std::size_t& count) {
         return full && bytes.size() == 5 ? Wynik::Blad : SYSTEM_PLIKOW.write(file, bytes, count);
     };

@@ -132,6 +132,8 @@ public:
             path_ /= std::string(TEMPORARY_PREFIX) + std::to_string(number) + std::string(TEMPORARY_SUFFIX);
             wynik_ = write(bytes, like);
         }
+        if (wynik_ == Wynik::Zajete)
+            wynik_ = Wynik::Odmowa;
     }
     ~Nowy() { drop(); }
     Nowy(const Nowy&) = delete;
@@ -140,6 +142,9 @@ public:
     [[nodiscard]] Wynik wynik() const { return wynik_; }
     Wynik replace(const fs::path& path) { return moveTo(path, system_.rename); }
     Wynik takeFreeName(const fs::path& path) { return moveTo(path, system_.renameNew); }
+    // Takes the place of a file, whose content is then what this one holds.
+    Wynik swap(const fs::path& path) { return wynik_ == Wynik::Ok ? system_.swap(path_, path) : wynik_; }
+    [[nodiscard]] std::optional<Bajty> content() const { return readWhole(system_, path_); }
     void drop() {
         if (isThere_)
             system_.remove(path_);
@@ -202,59 +207,47 @@ bool replace(const SystemPlikow& system, const Cel& cel, Nowy& nowy, std::span<c
 
 // Whether a temporary file was left over by a program that was killed.
 bool isLeftover(const SystemPlikow& system, const fs::path& path) {
+    const auto& name = path.filename().native();
+    const auto prefix = fs::path(TEMPORARY_PREFIX).native();
+    const auto isDigit = [](auto letter) { return letter >= '0' && letter <= '9'; };
     OpisPliku opis;
-    return path.filename().native().starts_with(fs::path(TEMPORARY_PREFIX).native()) &&
+    return name.starts_with(prefix) &&
+           std::all_of(name.begin() + std::ssize(prefix), name.end() - std::ssize(TEMPORARY_SUFFIX), isDigit) &&
            system.lstat(path, opis) == Wynik::Ok && opis.age > LEFTOVER_AGE;
 }
 
-// The first free name of <name>.kopia, .kopia2, .kopia3, ...
-std::optional<fs::path> freeKopia(const SystemPlikow& system, const fs::path& path) {
+// Gives a new file the first free name of <name>.kopia, .kopia2, .kopia3, ...
+std::optional<fs::path> takeKopia(Nowy& nowy, const fs::path& path) {
     constexpr int KOPIE_MAX = 10000;
     for (int number = 1; number < KOPIE_MAX; ++number) {
         fs::path kopia = path;
         kopia += number == 1 ? ".kopia" : ".kopia" + std::to_string(number);
-        OpisPliku opis;
-        const Wynik wynik = system.lstat(kopia, opis);
-        if (wynik == Wynik::Ok)
-            continue;
-        return wynik == Wynik::NieMa ? std::optional(kopia) : std::nullopt;
+        const Wynik wynik = nowy.takeFreeName(kopia);
+        if (wynik != Wynik::Zajete)
+            return wynik == Wynik::Ok ? std::optional(kopia) : std::nullopt;
     }
     return std::nullopt;
 }
 
-// What was kept of a file before it is overwritten.
-struct Kopia {
-    std::optional<fs::path> path; // none where nothing had to be kept
-    std::optional<Bajty> old;     // its content; nothing where it can't be read and the file itself was moved
-};
-
-// Keeps what stands at the target now, unless it is known or as the coming bytes are: a copy, or the file itself where
-// it can't be copied. Nothing where it can't be kept.
-std::optional<Kopia> keepUnknown(const SystemPlikow& system, const Cel& cel, const fs::path& path,
-                                 std::span<const Bajt> bytes, const std::optional<Bajty>& known) {
-    auto old = readWhole(system, cel.path);
-    if (old ? old->empty() || old == known || std::ranges::equal(*old, bytes) : !fileExists(system, cel.path))
-        return Kopia{};
-    const auto kopia = freeKopia(system, path);
-    if (!kopia)
-        return std::nullopt;
-    if (old && Nowy(system, *kopia, *old, cel.old).takeFreeName(*kopia) == Wynik::Ok)
-        return Kopia{kopia, std::move(old)};
-    if (system.renameNew(cel.path, *kopia) != Wynik::Ok)
-        return std::nullopt;
-    system.flushFolder(folderOf(*kopia));
-    return Kopia{kopia, std::nullopt};
+std::optional<fs::path> copyAside(const SystemPlikow& system, const fs::path& path, const Bajty& old,
+                                  const std::optional<OpisPliku>& like) {
+    Nowy copy(system, path, old, like);
+    if (copy.wynik() != Wynik::Odmowa || !like)
+        return takeKopia(copy, path);
+    Nowy unlike(system, path, old, std::nullopt);
+    return takeKopia(unlike, path);
 }
 
-// Undoes it after a write that has certainly changed nothing: a rename can be carried out and still be answered by an
-// error.
-void takeBack(const SystemPlikow& system, const Cel& cel, const Kopia& kopia) {
-    if (!kopia.path)
-        return;
-    if (!kopia.old)
-        (void)system.renameNew(*kopia.path, cel.path);
-    else if (readWhole(system, cel.path) == kopia.old)
-        system.remove(*kopia.path);
+// After a swap: what stood there goes, or stays as a copy if it isn't kept yet. Swapped back where it can't be.
+bool settle(const SystemPlikow& system, const Cel& cel, const fs::path& path, Nowy& nowy, bool isKept) {
+    if (isKept)
+        nowy.drop();
+    else if (!takeKopia(nowy, path)) {
+        (void)nowy.swap(cel.path);
+        return false;
+    }
+    system.flushFolder(folderOf(cel.path));
+    return true;
 }
 
 } // namespace
@@ -322,13 +315,28 @@ bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::
         return false;
     if (!cel->old && nowy.takeFreeName(cel->path) == Wynik::Ok)
         return true;
-    // Looked at as late as can be: another program may have written there while the new content was flushed.
-    const auto kopia = keepUnknown(system, *cel, path, bytes, known);
-    if (!kopia)
+
+    const auto isKnown = [&](const Bajty& content) {
+        return content.empty() || content == known || std::ranges::equal(content, bytes);
+    };
+    const auto old = readWhole(system, cel->path);
+    const bool mustKeep = old && !isKnown(*old);
+    const auto kopia = mustKeep ? copyAside(system, path, *old, cel->old) : std::nullopt;
+    if (mustKeep && !kopia)
         return false;
-    if (replace(system, *cel, nowy, bytes))
+    const Wynik swapped = nowy.swap(cel->path);
+    if (swapped == Wynik::Ok) {
+        // Another program may have written since the look.
+        const auto last = nowy.content();
+        return settle(system, *cel, path, nowy, last && (isKnown(*last) || last == old));
+    }
+    const bool mayReplace = swapped == Wynik::Odmowa || swapped == Wynik::NieMa;
+    if (mayReplace && (old || !fileExists(system, cel->path)) && replace(system, *cel, nowy, bytes))
         return true;
-    takeBack(system, *cel, *kopia);
+    // A rename can be carried out and still be answered by an error: the copy goes only if the old content stands
+    // there.
+    if (kopia && readWhole(system, cel->path) == old)
+        system.remove(*kopia);
     return false;
 }
 

@@ -39,15 +39,16 @@ bool fileExists(const SystemPlikow&, const std::filesystem::path&);
 // Whether two paths lead to one file; also true where that can't be told.
 bool isSameFile(const SystemPlikow&, const std::filesystem::path&, const std::filesystem::path&);
 
-// Replaces the file by `bytes`: a temporary file in the same folder, flushed, renamed over the old one. Mode bits,
-// group and symbolic links are kept. On failure the old file is untouched and nothing else is left. Only where the
-// folder refuses new names, or a new file the old one's mode bits, and the file may be written all the same is it
-// written in place, and put back if that fails.
+// Replaces the file by `bytes`: a temporary file in the same folder, flushed, renamed over the old one. Mode bits
+// and symbolic links are kept, owner and group where that may be. On failure the old file is untouched and nothing else
+// is left. Only where the folder refuses new names, or a new file the old one's mode bits, and the file may be written
+// all the same is it written in place, and put back if that fails.
 [[nodiscard]] bool writeWhole(const SystemPlikow&, const std::filesystem::path&, std::span<const Bajt> bytes);
 
-// Like writeWhole, for a file that holds what the caller knows: `known`, or nothing. Whatever else stands there when
-// the new content is ready, or can't be read, is kept beside it first, as "<name>.kopia" (or .kopia2, .kopia3, ...), an
-// empty file excepted. If that isn't possible, nothing is written.
+// Like writeWhole, for a file that holds what the caller knows: `known`, or nothing. Whatever else stands there, or
+// can't be read, is kept beside it, as "<name>.kopia" (or .kopia2, .kopia3, ...), an empty file excepted. If that isn't
+// possible, nothing is written. The two contents exchange their names, so what another program writes up to that moment
+// is kept, too; where a system or file system can't do that, what it writes after the look is not.
 [[nodiscard]] bool writeKeepingUnknown(const SystemPlikow&, const std::filesystem::path&, std::span<const Bajt> bytes,
                                        const std::optional<Bajty>& known);
 

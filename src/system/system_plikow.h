@@ -70,6 +70,7 @@ struct SystemPlikow {
     Wynik (*readLink)(const Sciezka&, Sciezka& target);
     Wynik (*rename)(const Sciezka& from, const Sciezka& to);    // `to` is replaced
     Wynik (*renameNew)(const Sciezka& from, const Sciezka& to); // `to` is a free name, or it is told as taken
+    Wynik (*swap)(const Sciezka& one, const Sciezka& other);    // the two exchange their names at once
     Wynik (*remove)(const Sciezka&);
 
     // Makes new names in a folder outlive a power cut.

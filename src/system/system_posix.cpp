@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
@@ -36,7 +37,8 @@ Wynik lastWynik() {
         return Wynik::Zajete;
     case EACCES:
     case EPERM:
-    case ENOSYS: // what network and user-space file systems say of calls that they don't have
+    case EINVAL: // what file systems say of calls that they don't have
+    case ENOSYS:
     case EOPNOTSUPP:
         return Wynik::Odmowa;
     default:
@@ -76,7 +78,17 @@ constexpr int flagsOf(Otwarcie otwarcie) {
 
 Wynik open(const fs::path& path, Otwarcie otwarcie, Uchwyt& file) {
     const int flags = flagsOf(otwarcie) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    file = Uchwyt{uninterrupted([&] { return ::open(path.c_str(), flags, NEW_FILE_MODE); })};
+    constexpr std::array<::useconds_t, 5> WAITS_US{10000, 20000, 40000, 80000, 160000};
+    const auto opened = [&] { return uninterrupted([&] { return ::open(path.c_str(), flags, NEW_FILE_MODE); }); };
+    int answer = opened();
+    // Whoever holds a lease on the file, as a file server does, is asked to give it up and soon does.
+    for (::useconds_t wait : WAITS_US) {
+        if (answer != -1 || errno != EWOULDBLOCK)
+            break;
+        ::usleep(wait);
+        answer = opened();
+    }
+    file = Uchwyt{answer};
     return file == Uchwyt::Zaden ? lastWynik() : Wynik::Ok;
 }
 
@@ -178,16 +190,30 @@ Wynik removeName(const fs::path& path) {
     return done([&] { return ::unlink(path.c_str()); });
 }
 
+bool isSame(const fs::path& one, const fs::path& other) {
+    OpisPliku first;
+    OpisPliku second;
+    return lstat(one, first) == Wynik::Ok && lstat(other, second) == Wynik::Ok && first.isSameFile(second);
+}
+
 // By a second name, which is never made over another file. Where a file system has none, the name is looked at first.
 Wynik renameNew(const fs::path& from, const fs::path& to) {
-    const Wynik linked = done([&] { return ::link(from.c_str(), to.c_str()); });
-    if (linked == Wynik::Ok)
-        (void)removeName(from);
-    if (linked == Wynik::Ok || linked == Wynik::Zajete)
-        return linked;
+    Wynik wynik = done([&] { return ::link(from.c_str(), to.c_str()); });
+    if (wynik == Wynik::Ok ||
+        (wynik == Wynik::Zajete && isSame(from, to))) { // a server may make it and say it is taken
+        wynik = removeName(from);
+        if (wynik != Wynik::Ok)
+            (void)removeName(to);
+        return wynik;
+    }
     OpisPliku opis;
-    const Wynik looked = lstat(to, opis);
-    return looked == Wynik::NieMa ? renameOver(from, to) : looked == Wynik::Ok ? Wynik::Zajete : looked;
+    if (wynik == Wynik::Odmowa && lstat(to, opis) == Wynik::NieMa)
+        return renameOver(from, to);
+    return wynik;
+}
+
+Wynik swap(const fs::path& one, const fs::path& other) {
+    return done([&] { return ::renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE); });
 }
 
 Wynik flushFolder(const fs::path& folder) {
@@ -231,6 +257,7 @@ const SystemPlikow SYSTEM_PLIKOW{
     .readLink = readLink,
     .rename = renameOver,
     .renameNew = renameNew,
+    .swap = swap,
     .remove = removeName,
     .flushFolder = flushFolder,
     .list = list,

@@ -82,7 +82,8 @@ Wynik open(const fs::path& path, Otwarcie otwarcie, Uchwyt& file) {
                                                                 : OPEN_EXISTING;
     // Told by the flag itself: who may do everything would be let in all the same.
     const ::DWORD attributes = ::GetFileAttributesW(path.c_str());
-    if (access == GENERIC_WRITE && attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+    if (access == GENERIC_WRITE && otwarcie != Otwarcie::Nowy && attributes != INVALID_FILE_ATTRIBUTES &&
+        (attributes & FILE_ATTRIBUTE_READONLY) != 0)
         return Wynik::Odmowa;
     // A name whose file is removed and still held by someone is denied to a new one for a moment.
     return patiently([&] { return openAs(path, access, creation, FILE_ATTRIBUTE_NORMAL, file); },
@@ -194,6 +195,7 @@ const SystemPlikow SYSTEM_PLIKOW{
     .readLink = [](const fs::path&, fs::path&) { return Wynik::Blad; },
     .rename = [](const fs::path& from, const fs::path& to) { return moveAs(from, to, MOVEFILE_REPLACE_EXISTING); },
     .renameNew = [](const fs::path& from, const fs::path& to) { return moveAs(from, to, 0); },
+    .swap = [](const fs::path&, const fs::path&) { return Wynik::Odmowa; },
     .remove = remove,
     .flushFolder = [](const fs::path&) { return Wynik::Ok; }, // renaming writes through
     .list = list,
