@@ -21,9 +21,7 @@ TEST(Szablon, TitleLines) {
         EXPECT_EQ(line[0], columns[length]);
         EXPECT_EQ(std::count(line.begin() + 1, line.end(), 155), static_cast<int>(21 - length));
     }
-    EXPECT_EQ(BuildLiniaTytulu({"  \xA3\xD3"
-                                "D\x8F  "})[4],
-              120);
+    EXPECT_EQ(BuildLiniaTytulu({"  \xA3\xD3\x44\x8F  "})[4], 120);
 }
 
 TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {

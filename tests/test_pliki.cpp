@@ -109,14 +109,17 @@ TEST_F(Pliki, InPlaceWhereTheFolderRefusesNewNames) {
         EXPECT_EQ(readFile(root / "plik"), bytes);
     }
     full = true;
+    writeFile(root / "dlugi", {});
     EXPECT_FALSE(writeWhole(system, root / "plik", Bajty(5, 0)));
+    fs::resize_file(root / "dlugi", 100U << 20U);
+    EXPECT_FALSE(writeWhole(system, root / "dlugi", Bajty{5})) << "it could not be put back";
     EXPECT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{5}, {}));
     EXPECT_EQ(readFile(root / "plik.kopia"), (Bajty{1, 2, 3, 4})) << "a copy, no second name of somebody else's file";
     EXPECT_FALSE(writeWhole(system, root / "nowy", Bajty{6}));
     fs::create_hard_link(root / "plik", root / "drugi");
     EXPECT_FALSE(writeWhole(system, root / "plik", Bajty{6})) << "the second name would change along";
     EXPECT_EQ(readFile(root / "plik"), Bajty{5});
-    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 4U);
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 5U);
 }
 
 } // namespace

@@ -176,6 +176,7 @@ TEST_F(ZbiorEtapow, ClearBuildsTheWalledField) {
     cmdCzysc_Click(e);
     EXPECT_EQ(cell(5, 5), znak(5));
     cmdCzysc_Click(e);
+    EXPECT_TRUE(e.okno.txtAutorEnabled);
     EXPECT_EQ(shown.back(), "Czyszczenie usunie całą zawartość mapy!\nKontynuować?");
     for (int i = 0; i < PLANSZA_CELLS; ++i) {
         const int row = i / 40, column = i % 40;
