@@ -207,7 +207,7 @@ bool replace(const SystemPlikow& system, const Cel& cel, Nowy& nowy, std::span<c
 
 // Whether a temporary file was left over by a program that was killed.
 bool isLeftover(const SystemPlikow& system, const fs::path& path) {
-    const auto& name = path.filename().native();
+    const auto name = path.filename().native();
     const auto prefix = fs::path(TEMPORARY_PREFIX).native();
     const auto isDigit = [](auto letter) { return letter >= '0' && letter <= '9'; };
     OpisPliku opis;
