@@ -319,11 +319,14 @@ bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::
     const auto isKnown = [&](const Bajty& content) {
         return content.empty() || content == known || std::ranges::equal(content, bytes);
     };
-    const auto old = readWhole(system, cel->path);
-    const bool mustKeep = old && !isKnown(*old);
-    const auto kopia = mustKeep ? copyAside(system, path, *old, cel->old) : std::nullopt;
-    if (mustKeep && !kopia)
-        return false;
+    std::optional<fs::path> kopia;
+    std::optional<Bajty> old, kept;
+    while ((old = readWhole(system, cel->path)) && !isKnown(*old) && old != kept) {
+        kopia = copyAside(system, path, *old, cel->old);
+        if (!kopia)
+            return false;
+        kept = old;
+    }
     const Wynik swapped = nowy.swap(cel->path);
     if (swapped == Wynik::Ok) {
         // Another program may have written since the look.
