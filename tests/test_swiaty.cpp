@@ -267,7 +267,7 @@ TEST(Kompilator, MistakesAreToldWithTheirLine) {
                                             {barwy + "0 NIC\n...x\n", "s:7: a pixel"},
                                             {barwy + pusty + "1 ZIEMIA\nlustro 1\n", "s:16: a number from 0 to 0"},
                                             {barwy + pusty, "s:14: the file ends"}})
-        EXPECT_TRUE(toldBy([&] { parseRysunki({"s", source}); }).starts_with(message)) << source;
+        EXPECT_TRUE(toldBy([&source = source] { parseRysunki({"s", source}); }).starts_with(message)) << source;
 
     const auto legenda = parseLegenda({"l", "kolory standard\n. 0 NIC\n~ 139 WODA ; INV\n"});
     const std::string head = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n";
@@ -278,7 +278,10 @@ TEST(Kompilator, MistakesAreToldWithTheirLine) {
                                             {head.substr(0, 50) + row, "s:5: at most 32"},
                                             {head + std::string(39, '.') + "?\n", "s:8: the legend"},
                                             {head + row, "s:8: the file ends"}})
-        EXPECT_TRUE(toldBy([&] { parseEtap({"s", source}, legenda, {}); }).starts_with(message)) << source;
+        EXPECT_TRUE(toldBy([&, &source = source] {
+                        parseEtap({"s", source}, legenda, {});
+                    }).starts_with(message))
+            << source;
 
     for (const char* wrong : {"ab 0 NIC\n", ". 64 NIC\n", ". 1 NIC\n", ". 0\n", "~ 0 NIC\n~ 1 ZIEMIA\n"})
         EXPECT_TRUE(toldBy([&] {
