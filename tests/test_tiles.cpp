@@ -157,6 +157,7 @@ TEST_F(Tiles, PaletteDialogWritesTheChosenSlot) {
     Form_Unload(e);
     EXPECT_FALSE(e.okno.lblKolor[11].wybrany || e.okno.dlgPaleta.otwarte);
     closePaleta(e);
+    EXPECT_FALSE(parsePaleta(Bajty(767, 3)));
     EXPECT_EQ(kolorText(5), "5, $5");
 }
 
