@@ -35,6 +35,10 @@ TEST_F(Archiwum, RoundTripRestoresEveryStageAndTheTitleLines) {
         EXPECT_EQ(readFile(etap(number)), sampleEtap(number)) << number;
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), lines);
     EXPECT_EQ(shown.size(), 1U);
+
+    answers = {true, true};
+    cmdSaveArch_Click(e);
+    EXPECT_EQ(readFile(*chosen), archive);
 }
 
 TEST_F(Archiwum, WrongLengthChangesNothing) {

@@ -31,6 +31,9 @@ TEST_F(Etap, HeroineIsStoredPlainInsideTheEdge) {
     EXPECT_EQ(e.image[159], 63);
     EXPECT_EQ(cell(3, 7), DORVA);
     EXPECT_EQ(e.okno.imgPG[127].obraz.znak, DORVA_INV) << "the picture follows at the next redraw";
+    const Bajty once = e.image;
+    PackEtap(e);
+    EXPECT_EQ(e.image, once);
 }
 
 TEST_F(Etap, RefusedFieldsLeaveTheRestAsItWas) {

@@ -99,6 +99,7 @@ TEST_F(Start, OddFolderAndFileNames) {
     fs::rename(base, odd);
     fs::current_path(root);
     Form_Load(e, odd.filename(), "1.0.2");
+    EXPECT_EQ(e.image, sampleEtap(1));
     EXPECT_EQ(e.OstatniaSciezka, fs::canonical(root));
     chosen = root / ("Gra " + quote + "Łoś" + quote + ".dpa");
     cmdSaveArch_Click(e);
@@ -122,6 +123,12 @@ TEST_F(Start, EmptiedBoxIsRefilledAndLeavingFitsTheText) {
     EXPECT_EQ(e.okno.txtNazwa.tekst.size(), 32U);
     txt_Change(e, poleLinii(1), {"za\xBF\xF3\xB3\xE6"});
     txt_LostFocus(e, poleLinii(1));
+    txt_Change(e, POLE_NAZWA, ascii("ala"));
+    txt_LostFocus(e, POLE_NAZWA);
+    EXPECT_EQ(e.okno.txtNazwa.tekst.znaki, std::string(15, ' ') + "ALA" + std::string(14, ' '));
+    txt_Change(e, POLE_AUTOR, ascii("ola"));
+    txt_LostFocus(e, POLE_AUTOR);
+    EXPECT_EQ(e.okno.txtAutor.tekst.znaki, "OLA" + std::string(61, ' '));
     EXPECT_EQ(e.okno.txtAutorGry[1].tekst.znaki, "ZA\xAF\xD3\xA3\xC6" + std::string(14, ' '));
 }
 

@@ -85,6 +85,8 @@ TEST_F(Tiles, StripsOfOtherSizes) {
     cmdReload_Click(e);
     strips["FNT11.ORN.ND.TILES.BMP"] = {-1, 32, {}};
     cmdReload_Click(e);
+    strips["FNT11.ORN.ND.TILES.BMP"] = {32, -1, {}};
+    cmdReload_Click(e);
     fs::remove_all(base / "OBIEKTY/ORN_EXPORT");
     cmdReload_Click(e);
     EXPECT_EQ(pixel({1, znak(2)}, 5), 0xFF080002U) << "a picture that is not whole changes nothing";

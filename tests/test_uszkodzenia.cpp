@@ -17,6 +17,28 @@ protected:
         return image[832] >= 1 && image[832] <= 99 && image[833] <= 2 && image[834] <= 2;
     }
 
+    // What a pack makes of a valid image.
+    static Bajty normalised(Bajty image) {
+        std::fill_n(image.begin(), 16, Bajt{0});
+        std::fill_n(image.begin() + 28, 4, Bajt{0});
+        for (int i = 0; i < PLANSZA_CELLS; ++i) {
+            Bajt& code = image[32 + static_cast<std::size_t>(i)];
+            if (isEdge(i) && code != 0 && code != 5 && code != 6)
+                code = 5;
+            else if (code == 191)
+                code = 63;
+        }
+        const std::string capitals = "\xA5\xC6\xCA\xA3\xD1\xD3\x8C\x8F\xAF";
+        for (std::size_t i = 835; i < image.size(); ++i) { // these codes never come out of a text
+            const auto capital = capitals.find(static_cast<char>(image[i]));
+            if (image[i] >= 64 && image[i] < 96)
+                image[i] = static_cast<Bajt>(image[i] + 32);
+            else if (capital != std::string::npos)
+                image[i] = static_cast<Bajt>("acelnosxz"[capital]);
+        }
+        return image;
+    }
+
     // Goes to the damaged stage 2 and back.
     void visit(const Bajty& damaged) {
         pamiec.nazwy.erase(at("praca/ETAPY/DETAP.2.kopia"));
@@ -38,29 +60,25 @@ protected:
 };
 
 TEST_F(Uszkodzenia, EveryFlippedBitIsTakenOverOrKept) {
-    int refused = 0, taken = 0;
+    int refused = 0;
     for (std::size_t bit = 0; bit < 8 * ETAP_SIZE_BYTES; ++bit) {
         Bajty damaged = sampleEtap(2);
         damaged[bit / 8] ^= static_cast<Bajt>(1U << bit % 8);
         ASSERT_NO_FATAL_FAILURE(visit(damaged)) << bit;
-        Bajty now = stored("ETAPY/DETAP.2");
+        if (isValid(damaged))
+            ASSERT_EQ(stored("ETAPY/DETAP.2"), normalised(damaged)) << bit;
+        else
+            ASSERT_EQ(kopia(), damaged) << bit;
+
         pamiec.put(at("obcy"), damaged);
         cmdLoad_Click(e);
         PackEtap(e);
-        if (isValid(damaged)) {
-            ASSERT_EQ(e.image, now) << bit;
-            taken += now[bit / 8] == damaged[bit / 8];
-            now[bit / 8] = sampleEtap(2)[bit / 8];
-            ASSERT_EQ(now, sampleEtap(2)) << bit;
-        } else {
-            ASSERT_EQ(kopia(), damaged) << bit;
-            ++refused;
-        }
+        ASSERT_EQ(e.image == normalised(damaged), isValid(damaged)) << bit;
+        refused += isValid(damaged) ? 0 : 1;
         pamiec.put(at("obcy"), first);
         cmdLoad_Click(e);
     }
     EXPECT_EQ(refused, 15);
-    EXPECT_EQ(taken, 6249) << "the rest is brought back to its form";
     EXPECT_TRUE(shown.empty());
 }
 
