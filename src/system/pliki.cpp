@@ -229,13 +229,11 @@ std::optional<fs::path> takeKopia(Nowy& nowy, const fs::path& path) {
     return std::nullopt;
 }
 
+// A copy under such a name, like the old file unless the file system refuses that.
 std::optional<fs::path> copyAside(const SystemPlikow& system, const fs::path& path, const Bajty& old,
                                   const std::optional<OpisPliku>& like) {
     Nowy copy(system, path, old, like);
-    if (copy.wynik() != Wynik::Odmowa || !like)
-        return takeKopia(copy, path);
-    Nowy unlike(system, path, old, std::nullopt);
-    return takeKopia(unlike, path);
+    return copy.wynik() == Wynik::Odmowa && like ? copyAside(system, path, old, std::nullopt) : takeKopia(copy, path);
 }
 
 // After a swap: what stood there goes, or stays as a copy if it isn't kept yet. Swapped back where it can't be.
@@ -260,8 +258,8 @@ std::optional<Bajty> readOrCreate(const SystemPlikow& system, const fs::path& pa
 }
 
 std::optional<Bajty> readFirst(const SystemPlikow& system, const fs::path& path, std::size_t count) {
-    const Otwarty file(system, path, Otwarcie::Odczyt);
-    return file.length() ? readBytes(file, count) : std::nullopt;
+    auto bytes = readUpTo(system, path, count);
+    return bytes && bytes->size() == count ? std::move(bytes) : std::nullopt;
 }
 
 std::optional<Bajty> readUpTo(const SystemPlikow& system, const fs::path& path, std::size_t count) {
