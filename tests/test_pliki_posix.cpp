@@ -32,6 +32,26 @@ TEST_F(PlikiPosix, WriteKeepsModeAndLinks) {
               std::tuple(before.st_mode, before.st_uid, before.st_gid));
 }
 
+// Behind a link to another file system, where another program writes at the last moment.
+TEST_F(PlikiPosix, WhatComesBetweenIsKeptBesideTheLinkAcrossFileSystems) {
+    static fs::path plik;
+    plik = root / "dysk/plik";
+    fs::create_directory(root / "dysk");
+    writeFile(plik, {1});
+    fs::create_symlink("dysk/plik", root / "dowiazanie");
+    SystemPlikow system = SYSTEM_PLIKOW;
+    system.swap = [](const fs::path& one, const fs::path& other) {
+        writeFile(plik, {7});
+        return SYSTEM_PLIKOW.swap(one, other);
+    };
+    system.renameNew = [](const fs::path& from, const fs::path& to) {
+        return from.parent_path() == to.parent_path() ? SYSTEM_PLIKOW.renameNew(from, to) : Wynik::Blad;
+    };
+    EXPECT_TRUE(writeKeepingUnknown(system, root / "dowiazanie", Bajty{2}, Bajty{1}));
+    EXPECT_EQ(readFile(plik), Bajty{2});
+    EXPECT_EQ(readFile(root / "dowiazanie.kopia"), Bajty{7});
+}
+
 TEST_F(PlikiPosix, WriteRefusesWhatCouldNotBeOpened) {
     fs::create_directory(root / "katalog");
     ASSERT_EQ(::mkfifo((root / "potok").c_str(), 0600), 0);

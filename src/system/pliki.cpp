@@ -120,16 +120,17 @@ std::optional<Cel> findCel(const SystemPlikow& system, const fs::path& path) {
 }
 
 // The coming content of a file: written and flushed beside it, under a name of its own, which goes unless it gets its
-// place.
+// place. The number in it is the time's, so a name that someone is about to sweep never comes back.
 class Nowy {
 public:
     Nowy(const SystemPlikow& system, const fs::path& target, std::span<const Bajt> bytes,
          const std::optional<OpisPliku>& like)
         : system_(system) {
         constexpr int NAMES_MAX = 1000;
-        for (int number = 1; wynik_ == Wynik::Zajete && number <= NAMES_MAX; ++number) {
+        const auto now = std::chrono::system_clock::now().time_since_epoch().count();
+        for (int i = 0; wynik_ == Wynik::Zajete && i < NAMES_MAX; ++i) {
             path_ = target.parent_path();
-            path_ /= std::string(TEMPORARY_PREFIX) + std::to_string(number) + std::string(TEMPORARY_SUFFIX);
+            path_ /= std::string(TEMPORARY_PREFIX) + std::to_string(now + i) + std::string(TEMPORARY_SUFFIX);
             wynik_ = write(bytes, like);
         }
         if (wynik_ == Wynik::Zajete)
@@ -236,16 +237,33 @@ std::optional<fs::path> copyAside(const SystemPlikow& system, const fs::path& pa
     return copy.wynik() == Wynik::Odmowa && like ? copyAside(system, path, old, std::nullopt) : takeKopia(copy, path);
 }
 
-// After a swap: what stood there goes, or stays as a copy if it isn't kept yet. Swapped back where it can't be.
-bool settle(const SystemPlikow& system, const Cel& cel, const fs::path& path, Nowy& nowy, bool isKept) {
+// After a swap: what stood there goes, or stays as a copy if it isn't kept yet, by its name or, behind a link to
+// another file system, as another copy. Swapped back where it can't be.
+bool settle(const SystemPlikow& system, const Cel& cel, const fs::path& path, Nowy& nowy,
+            const std::optional<Bajty>& last, bool isKept) {
     if (isKept)
         nowy.drop();
-    else if (!takeKopia(nowy, path)) {
+    else if (!takeKopia(nowy, path) && !(last && copyAside(system, path, *last, cel.old))) {
         (void)nowy.swap(cel.path);
         return false;
     }
     system.flushFolder(folderOf(cel.path));
     return true;
+}
+
+// The way for a file that can't be copied: the new content takes the copy's name, then the two exchange theirs. So the
+// old one never stands under a name that is swept.
+bool swapWithKopia(const SystemPlikow& system, const Cel& cel, Nowy& nowy, std::span<const Bajt> bytes) {
+    const auto kopia = takeKopia(nowy, cel.path);
+    if (!kopia)
+        return false;
+    if (system.swap(*kopia, cel.path) == Wynik::Ok) {
+        system.flushFolder(folderOf(cel.path));
+        return true;
+    }
+    if (const auto content = readWhole(system, *kopia); content && std::ranges::equal(*content, bytes))
+        system.remove(*kopia);
+    return false;
 }
 
 } // namespace
@@ -325,14 +343,16 @@ bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::
             return false;
         kept = old;
     }
+    if (!old && fileExists(system, cel->path))
+        return swapWithKopia(system, *cel, nowy, bytes);
     const Wynik swapped = nowy.swap(cel->path);
     if (swapped == Wynik::Ok) {
         // Another program may have written since the look.
         const auto last = nowy.content();
-        return settle(system, *cel, path, nowy, last && (isKnown(*last) || last == old));
+        return settle(system, *cel, path, nowy, last, last && (isKnown(*last) || last == old));
     }
     const bool mayReplace = swapped == Wynik::Odmowa || swapped == Wynik::NieMa;
-    if (mayReplace && (old || !fileExists(system, cel->path)) && replace(system, *cel, nowy, bytes))
+    if (mayReplace && replace(system, *cel, nowy, bytes))
         return true;
     // A rename can be carried out and still be answered by an error: the copy goes only if the old content stands
     // there.

@@ -62,7 +62,8 @@ struct SystemPlikow {
     Wynik (*flush)(Uchwyt);
     Wynik (*close)(Uchwyt);
     Wynik (*describe)(Uchwyt, OpisPliku&);
-    // Gives the file another's mode bits, and its owner and group where that may be. Who may use it never grows.
+    // Gives the file another's mode bits, and its owner and group where that may be. A group that may not be kept
+    // leaves its rights to no other.
     Wynik (*makeLike)(Uchwyt, const OpisPliku& other);
 
     Wynik (*stat)(const Sciezka&, OpisPliku&);

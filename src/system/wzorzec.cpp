@@ -74,10 +74,11 @@ std::vector<fs::path> filesIn(const fs::path& tree) {
     return names;
 }
 
-bool put(const SystemPlikow& system, const fs::path& path, const Bajty& bytes) {
+// What stood there at the look may go, and nothing else.
+bool put(const SystemPlikow& system, const fs::path& path, const Bajty& bytes, const std::optional<Bajty>& old) {
     std::error_code error;
     fs::create_directories(path.parent_path(), error);
-    return writeWhole(system, path, bytes);
+    return writeKeepingUnknown(system, path, bytes, old);
 }
 
 bool isLink(const SystemPlikow& system, const fs::path& path) {
@@ -105,7 +106,7 @@ std::vector<fs::path> layOut(const SystemPlikow& system, const fs::path& wzorzec
                                   : fileExists(system, folder / name);
         if (isOwners)
             continue;
-        if (old == fresh || put(system, folder / name, *fresh))
+        if (old == fresh || put(system, folder / name, *fresh, old))
             spis.add(lineOf(text, *fresh));
         else
             refused.push_back(name);
