@@ -39,6 +39,7 @@ TEST_F(Plansza, RightButtonPicksOrErasesOneCell) {
     EXPECT_EQ(cell(5, 5), ZIEMIA);
     EXPECT_EQ(cell(5, 6), BOMBA);
     SelectNN(e, 1);
+    EXPECT_EQ(e.okno.optNN, 1);
     SelectNN(e, 1);
     imgPG_MouseDown(e, 206, PRAWY);
     EXPECT_EQ(kod(cell(5, 6)), 129) << "under INV the eraser writes the INV earth";

@@ -77,13 +77,44 @@ TEST_F(Pliki, WhatCannotBeKeptIsNotReplaced) {
         EXPECT_FALSE(writeKeepingUnknown(system, root / "plik", Bajty{2}, {}));
     EXPECT_EQ(fs::file_size(root / "plik"), 100U << 20U);
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 2U);
+    static bool flushed;
     SystemPlikow watched = SYSTEM_PLIKOW;
+    watched.flushFolder = [](const fs::path& folder) { return flushed = true, SYSTEM_PLIKOW.flushFolder(folder); };
     watched.swap = [](const fs::path& one, const fs::path& other) {
         EXPECT_NE(one.extension(), ".dp-tmp") << "what can't be copied would stand under a name that is swept";
+        flushed = false;
         return SYSTEM_PLIKOW.swap(one, other);
     };
     EXPECT_EQ(writeKeepingUnknown(watched, root / "plik", Bajty{2}, {}), POSIX) << "under another name, as it is";
     EXPECT_EQ(fs::file_size(root / (POSIX ? "plik.kopia" : "plik")), 100U << 20U);
+    EXPECT_TRUE(flushed || !POSIX);
+}
+
+// Another program writes just before the names are exchanged; then that is answered by an error, or what it wrote gets
+// no name and the exchange can't be undone.
+TEST_F(Pliki, WhatCameBetweenStaysWhereNothingElseCanBeDone) {
+    static fs::path plik;
+    static Wynik told;
+    plik = root / "plik";
+    for (const Wynik first : {Wynik::Blad, Wynik::Ok}) {
+        SystemPlikow system = SYSTEM_PLIKOW;
+        system.renameNew = answer<Wynik::Blad>;
+        system.swap = [](const fs::path& one, const fs::path& other) {
+            if (other == plik && readFile(other) == Bajty{1}) {
+                fs::rename(one, other);
+                writeFile(one, {3});
+                return told;
+            }
+            return Wynik::Blad;
+        };
+        told = first;
+        writeFile(plik, {1});
+        EXPECT_FALSE(writeKeepingUnknown(system, plik, Bajty{2}, Bajty{1}));
+        const auto left = listNames(SYSTEM_PLIKOW, root, ".dp-tmp");
+        ASSERT_EQ(left.size(), 1U);
+        EXPECT_EQ(readFile(root / left[0]), Bajty{3});
+        fs::remove(root / left[0]);
+    }
 }
 
 TEST_F(Pliki, ARenameThatIsCarriedOutAndAnsweredByAnErrorKeepsTheCopy) {

@@ -46,6 +46,7 @@ protected:
         SelectEtapNR(e, 1);
         ASSERT_EQ(e.NumerEtapu, 2);
         ASSERT_EQ(stored("ETAPY/DETAP.1"), first);
+        ASSERT_EQ(e.image == Bajty(ETAP_SIZE_BYTES, 0), damaged.size() < ETAP_SIZE_BYTES);
         SelectEtapNR(e, 0);
         ASSERT_EQ(e.image, first);
     }

@@ -56,7 +56,7 @@ void loadWork(Edytor& e) {
     SelectEtapNR(e, 0);
     if (!readOrCreateBiezacyEtap(e))
         return;
-    (void)readAutorGry(e);
+    readAutorGry(e);
 }
 
 } // namespace

@@ -30,11 +30,11 @@ void takeAutorGry(Edytor& e, std::span<const Bajt> bytes) {
         SetTekst(e.okno, poleLinii(i), Tekst::fromBytes(bytes.subspan(i * LINIA_WIDTH, LINIA_WIDTH)));
 }
 
-bool readAutorGry(Edytor& e) {
+void readAutorGry(Edytor& e) {
     e.znanyAutorGry.reset();
     const auto length = lengthOf(*e.system, pathOf(e));
     if (!length)
-        return false;
+        return;
     if (*length != AUTOR_GRY_SIZE_BYTES)
         for (int i = 0; i < LINIE_COUNT; ++i)
             SetTekst(e.okno, poleLinii(i), {});
@@ -43,11 +43,10 @@ bool readAutorGry(Edytor& e) {
         const std::size_t start = i * LINIA_WIDTH, end = start + LINIA_WIDTH;
         SetTekst(e.okno, poleLinii(i), {});
         if (bytes.size() < end)
-            return false;
+            return;
         SetTekst(e.okno, poleLinii(i), Tekst::fromBytes(std::span(bytes).subspan(start, LINIA_WIDTH)));
         e.znanyAutorGry = Bajty(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(end));
     }
-    return true;
 }
 
 bool writeAutorGry(Edytor& e) {

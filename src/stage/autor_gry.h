@@ -18,8 +18,8 @@ Bajty fillAutorGry(Edytor&);
 void takeAutorGry(Edytor&, std::span<const Bajt> bytes);
 
 // Reads DP1.DTA into the boxes. A file of another length than 60 first blanks them; whole lines that it holds are then
-// read. False where it ends early or can't be read.
-[[nodiscard]] bool readAutorGry(Edytor&);
+// read; it may end early, or be none that can be read.
+void readAutorGry(Edytor&);
 
 // Writes DP1.DTA. Content that the editor doesn't know is kept aside first.
 [[nodiscard]] bool writeAutorGry(Edytor&);

@@ -120,23 +120,27 @@ std::optional<Cel> findCel(const SystemPlikow& system, const fs::path& path) {
 }
 
 // The coming content of a file: written and flushed beside it, under a name of its own, which goes unless it gets its
-// place. The number in it is the time's, so a name that someone is about to sweep never comes back.
+// place. The number in it is the time's, so a name that someone is about to sweep never comes back. After an exchange
+// of names that wasn't settled, what another program wrote may stand there: only the own content goes.
 class Nowy {
 public:
     Nowy(const SystemPlikow& system, const fs::path& target, std::span<const Bajt> bytes,
          const std::optional<OpisPliku>& like)
-        : system_(system) {
+        : system_(system), bytes_(bytes) {
         constexpr int NAMES_MAX = 1000;
         const auto now = std::chrono::system_clock::now().time_since_epoch().count();
         for (int i = 0; wynik_ == Wynik::Zajete && i < NAMES_MAX; ++i) {
             path_ = target.parent_path();
             path_ /= std::string(TEMPORARY_PREFIX) + std::to_string(now + i) + std::string(TEMPORARY_SUFFIX);
-            wynik_ = write(bytes, like);
+            wynik_ = write(like);
         }
         if (wynik_ == Wynik::Zajete)
             wynik_ = Wynik::Odmowa;
     }
-    ~Nowy() { drop(); }
+    ~Nowy() {
+        if (isThere_ && (!mayHoldOther_ || holdsOwn(path_)))
+            drop();
+    }
     Nowy(const Nowy&) = delete;
     Nowy& operator=(const Nowy&) = delete;
 
@@ -144,7 +148,15 @@ public:
     Wynik replace(const fs::path& path) { return moveTo(path, system_.rename); }
     Wynik takeFreeName(const fs::path& path) { return moveTo(path, system_.renameNew); }
     // Takes the place of a file, whose content is then what this one holds.
-    Wynik swap(const fs::path& path) { return wynik_ == Wynik::Ok ? system_.swap(path_, path) : wynik_; }
+    Wynik swap(const fs::path& path) {
+        const Wynik wynik = wynik_ == Wynik::Ok ? system_.swap(path_, path) : wynik_;
+        mayHoldOther_ = mayHoldOther_ || wynik == Wynik::Ok || wynik == Wynik::Blad;
+        return wynik;
+    }
+    [[nodiscard]] bool holdsOwn(const fs::path& path) const {
+        const auto content = readWhole(system_, path);
+        return content && std::ranges::equal(*content, bytes_);
+    }
     [[nodiscard]] std::optional<Bajty> content() const { return readWhole(system_, path_); }
     void drop() {
         if (isThere_)
@@ -153,7 +165,7 @@ public:
     }
 
 private:
-    Wynik write(std::span<const Bajt> bytes, const std::optional<OpisPliku>& like) {
+    Wynik write(const std::optional<OpisPliku>& like) {
         Otwarty file(system_, path_, Otwarcie::Nowy);
         isThere_ = file.ok();
         Wynik wynik = file.wynik();
@@ -161,7 +173,7 @@ private:
             wynik = file.makeLike(*like);
         if (wynik != Wynik::Ok)
             return wynik;
-        return file.writeAll(bytes) && file.flush() && file.closeNow() ? Wynik::Ok : Wynik::Blad;
+        return file.writeAll(bytes_) && file.flush() && file.closeNow() ? Wynik::Ok : Wynik::Blad;
     }
     Wynik moveTo(const fs::path& path, Wynik (*move)(const fs::path&, const fs::path&)) {
         const Wynik wynik = wynik_ == Wynik::Ok ? move(path_, path) : wynik_;
@@ -174,9 +186,11 @@ private:
     }
 
     const SystemPlikow& system_;
+    std::span<const Bajt> bytes_;
     fs::path path_;
     Wynik wynik_ = Wynik::Zajete;
     bool isThere_ = false;
+    bool mayHoldOther_ = false;
 };
 
 bool writeOver(const SystemPlikow& system, const fs::path& path, Otwarcie otwarcie, std::span<const Bajt> bytes) {
@@ -253,7 +267,7 @@ bool settle(const SystemPlikow& system, const Cel& cel, const fs::path& path, No
 
 // The way for a file that can't be copied: the new content takes the copy's name, then the two exchange theirs. So the
 // old one never stands under a name that is swept.
-bool swapWithKopia(const SystemPlikow& system, const Cel& cel, Nowy& nowy, std::span<const Bajt> bytes) {
+bool swapWithKopia(const SystemPlikow& system, const Cel& cel, Nowy& nowy) {
     const auto kopia = takeKopia(nowy, cel.path);
     if (!kopia)
         return false;
@@ -261,7 +275,7 @@ bool swapWithKopia(const SystemPlikow& system, const Cel& cel, Nowy& nowy, std::
         system.flushFolder(folderOf(cel.path));
         return true;
     }
-    if (const auto content = readWhole(system, *kopia); content && std::ranges::equal(*content, bytes))
+    if (nowy.holdsOwn(*kopia))
         system.remove(*kopia);
     return false;
 }
@@ -344,7 +358,7 @@ bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::
         kept = old;
     }
     if (!old && fileExists(system, cel->path))
-        return swapWithKopia(system, *cel, nowy, bytes);
+        return swapWithKopia(system, *cel, nowy);
     const Wynik swapped = nowy.swap(cel->path);
     if (swapped == Wynik::Ok) {
         // Another program may have written since the look.
