@@ -5,6 +5,7 @@ script=$1 options=$2
 shift 2
 for given; do
     case $given in
+    -*" "*) ;;
     -*) case " $options " in *" $given "*) continue ;; esac ;;
     *) case $options in *[A-Z]*) continue ;; esac ;;
     esac
