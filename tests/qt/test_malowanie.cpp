@@ -132,6 +132,8 @@ TEST_F(Malowanie, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
     QTest::mousePress(picker, Qt::LeftButton, {}, rectOf(16).center());
     QTest::mouseRelease(picker, Qt::LeftButton, {}, rectOf(17).center()); // no click
     EXPECT_EQ(frameOf(14), IN_BUFOR);
+    QTest::mouseClick(picker, Qt::LeftButton, {}, picker->rect().bottomRight());
+    EXPECT_EQ(frameOf(WYBOR_ORDER.back()), IN_BUFOR);
 }
 
 // Runs once more on a screen of a fractional scale.
