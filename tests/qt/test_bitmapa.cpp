@@ -20,13 +20,13 @@ protected:
         return e.haki.loadPicture(root / "a.bmp", 3, 2);
     }
     // Red in the upper left corner, green beside it, the rest black.
-    static Bajty bitmapFile(QSize size, QImage::Format format, const char* kind = "BMP") {
+    static Bajty bitmapFile(QSize size, QImage::Format format) {
         QImage image(size, QImage::Format_RGB32);
         image.fill(Qt::black);
         image.setPixelColor(0, 0, Qt::red);
         image.setPixelColor(1, 0, Qt::green);
         QBuffer file;
-        image.convertToFormat(format).save(&file, kind);
+        image.convertToFormat(format).save(&file, "BMP");
         return {file.data().begin(), file.data().end()};
     }
     static Bajty with(Bajty file, std::size_t place, std::uint32_t value, int count = 4) {
@@ -62,7 +62,6 @@ TEST_F(BitmapaPliku, WhatIsNoPictureIsRefused) {
     const Bajty good = bitmapFile({3, 2}, QImage::Format_Indexed8);
     for (std::size_t length = 0; length < good.size(); ++length)
         EXPECT_FALSE(load(Bajty(good.begin(), good.begin() + static_cast<std::ptrdiff_t>(length)))) << length;
-    EXPECT_FALSE(load(bitmapFile({3, 2}, QImage::Format_RGB32, "PNG")));
     EXPECT_FALSE(load(with(with(good, WIDTH, 0x7FFFFFFF), HEIGHT, 0x7FFFFFFF)));
     EXPECT_FALSE(load(with(with(with(good, WIDTH, 60000), HEIGHT, 60000), COMPRESSION, 1)));
     EXPECT_FALSE(load(with(good, WIDTH, std::uint32_t(-3))));
