@@ -134,6 +134,8 @@ TEST_F(Malowanie, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
     EXPECT_EQ(frameOf(14), IN_BUFOR);
     QTest::mouseClick(picker, Qt::LeftButton, {}, picker->rect().bottomRight());
     EXPECT_EQ(frameOf(WYBOR_ORDER.back()), IN_BUFOR);
+    clickSlot(0);
+    EXPECT_EQ(frameOf(0), IN_BUFOR);
 }
 
 // Runs once more on a screen of a fractional scale.

@@ -76,6 +76,11 @@ TEST(Program, WithoutADisplayOneSentenceQtsReasonAndStatusOne) {
     const QByteArray said = program.readAllStandardError();
     EXPECT_TRUE(said.startsWith("Planszownik nie może")) << said.toStdString();
     EXPECT_TRUE(said.contains("could not connect to display :9999")) << said.toStdString();
+    environment.insert("QT_QPA_PLATFORM", "xcb"); // chosen by hand: Qt as it is
+    program.setProcessEnvironment(environment);
+    program.start(DORVA_PROGRAM, QStringList());
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_FALSE(program.readAllStandardError().contains("Planszownik nie może"));
 }
 
 } // namespace
