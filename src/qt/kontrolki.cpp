@@ -124,17 +124,13 @@ void ProbkaKoloru::showKolor(int value, const QColor& kolor, bool wybrany) {
         update();
 }
 
-void ProbkaKoloru::paintEvent(QPaintEvent* event) {
+void ProbkaKoloru::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(Qt::black);
-    for (int x : {-1, 0, 1})
-        for (int y : {-1, 0, 1})
-            drawCaption(painter, contentsRect().translated(x, y), int(alignment()), text());
-    painter.end();
-    EtykietaObramowana::paintEvent(event);
+    painter.setPen(palette().color(foregroundRole()));
+    drawOutlined(painter, contentsRect(), int(alignment()), text());
+    drawBorder(painter, rect(), Qt::black);
     if (!wybrana_)
         return;
-    painter.begin(this);
     drawBorder(painter, rect().adjusted(1, 1, -1, -1), Qt::white);
     drawBorder(painter, rect().adjusted(2, 2, -2, -2), Qt::black);
 }

@@ -67,11 +67,11 @@ private:
     bool czerwona_ = false;
 };
 
-// A swatch: its figure has a dark outline, so that white is read on light colours too. The one being edited has a pale
-// figure and a frame.
-class ProbkaKoloru : public EtykietaObramowana {
+// A swatch in a thin black border: its figure has a dark outline, so that white is read on light colours too. The one
+// being edited has a pale figure and a frame.
+class ProbkaKoloru : public Etykieta {
 public:
-    using EtykietaObramowana::EtykietaObramowana;
+    using Etykieta::Etykieta;
     void showKolor(int value, const QColor& kolor, bool wybrany);
 
 protected:

@@ -1,5 +1,7 @@
 #include "qt/napisy.h"
 
+#include <QPen>
+#include <QPoint>
 #include <QStyle>
 
 #include <algorithm>
@@ -43,6 +45,18 @@ void drawCaption(QPainter& painter, const QRect& box, int flags, const QString& 
     painter.scale(double(box.width()) / width, 1);
     painter.drawText(QRect(0, 0, width, box.height()), flags, caption);
     painter.restore();
+}
+
+void drawOutlined(QPainter& painter, const QRect& box, int flags, const QString& caption) {
+    const QFontMetrics metrics = painter.fontMetrics();
+    const QPoint begin = placeOfLine(metrics, box, flags, caption).topLeft() + QPoint(0, metrics.ascent());
+    const QPen pen = painter.pen();
+    painter.setPen(Qt::black);
+    for (int x : {-1, 0, 1})
+        for (int y : {-1, 0, 1})
+            painter.drawText(begin + QPoint(x, y), caption);
+    painter.setPen(pen);
+    painter.drawText(begin, caption);
 }
 
 } // namespace dorva
