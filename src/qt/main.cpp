@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QImageReader>
+#include <QPixmap>
 #include <QScreen>
 
 #include <cstdio>
@@ -41,10 +43,17 @@ std::filesystem::path ownFolder() {
     return executable.empty() ? dorva::toPath(QCoreApplication::applicationDirPath()) : executable.parent_path();
 }
 
+// The format is told: to find it out, Qt would load all its plugins for pictures.
+QPixmap iconOfSize(int size) {
+    QImageReader reader(QString(":/ikona%1.png").arg(size), "png");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
+}
+
 QIcon ownIcon() {
     QIcon icon;
     for (int size : {16, 32, 48, 64, 128, 256})
-        icon.addFile(QString(":/ikona%1.png").arg(size), QSize(size, size));
+        icon.addPixmap(iconOfSize(size));
     return icon;
 }
 
