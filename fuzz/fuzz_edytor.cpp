@@ -70,8 +70,8 @@ void plant(Edytor&) {
                                                           {"/p/PLIKI/DP1.DTA", AUTOR_GRY_SIZE_BYTES},
                                                           {"/p/PLIKI/PALETY/Bitwor.act", PALETA_SIZE_BYTES},
                                                           {"/p/" + std::string(sciezki::KOLORY[1]), KOLORY_SIZE_BYTES}};
-    const auto& [path, length] = places[static_cast<std::size_t>(input->byte()) % std::size(places)];
-    const std::size_t size = input->byte() < 200 ? length : static_cast<std::size_t>(input->below(1863));
+    const auto& [path, length] = places[input->byte() % std::size(places)];
+    const std::size_t size = input->byte() < 200 ? length : input->below(1863);
     const auto given = input->take(size / 8);
     Bajty bytes;
     while (!given.empty() && bytes.size() + given.size() <= size)
@@ -89,10 +89,10 @@ constexpr Operacja OPERACJE[] = {
     [](Edytor& e) { SelectNN(e, input->byte() % 2); },
     [](Edytor& e) { (void)SelectObiektyNR(e, input->byte() % 4); },
     [](Edytor& e) {
-        const Pole& pole = POLA[static_cast<std::size_t>(input->byte()) % POLA.size()];
-        txt_Change(e, pole, Tekst::fromBytes(input->take(static_cast<std::size_t>(input->byte() % 80))));
+        const Pole& pole = POLA[input->byte() % POLA.size()];
+        txt_Change(e, pole, Tekst::fromBytes(input->take(input->byte() % 80)));
     },
-    [](Edytor& e) { txt_LostFocus(e, POLA[static_cast<std::size_t>(input->byte()) % POLA.size()]); },
+    [](Edytor& e) { txt_LostFocus(e, POLA[input->byte() % POLA.size()]); },
     [](Edytor& e) { (void)SetMonet(e, input->byte()); },
     [](Edytor& e) { lblInfo_Click(e, input->byte() % 11); },
     [](Edytor& e) { PickKolor(e, input->byte() % SLOTY_COUNT); },
@@ -143,7 +143,7 @@ void checkPack(Edytor e) {
     SPRAWDZ(e.image == first);
     const int wall = kod(KodKrawedzi(e.okno));
     for (int i = 0; i < PLANSZA_CELLS; ++i) {
-        const int code = first[uklad::PLANSZA + static_cast<std::size_t>(i)];
+        const int code = first[uklad::PLANSZA + i];
         SPRAWDZ(code != kod(DORVA_INV) && (!isEdge(i) || code == 0 || code == 5 || code == 6 || code == wall));
     }
     SPRAWDZ(e.okno.lblInfo[info::CEL_MASEK].liczba == e.okno.hscMonet);
@@ -151,8 +151,7 @@ void checkPack(Edytor e) {
         const Znak z = ZNAKI_INFO[unikat];
         const bool stands =
             std::ranges::any_of(e.okno.imgPG, [&](const auto& cell) { return kod(cell.znak) % INV == kod(z); });
-        SPRAWDZ(e.okno.imgZnak[static_cast<std::size_t>(kod(z))].enabled == !stands &&
-                !(stands && e.okno.imgBufor.znak == z));
+        SPRAWDZ(e.okno.imgZnak[kod(z)].enabled == !stands && !(stands && e.okno.imgBufor.znak == z));
     }
 }
 
@@ -170,7 +169,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Edytor e = fresh;
     (void)readOrCreateBiezacyEtap(e);
     for (int steps = 0; !stream.left.empty() && steps < 200; ++steps) {
-        const auto operation = OPERACJE[static_cast<std::size_t>(stream.byte()) % std::size(OPERACJE)];
+        const auto operation = OPERACJE[stream.byte() % std::size(OPERACJE)];
         const Pliki before = pamiec.files("/p/ETAPY/");
         operation(e);
         if (operation != plant)

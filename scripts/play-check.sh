@@ -26,6 +26,7 @@ trap 'close_display; rm -rf "$work"' EXIT
 # ETAP_...: where the fields of a stage record stand.
 eval "$(sed -n 's/^\(ETAP_[A-Z]*\) *= *\([0-9]*\).*/\1=\2/p' game/src/rekord.inc)"
 board=800
+all_stages=$(seq 32)
 
 at() { # at LABEL: its address in hexadecimal
     awk -v name=".$1" '$3 == name { sub(/^0+/, "", $2); print $2; exit }' "$labels"
@@ -146,9 +147,9 @@ check_title() {
 check_runs() { # check_runs OPTION: the whole game in one go, PAL or NTSC
     # Each stage waits for the stick, so the time in between may be ample.
     # shellcheck disable=SC2046
-    record "$start" $(for stage in $(seq 32); do run_of "$stage"; echo -200; done) >"$work/input"
+    record "$start" $(for stage in $all_stages; do run_of "$stage"; echo -200; done) >"$work/input"
     {
-        for stage in $(seq 32); do
+        for stage in $all_stages; do
             until_at graj_etap && until_at otworz && dump brak_masek 1 "masks$stage"
             until_at policz_premie && dump numer_etapu 1 "stage$stage"
         done
@@ -156,10 +157,10 @@ check_runs() { # check_runs OPTION: the whole game in one go, PAL or NTSC
     } >"$work/commands"
     play "$PWD/$game" -xe "$1"
     expect "all stages are entered, their exits open, she goes through, to the last screen ($1)" "$(came_to)" \
-        "$(for stage in $(seq 32); do printf 'graj_etap otworz policz_premie '; done)ekran_wygranej"
+        "$(for stage in $all_stages; do printf 'graj_etap otworz policz_premie '; done)ekran_wygranej"
     expect "each is the next one, and no mask is missing ($1)" \
-        "$(for stage in $(seq 32); do echo "$(bytes "$work/stage$stage" 0 1) $(bytes "$work/masks$stage" 0 1)"; done)" \
-        "$(for stage in $(seq 32); do echo "$stage 0"; done)"
+        "$(for stage in $all_stages; do echo "$(bytes "$work/stage$stage" 0 1) $(bytes "$work/masks$stage" 0 1)"; done)" \
+        "$(for stage in $all_stages; do echo "$stage 0"; done)"
 }
 
 check_dying() { # she steps into a fire and stays there, three times
@@ -262,7 +263,7 @@ check_all_stages() {
     {
         until_at wcisniete
         echo "BPC $(at graj_etap)"
-        for stage in $(seq 32); do
+        for stage in $all_stages; do
             printf 'C %s %X\nCONT %s\n' "$(at numer_etapu)" "$stage" "$(at graj)"
             dump plansza $board "plansza$stage" && dump zestaw 512 "zestaw$stage" && dump kolory 12 "kolory$stage"
             dump linia_info 40 "linia$stage"
@@ -270,7 +271,7 @@ check_all_stages() {
         echo QUIT
     } >"$work/commands"
     play "$PWD/$game" -xe
-    for stage in $(seq 32); do
+    for stage in $all_stages; do
         file=$stages/DETAP.$stage
         world=$(bytes "$file" "$ETAP_SWIAT" 1)
         same=
@@ -407,7 +408,7 @@ take_pictures() {
     record "$(for _ in $(seq 60); do echo R1 -99; done)" >"$work/input" # a move every two seconds ends each greeting
     {
         until_at wcisniete
-        for stage in $(seq 32); do
+        for stage in $all_stages; do
             printf 'BPC %s\nC %s %X\nCONT %s\n' "$(at graj_etap)" "$(at numer_etapu)" "$stage" "$(at graj)"
             look "etap$stage" && until_at takt
         done
@@ -415,7 +416,7 @@ take_pictures() {
     } >"$work/commands"
     watch "$PWD/$game"
     for stage in 8 14 24; do keep "etap$stage"; done
-    for stage in $(seq 32); do convert "$work/etap$stage.png" -sample 50% "$work/etap$stage.png"; done
+    for stage in $all_stages; do convert "$work/etap$stage.png" -sample 50% "$work/etap$stage.png"; done
     (cd "$work" && montage $(seq -f etap%g.png 32) -tile 4x8 -geometry +2+2 etapy.png)
     keep etapy
 }

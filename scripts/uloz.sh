@@ -14,12 +14,19 @@ sum() { sha256sum <"$1" | cut -d ' ' -f 1; }
 
 known() { grep -qxF "$1" "$laid"; }
 
-put() { # put FROM TO: replaces TO as a whole
+copy() { # copy FROM TO: a copy under the name TO.nowy, in the folder that it needs
     mkdir -p "$(dirname "$2")"
-    cp -p "$1" "$2.nowy" && mv -f "$2.nowy" "$2"
+    cp -p "$1" "$2.nowy"
 }
 
-[ ! -x "$program" ] || cmp -s "$program" "$folder/planszownik" || put "$program" "$folder/planszownik"
+may_go() { # may_go NAME: missing, empty, or as it was laid
+    [ ! -s "$folder/$1" ] || known "$(sum "$folder/$1")  $1"
+}
+
+if [ -x "$program" ] && ! cmp -s "$program" "$folder/planszownik"; then
+    copy "$program" "$folder/planszownik"
+    mv -f "$folder/planszownik.nowy" "$folder/planszownik"
+fi
 
 for tree; do
     [ -d "$tree" ] || continue
@@ -27,13 +34,15 @@ for tree; do
         while IFS= read -r new; do
             name=${new#*  }
             from=$tree/$name to=$folder/$name
-            if [ -L "$to" ]; then
-                continue
-            elif [ ! -s "$to" ]; then
-                put "$from" "$to"
-            elif ! cmp -s "$from" "$to"; then
-                known "$(sum "$to")  $name" || continue
-                put "$from" "$to"
+            [ ! -L "$to" ] || continue
+            if ! cmp -s "$from" "$to"; then
+                may_go "$name" || continue
+                copy "$from" "$to"
+                if ! may_go "$name"; then # somebody has stored there since
+                    rm "$to.nowy"
+                    continue
+                fi
+                mv -f "$to.nowy" "$to"
             fi
             known "$new" || echo "$new" >>"$laid"
         done

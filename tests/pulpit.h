@@ -52,7 +52,7 @@ inline Bajty sampleEtap(int number) {
     for (std::size_t i = 0; i < SLOTY_COUNT; ++i)
         image[uklad::KOLORY + i] = static_cast<Bajt>(number * 7 + static_cast<int>(i));
     for (int i = 0; i < PLANSZA_CELLS; ++i)
-        image[uklad::PLANSZA + static_cast<std::size_t>(i)] = isEdge(i) ? 5 : static_cast<Bajt>((i * number) % 50);
+        image[uklad::PLANSZA + i] = isEdge(i) ? 5 : static_cast<Bajt>((i * number) % 50);
     image[uklad::CEL_MASEK] = static_cast<Bajt>(number);
     image[uklad::OSTATNI] = number == 32 ? 1 : 0;
     image[uklad::SWIAT] = static_cast<Bajt>(number % 3);
@@ -139,7 +139,7 @@ protected:
         start();
     }
     [[nodiscard]] fs::path etap(int number) const { return base / "ETAPY" / ("DETAP." + std::to_string(number)); }
-    Znak& cell(int row, int column) { return e.okno.imgPG[static_cast<std::size_t>(row * 40 + column)].znak; }
+    Znak& cell(int row, int column) { return e.okno.imgPG[row * 40 + column].znak; }
     [[nodiscard]] std::vector<std::string> namesIn(const char* folder) const {
         std::vector<std::string> names;
         for (const fs::path& name : listNames(SYSTEM_PLIKOW, base / folder, ""))

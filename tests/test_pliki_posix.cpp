@@ -50,6 +50,19 @@ TEST_F(PlikiPosix, WhatComesBetweenIsKeptBesideTheLinkAcrossFileSystems) {
     EXPECT_TRUE(writeKeepingUnknown(system, root / "dowiazanie", Bajty{2}, Bajty{1}));
     EXPECT_EQ(readFile(plik), Bajty{2});
     EXPECT_EQ(readFile(root / "dowiazanie.kopia"), Bajty{7});
+    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root / "dysk", "").size(), 1U);
+}
+
+// What a swap leaves under the temporary name is as old as the file was.
+TEST_F(PlikiPosix, AnotherStartMaySweepTheOldContent) {
+    writeFile(root / "plik", {1});
+    SystemPlikow system = SYSTEM_PLIKOW;
+    system.swap = [](const fs::path& one, const fs::path& other) {
+        const Wynik wynik = SYSTEM_PLIKOW.swap(one, other);
+        return fs::remove(one), wynik;
+    };
+    EXPECT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{2}, Bajty{1}));
+    EXPECT_EQ(readFile(root / "plik"), Bajty{2});
 }
 
 TEST_F(PlikiPosix, WriteRefusesWhatCouldNotBeOpened) {

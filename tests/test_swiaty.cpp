@@ -20,7 +20,7 @@ Bajty readEtap(int number) {
     return readDane("ETAPY/DETAP." + std::to_string(number));
 }
 int codeAt(const Bajty& etap, int row, int column) {
-    return etap[uklad::PLANSZA + static_cast<std::size_t>(row * PLANSZA_COLUMNS + column)] % INV;
+    return etap[uklad::PLANSZA + row * PLANSZA_COLUMNS + column] % INV;
 }
 // The pixel of a bitmap of four bits a pixel that stands upright on its last row.
 Rgb pixelOf(const Bajty& bmp, int x, int y) {
@@ -28,8 +28,8 @@ Rgb pixelOf(const Bajty& bmp, int x, int y) {
         return bmp[at] | bmp[at + 1] << 8 | bmp[at + 2] << 16 | bmp[at + 3] << 24;
     };
     const int width = word(18), height = word(22), rowBytes = width / 2;
-    const Bajt pair = bmp.at(static_cast<std::size_t>(word(10) + (height - 1 - y) * rowBytes + x / 2));
-    const auto colour = static_cast<std::size_t>(54 + 4 * (x % 2 ? pair & 15 : pair >> 4));
+    const Bajt pair = bmp.at(word(10) + (height - 1 - y) * rowBytes + x / 2);
+    const auto colour = 54 + 4 * (x % 2 ? pair & 15 : pair >> 4);
     return {bmp[colour + 2], bmp[colour + 1], bmp[colour]};
 }
 
@@ -44,7 +44,7 @@ TEST(Zestaw, StripIsTheCharacterSetSeenThroughTheColours) {
         for (int x = 0; x < 4096; ++x)
             for (int y = 0; y < 32; ++y) {
                 const int position = x / 32, code = position % 64;
-                const unsigned bits = znaki[static_cast<std::size_t>(code * 8 + y / 4)] >> (6 - x % 32 / 8 * 2) & 3U;
+                const unsigned bits = znaki[code * 8 + y / 4] >> (6 - x % 32 / 8 * 2) & 3U;
                 // 00 is the background; 11 of the INV half takes the fourth colour.
                 const std::size_t kolor = bits == 0 ? 4 : bits == 3 && position >= 64 ? 3 : bits - 1;
                 ASSERT_EQ(pixelOf(bmp, x, y), PaletaWbudowana[kolory[kolor]]) << name << " " << x << "," << y;
@@ -164,7 +164,7 @@ Zasieg findZasieg(const Bajty& etap, const std::set<Srodek>& bez, const std::set
             }
             const auto magiczny = std::find(magiczne.begin(), magiczne.end(), beside);
             if (magiczny != magiczne.end() && !bez.contains(MAGIA))
-                beside = magiczne.at(static_cast<std::size_t>(magiczny - magiczne.begin()) ^ 1U);
+                beside = magiczne.at((magiczny - magiczne.begin()) ^ 1U);
             if (!seen.insert(beside + 1000 * deep).second)
                 continue;
             next.push_back(beside + 1000 * deep);

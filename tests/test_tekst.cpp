@@ -30,13 +30,14 @@ TEST(Tekst, UpperCaseCoversTheWholeCodePage) {
 TEST(Tekst, FitNazwaCentresByLength) {
     EXPECT_EQ(FitNazwa({"ala"}).znaki, std::string(15, ' ') + "ALA" + std::string(14, ' '));
     for (auto [length, before] : {std::pair{31, 1}, {30, 1}, {29, 2}, {28, 2}, {32, 0}}) {
-        const Tekst fitted = FitNazwa({std::string(static_cast<std::size_t>(length), 'A')});
+        const Tekst fitted = FitNazwa({std::string(length, 'A')});
         EXPECT_EQ(fitted.size(), 32U);
-        EXPECT_EQ(fitted.znaki.find('A'), static_cast<std::size_t>(before)) << length;
+        EXPECT_EQ(fitted.znaki.find('A'), before) << length;
     }
     const Tekst indented = FitNazwa({std::string(10, ' ') + "ABCDEFGHIJ"});
     EXPECT_EQ(indented.znaki.find('A'), 16U) << "leading spaces count as text";
     EXPECT_EQ(FitNazwa(indented), indented);
+    EXPECT_EQ(FitNazwa({"ala"}, 6).znaki, "  ALA ") << "a narrower box";
 }
 
 TEST(Tekst, CodePageRoundTripsThroughUnicode) {

@@ -8,10 +8,9 @@ namespace {
 
 // A strip whose pixels tell world and tile.
 Bitmapa sampleStrip(std::uint32_t swiat, int width = 4096, int height = 32) {
-    Bitmapa strip{width, height, std::vector<std::uint32_t>(static_cast<std::size_t>(width * height))};
+    Bitmapa strip{width, height, std::vector<std::uint32_t>(width * height)};
     for (std::size_t i = 0; i < strip.piksele.size(); ++i)
-        strip.piksele[i] =
-            0xFF000000U | swiat << 16U | static_cast<std::uint32_t>(i % static_cast<std::size_t>(width) / 32);
+        strip.piksele[i] = 0xFF000000U | swiat << 16U | static_cast<std::uint32_t>(i % width / 32);
     return strip;
 }
 

@@ -22,7 +22,7 @@ protected:
         std::fill_n(image.begin(), 16, Bajt{0});
         std::fill_n(image.begin() + 28, 4, Bajt{0});
         for (int i = 0; i < PLANSZA_CELLS; ++i) {
-            Bajt& code = image[32 + static_cast<std::size_t>(i)];
+            Bajt& code = image[32 + i];
             if (isEdge(i) && code != 0 && code != 5 && code != 6)
                 code = 5;
             else if (code == 191)

@@ -103,7 +103,7 @@ void BM_OknoStroke(benchmark::State& state) {
     Stanowisko s;
     auto* board = s.okno.findChild<QWidget*>("imgPG");
     measure(state, [&](int n) {
-        s.edytor.okno.imgBufor = s.edytor.okno.imgZnak[static_cast<std::size_t>(n % 8)];
+        s.edytor.okno.imgBufor = s.edytor.okno.imgZnak[n % 8];
         press(board, nextCell(n));
     });
 }

@@ -36,12 +36,12 @@ Bajty BuildBmp(const ObrazBarwny& obraz) {
     for (const Rgb& barwa : obraz.barwy)
         bytes.insert(bytes.end(), {barwa.b, barwa.g, barwa.r, 0});
 
-    bytes.resize(static_cast<std::size_t>(pixelsAt + pixelBytes));
+    bytes.resize(pixelsAt + pixelBytes);
     for (int y = 0; y < obraz.height; ++y) {
-        const auto row = static_cast<std::size_t>(pixelsAt + rowBytes * (obraz.height - 1 - y)); // bottom up
+        const auto row = pixelsAt + rowBytes * (obraz.height - 1 - y); // bottom up
         for (int x = 0; x < obraz.width; ++x) {
-            const Bajt pixel = obraz.piksele[static_cast<std::size_t>(y * obraz.width + x)];
-            bytes[row + static_cast<std::size_t>(x) / 2] |= static_cast<Bajt>(x % 2 ? pixel : pixel << 4);
+            const Bajt pixel = obraz.piksele[y * obraz.width + x];
+            bytes[row + x / 2] |= static_cast<Bajt>(x % 2 ? pixel : pixel << 4);
         }
     }
     return bytes;

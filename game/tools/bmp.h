@@ -15,7 +15,7 @@ struct ObrazBarwny {
     std::vector<Bajt> piksele; // indices into `barwy`, row by row from the top
 
     ObrazBarwny(int w, int h, std::vector<Rgb> colours)
-        : width(w), height(h), barwy(std::move(colours)), piksele(static_cast<std::size_t>(w * h)) {}
+        : width(w), height(h), barwy(std::move(colours)), piksele(w * h) {}
 
     void fill(int x, int y, int w, int h, Bajt barwa);
 };

@@ -9,7 +9,7 @@ constexpr std::array<std::string_view, SLOTY_COUNT> NAZWY_SLOTOW{
     "klucze", "bomby", "maski", "energia", "grunt", "twarz", "ubranie", "woda", "tlo", "symbole", "znaki", "panel"};
 
 // The rest of a header line that has to start with `name`.
-std::string_view takePole(Zrodlo& z, std::string_view name) {
+std::string_view takeWartosc(Zrodlo& z, std::string_view name) {
     const auto [slowo, reszta] = splitSlowo(z.take());
     if (slowo != name)
         z.fail("\"" + std::string(name) + "\" should stand here");
@@ -18,7 +18,7 @@ std::string_view takePole(Zrodlo& z, std::string_view name) {
 
 // A text of the game, as window text that is not longer than its box.
 Tekst takeTekst(Zrodlo& z, std::string_view name, std::size_t width) {
-    Tekst tekst = toTekst(z, takePole(z, name));
+    Tekst tekst = toTekst(z, takeWartosc(z, name));
     if (tekst.size() > width)
         z.fail("at most " + std::to_string(width) + " characters");
     return tekst;
@@ -27,15 +27,14 @@ Tekst takeTekst(Zrodlo& z, std::string_view name, std::size_t width) {
 // The colours of a line "kolory grunt 180 tlo 0", or none of "kolory standard".
 WybraneKolory takeKolory(Zrodlo& z) {
     WybraneKolory wybrane{};
-    std::string_view pairs = takePole(z, "kolory");
+    std::string_view pairs = takeWartosc(z, "kolory");
     while (pairs != "standard" && !pairs.empty()) {
         const auto [nazwa, value] = splitSlowo(pairs);
         const auto [liczba, reszta] = splitSlowo(value);
         const auto slot = std::ranges::find(NAZWY_SLOTOW, nazwa);
         if (slot == NAZWY_SLOTOW.end())
             z.fail("no colour has the name \"" + std::string(nazwa) + "\"");
-        wybrane[static_cast<std::size_t>(slot - NAZWY_SLOTOW.begin())] =
-            static_cast<Bajt>(parseLiczba(z, liczba, 0, 255));
+        wybrane[slot - NAZWY_SLOTOW.begin()] = static_cast<Bajt>(parseLiczba(z, liczba, 0, 255));
         pairs = reszta;
     }
     return wybrane;
@@ -52,7 +51,7 @@ std::array<Bajt, SLOTY_COUNT> mixKolory(std::size_t swiat, const Rysunki& rysunk
 }
 
 void takePlansza(Zrodlo& z, const Legenda& legenda, std::span<Bajt> cells) {
-    takePole(z, "plansza");
+    takeWartosc(z, "plansza");
     for (std::size_t row = 0; row < PLANSZA_ROWS; ++row) {
         const std::string_view line = z.take();
         if (line.size() != PLANSZA_COLUMNS)
@@ -80,7 +79,7 @@ Legenda parseLegenda(Zrodlo z) {
         const auto character = static_cast<Bajt>(znaczek[0]);
         if (znaczek.size() != 1 || character >= legenda.kody.size() || legenda.kody[character] >= 0)
             z.fail("a character of its own should stand for each tile");
-        if (!isTile(znak(code)) || nazwa != NAZWY_ZNAKOW[static_cast<std::size_t>(code % INV)])
+        if (!isTile(znak(code)) || nazwa != NAZWY_ZNAKOW[code % INV])
             z.fail("tile and name do not belong together");
         legenda.kody[character] = code;
     }
@@ -88,10 +87,10 @@ Legenda parseLegenda(Zrodlo z) {
 }
 
 Bajty parseEtap(Zrodlo z, const Legenda& legenda, const Swiaty& swiaty) {
-    const auto swiat = static_cast<std::size_t>(parseLiczba(z, takePole(z, "swiat"), 1, SWIATY_COUNT) - 1);
+    const auto swiat = parseLiczba(z, takeWartosc(z, "swiat"), 1, SWIATY_COUNT) - 1;
     const auto kolory = mixKolory(swiat, swiaty[swiat], legenda.kolory, takeKolory(z));
-    const int cel = parseLiczba(z, takePole(z, "cel"), CEL_MIN, CEL_MAX);
-    const int ostatni = parseLiczba(z, takePole(z, "ostatni"), 0, 1);
+    const int cel = parseLiczba(z, takeWartosc(z, "cel"), CEL_MIN, CEL_MAX);
+    const int ostatni = parseLiczba(z, takeWartosc(z, "ostatni"), 0, 1);
     const Tekst nazwa = takeTekst(z, "powitanie", NAZWA_WIDTH);
     const Tekst autor = takeTekst(z, "opis", AUTOR_WIDTH);
 

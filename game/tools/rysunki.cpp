@@ -35,7 +35,7 @@ Ksztalt takeRysunek(Zrodlo& z, const Rysunki& rysunki, int code) {
     if (slowo != "lustro" && slowo != "odbicie")
         return takeKsztalt(z);
     z.take();
-    Ksztalt ksztalt = rysunki.ksztalty[static_cast<std::size_t>(parseLiczba(z, numer, 0, code - 1))];
+    Ksztalt ksztalt = rysunki.ksztalty[parseLiczba(z, numer, 0, code - 1)];
     if (slowo == "odbicie") {
         std::ranges::reverse(ksztalt);
         return ksztalt;
@@ -56,7 +56,7 @@ void draw(ObrazBarwny& obraz, int x, int y, int side, const Ksztalt& ksztalt, bo
     const int w = side / KSZTALT_COLUMNS, h = side / KSZTALT_ROWS;
     for (int row = 0; row < KSZTALT_ROWS; ++row)
         for (int column = 0; column < KSZTALT_COLUMNS; ++column) {
-            const Bajt pixel = ksztalt[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+            const Bajt pixel = ksztalt[row][column];
             obraz.fill(x + column * w, y + row * h, w, h, barwa(pixel, inv));
         }
 }
@@ -109,8 +109,8 @@ Bajty BuildZnaki(const Rysunki& rysunki) {
 ObrazBarwny BuildPasek(const Rysunki& rysunki) {
     ObrazBarwny pasek(2 * ZNAKI_COUNT * OBRAZ_SIDE, OBRAZ_SIDE, barwy(rysunki.kolory));
     for (int position = 0; position < 2 * ZNAKI_COUNT; ++position)
-        draw(pasek, position * OBRAZ_SIDE, 0, OBRAZ_SIDE,
-             rysunki.ksztalty[static_cast<std::size_t>(position % ZNAKI_COUNT)], position >= ZNAKI_COUNT);
+        draw(pasek, position * OBRAZ_SIDE, 0, OBRAZ_SIDE, rysunki.ksztalty[position % ZNAKI_COUNT],
+             position >= ZNAKI_COUNT);
     return pasek;
 }
 
@@ -119,8 +119,8 @@ ObrazBarwny BuildPlansza(const Rysunki& rysunki, const Bajty& etap) {
     const std::span kolory = std::span(etap).subspan(uklad::KOLORY + KOLORY_FIRST_SLOT, KOLORY_SIZE_BYTES);
     ObrazBarwny obraz(PLANSZA_COLUMNS * SIDE, PLANSZA_ROWS * SIDE, barwy(kolory));
     for (int cell = 0; cell < PLANSZA_CELLS; ++cell) {
-        const int code = etap[uklad::PLANSZA + static_cast<std::size_t>(cell)];
-        const auto shape = static_cast<std::size_t>(code % INV);
+        const int code = etap[uklad::PLANSZA + cell];
+        const auto shape = code % INV;
         draw(obraz, cell % PLANSZA_COLUMNS * SIDE, cell / PLANSZA_COLUMNS * SIDE, SIDE,
              shape < ZNAKI_COUNT ? rysunki.ksztalty[shape] : rysunki.obcy, code >= INV);
     }

@@ -75,7 +75,7 @@ std::map<std::size_t, Segment> walk(const Bajty& file) {
         const std::uint16_t start = word(file, at);
         const std::uint16_t end = word(file, at + 2);
         at += 4;
-        const std::size_t bytes = static_cast<std::size_t>(end) + 1 - start;
+        const std::size_t bytes = end + 1 - start;
         if (end < start || at + bytes > file.size()) {
             expect(false, "a segment runs over the end of the file or backwards", at - 4);
             break;

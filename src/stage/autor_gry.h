@@ -21,7 +21,7 @@ void takeAutorGry(Edytor&, std::span<const Bajt> bytes);
 // read; it may end early, or be none that can be read.
 void readAutorGry(Edytor&);
 
-// Writes DP1.DTA. Content that the editor doesn't know is kept aside first.
+// Writes DP1.DTA, what fillAutorGry makes of the boxes. Content that the editor doesn't know is kept aside first.
 [[nodiscard]] bool writeAutorGry(Edytor&);
 
 } // namespace dorva

@@ -5,7 +5,7 @@ namespace {
 
 void bringToForm(Okno& okno, const Pole& pole) {
     const Tekst& tekst = pole.box(okno).tekst;
-    SetTekst(okno, pole, pole.forma == Forma::Centred ? FitNazwa(tekst) : NormalizeBox(tekst, pole.width));
+    SetTekst(okno, pole, pole.forma == Forma::Centred ? FitNazwa(tekst, pole.width) : NormalizeBox(tekst, pole.width));
 }
 
 } // namespace

@@ -32,13 +32,13 @@ struct Pole {
     Forma forma;
 };
 
-inline constexpr std::array<Pole, 5> POLA{{
+inline constexpr auto POLA = std::to_array<Pole>({
     {"txtNazwa", -1, [](auto& o) { return &o.txtNazwa; }, NAZWA_WIDTH, Forma::Centred},
     {"txtAutor", -1, [](auto& o) { return &o.txtAutor; }, AUTOR_WIDTH, Forma::Left},
     {"txtAutorGry", 0, [](auto& o) { return &o.txtAutorGry[0]; }, LINIA_WIDTH, Forma::Left},
     {"txtAutorGry", 1, [](auto& o) { return &o.txtAutorGry[1]; }, LINIA_WIDTH, Forma::Left},
     {"txtAutorGry", 2, [](auto& o) { return &o.txtAutorGry[2]; }, LINIA_WIDTH, Forma::Left},
-}};
+});
 inline constexpr const Pole &POLE_NAZWA = POLA[0], &POLE_AUTOR = POLA[1];
 
 // The box of a title line, 0..2.

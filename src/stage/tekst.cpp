@@ -98,10 +98,10 @@ Tekst upperCase(Tekst tekst) {
     return tekst;
 }
 
-Tekst FitNazwa(const Tekst& tekst) {
+Tekst FitNazwa(const Tekst& tekst, std::size_t width) {
     const std::size_t length = tekst.size();
-    const std::size_t before = length < NAZWA_WIDTH ? (NAZWA_WIDTH + 1 - length) / 2 : 0;
-    return NormalizeBox({std::string(before, ' ') + tekst.znaki}, NAZWA_WIDTH);
+    const std::size_t before = length < width ? (width + 1 - length) / 2 : 0;
+    return NormalizeBox({std::string(before, ' ') + tekst.znaki}, width);
 }
 
 Tekst NormalizeBox(const Tekst& tekst, std::size_t width) {

@@ -33,8 +33,8 @@ Tekst DecodeTekst(std::span<const Bajt> bytes);
 // Upper case over the whole of Windows-1250.
 Tekst upperCase(Tekst tekst);
 
-// Upper case, centred by its length (the odd space to the right), filled up to 32 characters.
-Tekst FitNazwa(const Tekst& tekst);
+// Upper case, centred by its length (the odd space to the right), filled up to `width` characters.
+Tekst FitNazwa(const Tekst& tekst, std::size_t width = NAZWA_WIDTH);
 
 // Upper case, filled up with spaces on the right to `width` characters.
 Tekst NormalizeBox(const Tekst& tekst, std::size_t width);

@@ -13,8 +13,7 @@ struct Bitmapa {
     std::vector<std::uint32_t> piksele;
 
     [[nodiscard]] bool isWhole() const {
-        return width >= 0 && height >= 0 &&
-               piksele.size() >= static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+        return width >= 0 && height >= 0 && piksele.size() >= static_cast<std::size_t>(width) * height;
     }
 };
 

@@ -99,24 +99,24 @@ std::optional<fs::path> resolved(const SystemPlikow& system, fs::path path) {
 }
 
 // What a write is about to replace: the file behind all links and, if it is there, what it is like.
-struct Cel {
+struct Zastany {
     fs::path path;
     std::optional<OpisPliku> old;
 };
 
 // Nothing where an ordinary open for writing would fail. A rename alone would also replace read-only
 // files, devices and directories.
-std::optional<Cel> findCel(const SystemPlikow& system, const fs::path& path) {
+std::optional<Zastany> findZastany(const SystemPlikow& system, const fs::path& path) {
     const auto target = resolved(system, path);
     if (!target)
         return std::nullopt;
     OpisPliku old;
     const Wynik wynik = system.stat(*target, old);
     if (wynik != Wynik::Ok)
-        return wynik == Wynik::NieMa ? std::optional(Cel{*target, std::nullopt}) : std::nullopt;
+        return wynik == Wynik::NieMa ? std::optional(Zastany{*target, std::nullopt}) : std::nullopt;
     if (old.rodzaj != RodzajPliku::Zwykly || !Otwarty(system, *target, Otwarcie::Zapis).ok())
         return std::nullopt;
-    return Cel{*target, old};
+    return Zastany{*target, old};
 }
 
 // The coming content of a file: written and flushed beside it, under a name of its own, which goes unless it gets its
@@ -153,6 +153,7 @@ public:
         mayHoldOther_ = mayHoldOther_ || wynik == Wynik::Ok || wynik == Wynik::Blad;
         return wynik;
     }
+    [[nodiscard]] bool isGone() const { return !fileExists(system_, path_); }
     [[nodiscard]] bool holdsOwn(const fs::path& path) const {
         const auto content = readWhole(system_, path);
         return content && std::ranges::equal(*content, bytes_);
@@ -199,25 +200,25 @@ bool writeOver(const SystemPlikow& system, const fs::path& path, Otwarcie otwarc
 }
 
 // The way where the folder refuses new names. Not for a file with a second name, which would change along.
-bool writeInPlace(const SystemPlikow& system, const Cel& cel, std::span<const Bajt> bytes) {
+bool writeInPlace(const SystemPlikow& system, const Zastany& zastany, std::span<const Bajt> bytes) {
     OpisPliku opis;
-    if (!cel.old || system.stat(cel.path, opis) != Wynik::Ok || opis.names != 1)
+    if (!zastany.old || system.stat(zastany.path, opis) != Wynik::Ok || opis.names != 1)
         return false;
-    const auto old = readWhole(system, cel.path);
+    const auto old = readWhole(system, zastany.path);
     if (!old)
         return false;
-    if (writeOver(system, cel.path, bytes.size() < old->size() ? Otwarcie::OdNowa : Otwarcie::Zapis, bytes))
+    if (writeOver(system, zastany.path, bytes.size() < old->size() ? Otwarcie::OdNowa : Otwarcie::Zapis, bytes))
         return true;
-    (void)writeOver(system, cel.path, Otwarcie::OdNowa, *old);
+    (void)writeOver(system, zastany.path, Otwarcie::OdNowa, *old);
     return false;
 }
 
-bool replace(const SystemPlikow& system, const Cel& cel, Nowy& nowy, std::span<const Bajt> bytes) {
-    const Wynik wynik = nowy.replace(cel.path);
+bool replace(const SystemPlikow& system, const Zastany& zastany, Nowy& nowy, std::span<const Bajt> bytes) {
+    const Wynik wynik = nowy.replace(zastany.path);
     if (wynik != Wynik::Odmowa)
         return wynik == Wynik::Ok;
     nowy.drop();
-    return writeInPlace(system, cel, bytes);
+    return writeInPlace(system, zastany, bytes);
 }
 
 // Whether a temporary file was left over by a program that was killed.
@@ -253,26 +254,25 @@ std::optional<fs::path> copyAside(const SystemPlikow& system, const fs::path& pa
 
 // After a swap: what stood there goes, or stays as a copy if it isn't kept yet, by its name or, behind a link to
 // another file system, as another copy. Swapped back where it can't be.
-bool settle(const SystemPlikow& system, const Cel& cel, const fs::path& path, Nowy& nowy,
+bool settle(const SystemPlikow& system, const Zastany& zastany, const fs::path& path, Nowy& nowy,
             const std::optional<Bajty>& last, bool isKept) {
-    if (isKept)
-        nowy.drop();
-    else if (!takeKopia(nowy, path) && !(last && copyAside(system, path, *last, cel.old))) {
-        (void)nowy.swap(cel.path);
+    if (!isKept && !takeKopia(nowy, path) && !(last && copyAside(system, path, *last, zastany.old))) {
+        (void)nowy.swap(zastany.path);
         return false;
     }
-    system.flushFolder(folderOf(cel.path));
+    nowy.drop();
+    system.flushFolder(folderOf(zastany.path));
     return true;
 }
 
 // The way for a file that can't be copied: the new content takes the copy's name, then the two exchange theirs. So the
 // old one never stands under a name that is swept.
-bool swapWithKopia(const SystemPlikow& system, const Cel& cel, Nowy& nowy) {
-    const auto kopia = takeKopia(nowy, cel.path);
+bool swapWithKopia(const SystemPlikow& system, const Zastany& zastany, Nowy& nowy) {
+    const auto kopia = takeKopia(nowy, zastany.path);
     if (!kopia)
         return false;
-    if (system.swap(*kopia, cel.path) == Wynik::Ok) {
-        system.flushFolder(folderOf(cel.path));
+    if (system.swap(*kopia, zastany.path) == Wynik::Ok) {
+        system.flushFolder(folderOf(zastany.path));
         return true;
     }
     if (nowy.holdsOwn(*kopia))
@@ -328,49 +328,50 @@ bool isSameFile(const SystemPlikow& system, const fs::path& a, const fs::path& b
 }
 
 bool writeWhole(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes) {
-    const auto cel = findCel(system, path);
-    if (!cel)
+    const auto zastany = findZastany(system, path);
+    if (!zastany)
         return false;
-    Nowy nowy(system, cel->path, bytes, cel->old);
-    return replace(system, *cel, nowy, bytes);
+    Nowy nowy(system, zastany->path, bytes, zastany->old);
+    return replace(system, *zastany, nowy, bytes);
 }
 
 bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::span<const Bajt> bytes,
                          const std::optional<Bajty>& known) {
-    const auto cel = findCel(system, path);
-    if (!cel)
+    const auto zastany = findZastany(system, path);
+    if (!zastany)
         return false;
-    Nowy nowy(system, cel->path, bytes, cel->old);
+    Nowy nowy(system, zastany->path, bytes, zastany->old);
     if (nowy.wynik() != Wynik::Ok && nowy.wynik() != Wynik::Odmowa)
         return false;
-    if (!cel->old && nowy.takeFreeName(cel->path) == Wynik::Ok)
+    if (!zastany->old && nowy.takeFreeName(zastany->path) == Wynik::Ok)
         return true;
 
     const auto isKnown = [&](const Bajty& content) {
         return content.empty() || content == known || std::ranges::equal(content, bytes);
     };
     std::optional<fs::path> kopia;
-    std::optional<Bajty> old, kept;
-    while ((old = readWhole(system, cel->path)) && !isKnown(*old) && old != kept) {
-        kopia = copyAside(system, path, *old, cel->old);
+    std::optional<Bajty> kept;
+    auto old = readWhole(system, zastany->path);
+    while (old && !isKnown(*old) && old != kept) {
+        kopia = copyAside(system, path, *old, zastany->old);
         if (!kopia)
             return false;
-        kept = old;
+        kept = std::exchange(old, readWhole(system, zastany->path));
     }
-    if (!old && fileExists(system, cel->path))
-        return swapWithKopia(system, *cel, nowy);
-    const Wynik swapped = nowy.swap(cel->path);
+    if (!old && fileExists(system, zastany->path))
+        return swapWithKopia(system, *zastany, nowy);
+    const Wynik swapped = nowy.swap(zastany->path);
     if (swapped == Wynik::Ok) {
-        // Another program may have written since the look.
+        // Another program may have written since the look. What is gone was old enough to be swept, so it was known.
         const auto last = nowy.content();
-        return settle(system, *cel, path, nowy, last, last && (isKnown(*last) || last == old));
+        return settle(system, *zastany, path, nowy, last, last ? isKnown(*last) || last == old : nowy.isGone());
     }
     const bool mayReplace = swapped == Wynik::Odmowa || swapped == Wynik::NieMa;
-    if (mayReplace && replace(system, *cel, nowy, bytes))
+    if (mayReplace && replace(system, *zastany, nowy, bytes))
         return true;
     // A rename can be carried out and still be answered by an error: the copy goes only if the old content stands
     // there.
-    if (kopia && readWhole(system, cel->path) == old)
+    if (kopia && readWhole(system, zastany->path) == old)
         system.remove(*kopia);
     return false;
 }

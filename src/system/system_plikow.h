@@ -50,7 +50,7 @@ enum class Otwarcie {
 // An open file as the system numbers it.
 enum class Uchwyt : std::intptr_t { Zaden = -1 };
 
-// No call is left interrupted by a signal.
+// No call on a file is left interrupted by a signal.
 struct SystemPlikow {
     using Sciezka = std::filesystem::path;
 

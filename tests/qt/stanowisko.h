@@ -92,7 +92,7 @@ protected:
         });
     }
 
-    [[nodiscard]] Znak cellOf(int cell) const { return e.okno.imgPG[static_cast<std::size_t>(cell)].znak; }
+    [[nodiscard]] Znak cellOf(int cell) const { return e.okno.imgPG[cell].znak; }
 
     [[nodiscard]] static QPoint centreOf(int cell) {
         return {cell % PLANSZA_COLUMNS * 16 + 8, cell / PLANSZA_COLUMNS * 16 + 8};

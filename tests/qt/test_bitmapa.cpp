@@ -31,7 +31,7 @@ protected:
     }
     static Bajty with(Bajty file, std::size_t place, std::uint32_t value, int count = 4) {
         for (int i = 0; i < count; ++i, value >>= 8U)
-            file[place + static_cast<std::size_t>(i)] = static_cast<Bajt>(value);
+            file[place + i] = static_cast<Bajt>(value);
         return file;
     }
     static constexpr std::uint32_t BLACK = 0xFF000000, RED = 0xFFFF0000, GREEN = 0xFF00FF00;
