@@ -56,8 +56,13 @@ TEST_F(Archiwum, WrongLengthChangesNothing) {
     EXPECT_EQ(readFile(etap(2)), sampleEtap(2));
 }
 
-TEST_F(Archiwum, SaveEndsSilentlyWithoutAllStages) {
+TEST_F(Archiwum, SaveEndsSilentlyWithoutAllStagesOrTheTitleLines) {
     start();
+    fs::remove(base / "PLIKI/DP1.DTA");
+    fs::create_directory(base / "PLIKI/DP1.DTA");
+    cmdSaveArch_Click(e);
+    EXPECT_TRUE(dialogs.empty());
+    fs::remove(base / "PLIKI/DP1.DTA");
     fs::remove(etap(20));
     writeFile(etap(21), Bajty(930, 1));
     chosen = root / "gra.dpa";
