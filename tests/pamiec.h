@@ -246,6 +246,7 @@ inline const SystemPlikow* systemPamieci() {
                 pamiec.awaria.removeFailed |= wynik == pamiec.awaria.error;
                 return wynik;
             },
+        .holdFolder = [](const Sciezka&, Uchwyt&) { return Wynik::Odmowa; }, // nobody else is there
         .flushFolder = mayFail<flushNames>,
         .list = mayFail<listFolder>,
     };

@@ -2,7 +2,9 @@
 #include "pulpit.h"
 #include "system/system_plikow.h"
 
+#include <chrono>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace dorva::test {
@@ -51,6 +53,26 @@ TEST_F(PlikiPosix, WhatComesBetweenIsKeptBesideTheLinkAcrossFileSystems) {
     EXPECT_EQ(readFile(plik), Bajty{2});
     EXPECT_EQ(readFile(root / "dowiazanie.kopia"), Bajty{7});
     EXPECT_EQ(listNames(SYSTEM_PLIKOW, root / "dysk", "").size(), 1U);
+}
+
+// Another editor stores at the same instant, where names can't be exchanged.
+TEST_F(PlikiPosix, WritersInAFolderTakeTurns) {
+    static fs::path plik;
+    static std::thread other;
+    plik = root / "plik";
+    writeFile(plik, {1});
+    SystemPlikow system = SYSTEM_PLIKOW;
+    system.swap = [](const fs::path&, const fs::path&) { return Wynik::Odmowa; };
+    static const SystemPlikow others = system;
+    system.rename = [](const fs::path& from, const fs::path& to) {
+        other = std::thread([] { EXPECT_TRUE(writeKeepingUnknown(others, plik, Bajty{3}, Bajty{1})); });
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        return SYSTEM_PLIKOW.rename(from, to);
+    };
+    EXPECT_TRUE(writeKeepingUnknown(system, plik, Bajty{2}, Bajty{1}));
+    other.join();
+    EXPECT_EQ(readFile(plik), Bajty{3});
+    EXPECT_EQ(readFile(root / "plik.kopia"), Bajty{2});
 }
 
 // What a swap leaves under the temporary name is as old as the file was.

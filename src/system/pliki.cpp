@@ -119,6 +119,24 @@ std::optional<Zastany> findZastany(const SystemPlikow& system, const fs::path& p
     return Zastany{*target, old};
 }
 
+// A turn in a folder, till the scope ends. Where none can be had, the writers are on their own.
+class Kolej {
+public:
+    Kolej(const SystemPlikow& system, const fs::path& folder)
+        : system_(system), isHeld_(system.holdFolder(folder, hold_) == Wynik::Ok) {}
+    ~Kolej() {
+        if (isHeld_)
+            system_.close(hold_);
+    }
+    Kolej(const Kolej&) = delete;
+    Kolej& operator=(const Kolej&) = delete;
+
+private:
+    const SystemPlikow& system_;
+    Uchwyt hold_ = Uchwyt::Zaden;
+    bool isHeld_;
+};
+
 // The coming content of a file: written and flushed beside it, under a name of its own, which goes unless it gets its
 // place. The number in it is the time's, so a name that someone is about to sweep never comes back. After an exchange
 // of names that wasn't settled, what another program wrote may stand there: only the own content goes.
@@ -343,6 +361,8 @@ bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::
     Nowy nowy(system, zastany->path, bytes, zastany->old);
     if (nowy.wynik() != Wynik::Ok && nowy.wynik() != Wynik::Odmowa)
         return false;
+    const Kolej kolej(system,
+                      folderOf(zastany->path)); // so that two editors are as safe where names can't be exchanged
     if (!zastany->old && nowy.takeFreeName(zastany->path) == Wynik::Ok)
         return true;
 

@@ -74,6 +74,9 @@ struct SystemPlikow {
     Wynik (*swap)(const Sciezka& one, const Sciezka& other);    // the two exchange their names at once
     Wynik (*remove)(const Sciezka&);
 
+    // The writers in a folder take turns: holds it against others who ask, until the handle is closed. Waits for
+    // another some 1.3 s, then refuses.
+    Wynik (*holdFolder)(const Sciezka&, Uchwyt& hold);
     // Makes new names in a folder outlive a power cut.
     Wynik (*flushFolder)(const Sciezka&);
     // Adds the names in a folder, in any order, without those of the folder itself and the one above.

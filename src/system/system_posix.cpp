@@ -15,6 +15,7 @@
 #include <iterator>
 #include <span>
 #include <string_view>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -216,6 +217,21 @@ Wynik swap(const fs::path& one, const fs::path& other) {
     return done([&] { return ::renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE); });
 }
 
+Wynik holdFolder(const fs::path& folder, Uchwyt& hold) {
+    constexpr std::array<::useconds_t, 8> WAITS_US{0, 10000, 20000, 40000, 80000, 160000, 320000, 640000};
+    if (const Wynik wynik = open(folder, Otwarcie::Odczyt, hold); wynik != Wynik::Ok)
+        return wynik;
+    for (::useconds_t wait : WAITS_US) {
+        ::usleep(wait);
+        if (done([&] { return ::flock(number(hold), LOCK_EX | LOCK_NB); }) == Wynik::Ok)
+            return Wynik::Ok;
+        if (errno != EWOULDBLOCK)
+            break;
+    }
+    close(hold);
+    return Wynik::Odmowa;
+}
+
 Wynik flushFolder(const fs::path& folder) {
     Uchwyt file{};
     Wynik wynik = open(folder, Otwarcie::Odczyt, file);
@@ -259,6 +275,7 @@ const SystemPlikow SYSTEM_PLIKOW{
     .renameNew = renameNew,
     .swap = swap,
     .remove = removeName,
+    .holdFolder = holdFolder,
     .flushFolder = flushFolder,
     .list = list,
 };

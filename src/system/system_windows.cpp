@@ -197,6 +197,7 @@ const SystemPlikow SYSTEM_PLIKOW{
     .renameNew = [](const fs::path& from, const fs::path& to) { return moveAs(from, to, 0); },
     .swap = [](const fs::path&, const fs::path&) { return Wynik::Odmowa; },
     .remove = remove,
+    .holdFolder = [](const fs::path&, Uchwyt&) { return Wynik::Odmowa; },
     .flushFolder = [](const fs::path&) { return Wynik::Ok; }, // renaming writes through
     .list = list,
 };

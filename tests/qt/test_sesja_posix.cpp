@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include <csignal>
+#include <cstdlib>
 
 namespace dorva::test {
 namespace {
@@ -24,6 +25,15 @@ TEST_F(SesjaPosix, ASignalToEndStoresTheWork) {
         EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 410], signal);
         std::signal(signal, SIG_DFL);
     }
+}
+
+// As Qt makes it where the display is lost.
+TEST_F(SesjaPosix, AnExitInTheMidstStoresTheWork) {
+    open();
+    storeAtSessionEnd(*okno);
+    e.okno.imgPG[410].znak = znak(7);
+    EXPECT_EXIT(std::exit(3), ::testing::ExitedWithCode(3), "");
+    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 410], 7);
 }
 
 // The launcher of the working folder, with an emulator that notes how it was called.
