@@ -8,6 +8,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <sys/wait.h>
 
 namespace dorva::test {
 namespace {
@@ -27,12 +28,13 @@ TEST_F(SesjaPosix, ASignalToEndStoresTheWork) {
     }
 }
 
-// As Qt makes it where the display is lost.
+// As Qt makes it where the display is lost. Its status is not looked at: a leak checker may have its own.
 TEST_F(SesjaPosix, AnExitInTheMidstStoresTheWork) {
     open();
     storeAtSessionEnd(*okno);
     e.okno.imgPG[410].znak = znak(7);
-    EXPECT_EXIT(std::exit(3), ::testing::ExitedWithCode(3), "");
+    EXPECT_EXIT(
+        std::exit(1), [](int status) { return WIFEXITED(status); }, "");
     EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 410], 7);
 }
 
