@@ -361,8 +361,8 @@ bool writeKeepingUnknown(const SystemPlikow& system, const fs::path& path, std::
     Nowy nowy(system, zastany->path, bytes, zastany->old);
     if (nowy.wynik() != Wynik::Ok && nowy.wynik() != Wynik::Odmowa)
         return false;
-    const Kolej kolej(system,
-                      folderOf(zastany->path)); // so that two editors are as safe where names can't be exchanged
+    // Where names can't be exchanged, this alone keeps two editors safe from each other.
+    const Kolej kolej(system, folderOf(zastany->path));
     if (!zastany->old && nowy.takeFreeName(zastany->path) == Wynik::Ok)
         return true;
 

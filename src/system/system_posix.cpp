@@ -77,19 +77,20 @@ constexpr int flagsOf(Otwarcie otwarcie) {
     }
 }
 
+// Asks again while another holds what is asked for: after 10 ms, then after twice as long each time.
+template <typename Call> auto patiently(int waits, Call call) {
+    for (::useconds_t wait = 10000;; wait *= 2) {
+        const auto answer = uninterrupted(call);
+        if (answer != -1 || errno != EWOULDBLOCK || waits-- == 0)
+            return answer;
+        ::usleep(wait);
+    }
+}
+
 Wynik open(const fs::path& path, Otwarcie otwarcie, Uchwyt& file) {
     const int flags = flagsOf(otwarcie) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    constexpr std::array<::useconds_t, 5> WAITS_US{10000, 20000, 40000, 80000, 160000};
-    const auto opened = [&] { return uninterrupted([&] { return ::open(path.c_str(), flags, NEW_FILE_MODE); }); };
-    int answer = opened();
     // Whoever holds a lease on the file, as a file server does, is asked to give it up and soon does.
-    for (::useconds_t wait : WAITS_US) {
-        if (answer != -1 || errno != EWOULDBLOCK)
-            break;
-        ::usleep(wait);
-        answer = opened();
-    }
-    file = Uchwyt{answer};
+    file = Uchwyt{patiently(5, [&] { return ::open(path.c_str(), flags, NEW_FILE_MODE); })};
     return file == Uchwyt::Zaden ? lastWynik() : Wynik::Ok;
 }
 
@@ -218,16 +219,10 @@ Wynik swap(const fs::path& one, const fs::path& other) {
 }
 
 Wynik holdFolder(const fs::path& folder, Uchwyt& hold) {
-    constexpr std::array<::useconds_t, 8> WAITS_US{0, 10000, 20000, 40000, 80000, 160000, 320000, 640000};
     if (const Wynik wynik = open(folder, Otwarcie::Odczyt, hold); wynik != Wynik::Ok)
         return wynik;
-    for (::useconds_t wait : WAITS_US) {
-        ::usleep(wait);
-        if (done([&] { return ::flock(number(hold), LOCK_EX | LOCK_NB); }) == Wynik::Ok)
-            return Wynik::Ok;
-        if (errno != EWOULDBLOCK)
-            break;
-    }
+    if (patiently(7, [&] { return ::flock(number(hold), LOCK_EX | LOCK_NB); }) == 0)
+        return Wynik::Ok;
     close(hold);
     return Wynik::Odmowa;
 }
