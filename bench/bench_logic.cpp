@@ -8,8 +8,12 @@
 #include "shell/start.h"
 #include "stage/archiwum.h"
 #include "stage/etap.h"
+#include "stage/kopie_ekranu.h"
 #include "stage/zbior_etapow.h"
+#include "system/pliki.h"
 
+#include <algorithm>
+#include <array>
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <unistd.h>
@@ -43,7 +47,7 @@ struct Praca {
         fs::current_path("/");
         fs::remove_all(base);
     }
-    static void put(const fs::path& path, const Bajty& bytes) { (void)writeWhole(SYSTEM_PLIKOW, path, bytes); }
+    static void put(const fs::path& path, const Bajty& bytes) { (void)writeWhole(SYSTEM_CALLS, path, bytes); }
 
     fs::path base;
     Edytor e;
@@ -56,6 +60,12 @@ void plainRead(const fs::path& path, Bajty& bytes) {
     ::close(file);
 }
 
+void plainFlush(const fs::path& folder) {
+    const int file = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+    ::fsync(file);
+    ::close(file);
+}
+
 void plainWrite(const fs::path& path, const Bajty& bytes) {
     const fs::path temporary = path.string() + ".tmp";
     const int file = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
@@ -63,9 +73,34 @@ void plainWrite(const fs::path& path, const Bajty& bytes) {
     ::fsync(file);
     ::close(file);
     ::rename(temporary.c_str(), path.c_str());
-    const int folder = ::open(path.parent_path().c_str(), O_RDONLY | O_DIRECTORY);
-    ::fsync(folder);
-    ::close(folder);
+    plainFlush(path.parent_path());
+}
+
+// A copy of a file's old content: the folder listed, the newest one read, a new one written and flushed.
+void plainCopy(const fs::path& path, Bajty& bytes, int number) {
+    const fs::path folder = path.parent_path() / "KOPIE" / path.filename();
+    fs::create_directories(folder);
+    fs::path newest;
+    for (const auto& entry : fs::directory_iterator(folder))
+        newest = std::max(newest, entry.path());
+    if (!newest.empty())
+        plainRead(newest, bytes);
+    const int file = ::open((folder / std::to_string(100000 + number)).c_str(), O_WRONLY | O_CREAT | O_EXCL, 0666);
+    benchmark::DoNotOptimize(::write(file, bytes.data(), bytes.size()));
+    ::fsync(file);
+    ::close(file);
+    plainFlush(folder);
+}
+
+// The benchmarks go on for longer than anyone works: before the copies get more than they can be, they go.
+void forgetCopies(benchmark::State& state, const fs::path& base, int round) {
+    constexpr int ROUNDS = 100;
+    if (round % ROUNDS != 0)
+        return;
+    state.PauseTiming();
+    fs::remove_all(base / "ETAPY/KOPIE");
+    fs::remove_all(base / "PLIKI/KOPIE");
+    state.ResumeTiming();
 }
 
 // Counts a board of 800 bytes by code, as plainly as can be.
@@ -143,11 +178,18 @@ void BM_PackUnpack(benchmark::State& state) {
 }
 BENCHMARK(BM_PackUnpack);
 
+// So that the stage differs from what its file holds.
+void paint(Edytor& e, int round) {
+    e.okno.imgPG[100 + round % 200].znak = znak(2 + round % 40);
+}
+
 void BM_SwitchPlain(benchmark::State& state) {
     Praca praca;
     Bajty bytes(ETAP_SIZE_BYTES);
-    for (auto _ : state) {
+    for (int round = 0; auto _ : state) {
+        forgetCopies(state, praca.base, round);
         plainRead(sciezki::etap(praca.base, 1), bytes); // what is about to be overwritten
+        plainCopy(sciezki::etap(praca.base, 1), bytes, round++);
         plainWrite(sciezki::etap(praca.base, 1), bytes);
         plainRead(sciezki::etap(praca.base, 2), bytes);
     }
@@ -156,8 +198,11 @@ BENCHMARK(BM_SwitchPlain)->UseRealTime();
 
 void BM_Switch(benchmark::State& state) {
     Praca praca;
-    for (auto _ : state)
-        SelectEtapNR(praca.e, (praca.e.okno.optEtapNR + 1) % ETAPY_COUNT);
+    for (int round = 0; auto _ : state) {
+        forgetCopies(state, praca.base, round);
+        paint(praca.e, round++);
+        SelectEtapNR(praca.e, 1 - praca.e.okno.optEtapNR);
+    }
 }
 BENCHMARK(BM_Switch)->UseRealTime();
 
@@ -166,13 +211,17 @@ struct Wywolania {
     Praca praca;
     Bajty etap = Bajty(ETAP_SIZE_BYTES), autor = Bajty(AUTOR_GRY_SIZE_BYTES), gra = Bajty(GRA_SIZE_BYTES);
     Bajty archiwum = Bajty(ARCHIWUM_SIZE_BYTES);
+    int round = 0; // of the copies
 
-    void rewriteEtap(int number) {
-        readEtap(number); // what is about to be overwritten
+    // Writes back what has changed: it is read, copied, replaced.
+    void replaceEtap(int number) {
+        readEtap(number);
+        plainCopy(sciezki::etap(praca.base, number), etap, round);
         writeEtap(number);
     }
-    void rewriteAutor() {
+    void replaceAutor() {
         plainRead(praca.base / sciezki::AUTOR_GRY, autor);
+        plainCopy(praca.base / sciezki::AUTOR_GRY, autor, round);
         plainWrite(praca.base / sciezki::AUTOR_GRY, autor);
     }
     void writeEtap(int number) { plainWrite(sciezki::etap(praca.base, number), etap); }
@@ -189,7 +238,7 @@ struct Wywolania {
 void BM_GameBuildPlain(benchmark::State& state) {
     Wywolania w;
     for (auto _ : state) {
-        w.rewriteEtap(1);
+        w.readEtap(1); // what is about to be overwritten, and is the same
         w.readTemplate();
         w.everyEtap(&Wywolania::readEtap);
         w.writeChosen(w.gra);
@@ -210,8 +259,8 @@ BENCHMARK(BM_TestBuildPlain)->UseRealTime();
 void BM_ArchiveSavePlain(benchmark::State& state) {
     Wywolania w;
     for (auto _ : state) {
-        w.rewriteEtap(1);
-        w.rewriteAutor();
+        w.readEtap(1);
+        plainRead(w.praca.base / sciezki::AUTOR_GRY, w.autor);
         w.everyEtap(&Wywolania::readEtap);
         w.writeChosen(w.archiwum);
     }
@@ -222,10 +271,14 @@ void BM_ArchiveLoadPlain(benchmark::State& state) {
     Wywolania w;
     w.writeChosen(w.archiwum);
     for (auto _ : state) {
+        forgetCopies(state, w.praca.base, w.round);
         plainRead(w.praca.base / "wynik", w.archiwum);
-        w.everyEtap(&Wywolania::writeEtap);
-        w.rewriteAutor();
+        w.everyEtap(&Wywolania::readEtap); // for the copy of the whole game
+        plainCopy(w.praca.base / sciezki::ARCHIWUM, w.archiwum, w.round);
+        w.everyEtap(&Wywolania::replaceEtap);
+        w.replaceAutor();
         w.readEtap(1);
+        ++w.round;
     }
 }
 BENCHMARK(BM_ArchiveLoadPlain)->UseRealTime();
@@ -239,7 +292,44 @@ template <void (*Operation)(Edytor&)> void BM_Operation(benchmark::State& state)
 BENCHMARK(BM_Operation<cmdCreate_Click>)->Name("BM_GameBuild")->UseRealTime();
 BENCHMARK(BM_Operation<cmdTest_Click>)->Name("BM_TestBuild")->UseRealTime();
 BENCHMARK(BM_Operation<cmdSaveArch_Click>)->Name("BM_ArchiveSave")->UseRealTime();
-BENCHMARK(BM_Operation<cmdLoadArch_Click>)->Name("BM_ArchiveLoad")->UseRealTime();
+
+// Two archives in turns, so that every stage is replaced.
+void BM_ArchiveLoad(benchmark::State& state) {
+    Praca praca;
+    std::array<Bajty, 2> archiwa{Bajty(ARCHIWUM_SIZE_BYTES, 1), Bajty(ARCHIWUM_SIZE_BYTES, 2)};
+    for (int round = 0; auto _ : state) {
+        forgetCopies(state, praca.base, round);
+        state.PauseTiming();
+        Praca::put(praca.base / "wynik", archiwa[round++ % 2]);
+        state.ResumeTiming();
+        cmdLoadArch_Click(praca.e);
+    }
+}
+BENCHMARK(BM_ArchiveLoad)->UseRealTime();
+
+void BM_ExitPlain(benchmark::State& state) {
+    Wywolania w;
+    for (auto _ : state) {
+        forgetCopies(state, w.praca.base, w.round);
+        w.replaceEtap(1);
+        plainRead(w.praca.base / sciezki::AUTOR_GRY, w.autor);
+        for (const auto& entry : fs::directory_iterator(w.praca.base / "ETAPY/KOPIE/DETAP.1"))
+            benchmark::DoNotOptimize(entry.path());
+        ++w.round;
+    }
+}
+BENCHMARK(BM_ExitPlain)->UseRealTime();
+
+void BM_Exit(benchmark::State& state) {
+    Praca praca;
+    for (int round = 0; auto _ : state) {
+        forgetCopies(state, praca.base, round);
+        paint(praca.e, round++);
+        Form_QueryUnload(praca.e);
+        Form_Unload(praca.e);
+    }
+}
+BENCHMARK(BM_Exit)->UseRealTime();
 
 } // namespace
 } // namespace dorva

@@ -57,7 +57,7 @@ countStart() {
 }
 
 row figure median baseline ratio aim
-runAll $bench/dorva_bench | pairs "RefreshInfo=3 Stroke=3 Switch=1.3 GameBuild=1.3 TestBuild=1.3 ArchiveSave=1.3 ArchiveLoad=1.3"
+runAll $bench/dorva_bench | pairs "RefreshInfo=3 Stroke=3 Switch=1.3 GameBuild=1.3 TestBuild=1.3 ArchiveSave=1.3 ArchiveLoad=1.3 Exit=1.3"
 [ ! -x $bench/qt/dorva_bench_okno ] || runAll $bench/qt/dorva_bench_okno | pairs ""
 if [ -x $bench/qt/dorva_bench_start ]; then
     $bench/qt/dorva_bench_start planszownik

@@ -4,7 +4,7 @@
 #include "shell/okno.h"
 #include "stage/etap_image.h"
 #include "system/haki.h"
-#include "system/pliki.h"
+#include "system/system_calls.h"
 #include "tiles/magazyn.h"
 #include "tiles/paleta_barw.h"
 
@@ -16,7 +16,7 @@ namespace dorva {
 struct Edytor {
     // the outside
     Haki haki;
-    const SystemPlikow* system = &SYSTEM_PLIKOW;
+    const SystemCalls* system = &SYSTEM_CALLS;
 
     // what the controls hold
     Okno okno = defaultOkno();
@@ -26,10 +26,7 @@ struct Edytor {
     int NumerEtapu = 1;                              // 1..32
     int lastCell = 0;                                // the board cell that the mouse rules handled last
 
-    // what was last taken over from a file (its first bytes, where it is longer) or written to it; nothing where a
-    // part was refused. A file that holds other bytes than these is kept aside before it is written over
-    std::optional<Bajty> znanyEtap; // DETAP.<NumerEtapu>
-    std::optional<Bajty> znanyAutorGry;
+    std::optional<Time> ostatniaKopia; // when keepWork last looked at the screen
 
     // folders
     std::filesystem::path KatalogBazowy;

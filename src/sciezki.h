@@ -7,10 +7,13 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dorva::sciezki {
 
 inline constexpr std::string_view AUTOR_GRY = "PLIKI/DP1.DTA";
+inline constexpr std::string_view ARCHIWUM = "ETAPY/DPArchiwum"; // never written; its copies are whole games
+inline constexpr std::string_view ARCHIWUM_ENDING = ".dpa";
 inline constexpr std::string_view SZABLON_GRY = "PLIKI/DP2.DTA";
 inline constexpr std::string_view EMULATOR = "PLIKI/DP3.BAT"; // the launcher
 inline constexpr std::string_view TEST_XEX = "PLIKI/TEST.XEX";
@@ -30,6 +33,14 @@ inline std::string nazwaEtapu(int number) {
 
 inline std::filesystem::path etap(const std::filesystem::path& base, int number) {
     return base / "ETAPY" / nazwaEtapu(number);
+}
+
+// The files that the editor writes back by itself: the title lines, the 32 stages.
+inline std::vector<std::filesystem::path> zestawRoboczy(const std::filesystem::path& base) {
+    std::vector<std::filesystem::path> files{base / AUTOR_GRY};
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        files.push_back(etap(base, number));
+    return files;
 }
 
 } // namespace dorva::sciezki

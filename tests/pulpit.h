@@ -2,8 +2,8 @@
 #pragma once
 
 #include "edytor.h"
+#include "memory_disk.h"
 #include "output/szablon.h"
-#include "pamiec.h"
 #include "shell/start.h"
 #include "stage/autor_gry.h"
 #include "stage/etap.h"
@@ -72,8 +72,8 @@ inline const Bajty& sampleSzablon() {
 }
 
 // What the base folder of every desk holds.
-inline Pliki sampleTree() {
-    Pliki files{{"PLIKI/DP1.DTA", Bajty(AUTOR_GRY_SIZE_BYTES, 'X')},
+inline Files sampleTree() {
+    Files files{{"PLIKI/DP1.DTA", Bajty(AUTOR_GRY_SIZE_BYTES, 'X')},
                 {"PLIKI/DP2.DTA", sampleSzablon()},
                 {"OBIEKTY/ORN_EXPORT/FNT01.ORN.ND", {}},
                 {"OBIEKTY/ORN_EXPORT/FNT11.ORN.ND", {}},
@@ -113,7 +113,7 @@ protected:
     }
 
     void attach(Edytor& edytor) {
-        edytor.system = dysk;
+        edytor.system = calls;
         edytor.haki.messageBox = [this](const Komunikat& k) {
             shown.emplace_back(k.text);
             const bool answer = answers.empty() || answers.front();
@@ -140,14 +140,14 @@ protected:
     }
     [[nodiscard]] fs::path etap(int number) const { return base / "ETAPY" / ("DETAP." + std::to_string(number)); }
     Znak& cell(int row, int column) { return e.okno.imgPG[row * 40 + column].znak; }
-    [[nodiscard]] std::vector<std::string> namesIn(const char* folder) const {
+    [[nodiscard]] std::vector<std::string> namesIn(const fs::path& folder) const {
         std::vector<std::string> names;
-        for (const fs::path& name : listNames(SYSTEM_PLIKOW, base / folder, ""))
+        for (const fs::path& name : listNames(SYSTEM_CALLS, base / folder, ""))
             names.push_back(name.string());
         return names;
     }
 
-    const SystemPlikow* dysk = &SYSTEM_PLIKOW;
+    const SystemCalls* calls = &SYSTEM_CALLS;
     fs::path root, base;
     Edytor e;
     std::vector<std::string> shown;   // texts of the message boxes
@@ -164,15 +164,15 @@ inline std::string at(const std::string& name) {
 }
 
 // The same desk on a disk in memory.
-class PulpitWPamieci : public Pulpit {
+class DeskInMemory : public Pulpit {
 protected:
     void SetUp() override {
-        dysk = systemPamieci();
+        calls = memoryCalls();
         root = at("");
         base = at("praca");
-        pamiec = {};
+        disk = {};
         for (const auto& [name, bytes] : sampleTree())
-            pamiec.put(at("praca/" + name), bytes);
+            disk.put(at("praca/" + name), bytes);
         attach(e);
     }
     void TearDown() override {}

@@ -72,7 +72,7 @@ TEST_F(Archiwum, SaveEndsSilentlyWithoutAllStagesOrTheTitleLines) {
     EXPECT_TRUE(shown.empty());
 }
 
-TEST_F(Archiwum, LoadThatBreaksOffLosesNoStageOfTheArchive) {
+TEST_F(Archiwum, LoadMayBreakOffOrRefuseAField) {
     start();
     writeFile(root / "x.dpa", sampleArchiwum());
     fs::remove(etap(20));
@@ -82,42 +82,31 @@ TEST_F(Archiwum, LoadThatBreaksOffLosesNoStageOfTheArchive) {
     cmdLoadArch_Click(e);
     EXPECT_EQ(readFile(etap(7)), sampleEtap(26));
     EXPECT_EQ(e.image, sampleEtap(7)) << "the editor never came to the archive's stage";
-    SelectEtapNR(e, 0);
-    EXPECT_EQ(readFile(base / "ETAPY/DETAP.7.kopia"), sampleEtap(26));
-}
+    EXPECT_EQ(e.okno.txtAutorGry[0].tekst.znaki, std::string(20, 'A')) << "the title lines did";
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), Bajty(60, 'X'));
 
-TEST_F(Archiwum, SavedOverTheEditorsOwnFilesIsKept) {
-    start();
-    cell(3, 3) = BOMBA;
-    chosen = etap(1);
-    cmdSaveArch_Click(e);
-    const Bajty archive = readFile(etap(1));
-    EXPECT_EQ(archive[AUTOR_GRY_SIZE_BYTES + uklad::PLANSZA + 123], 14);
-    SelectEtapNR(e, 1);
-    EXPECT_EQ(readFile(base / "ETAPY/DETAP.1.kopia"), archive);
-    chosen = base / "PLIKI/DP1.DTA";
-    cmdSave_Click(e);
-    Form_QueryUnload(e);
-    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA.kopia"), sampleEtap(2));
-    chosen = etap(2);
-    cmdSave_Click(e);
-    cell(3, 3) = BOMBA;
-    Form_QueryUnload(e);
-    EXPECT_EQ(namesIn("ETAPY").size(), 33U) << "the stage saved over its own file needs no copy";
-}
-
-TEST_F(Archiwum, LoadKeepsDamagedStageFilesAsideAndMayRefuseAField) {
-    start();
-    Bajty archive(ARCHIWUM_SIZE_BYTES, 7);
-    writeFile(root / "x.dpa", archive);
-    const Bajty damaged(500, 3);
-    writeFile(etap(9), damaged);
-    chosen = root / "x.dpa";
+    fs::remove(etap(20));
+    writeFile(root / "x.dpa", Bajty(ARCHIWUM_SIZE_BYTES, 7));
     cmdLoadArch_Click(e);
-    EXPECT_EQ(readFile(base / "ETAPY/DETAP.9.kopia"), damaged);
-    EXPECT_EQ(readFile(etap(9)), Bajty(ETAP_SIZE_BYTES, 7));
+    EXPECT_EQ(readFile(etap(32)), Bajty(ETAP_SIZE_BYTES, 7));
     EXPECT_EQ(e.okno.hscMonet, 7);
     EXPECT_EQ(e.okno.optObiektyNR, 1) << "the last flag 7 is refused before the world";
+}
+
+TEST_F(Archiwum, SavedOverTheEditorsOwnFilesKeepsThem) {
+    start();
+    cell(3, 3) = BOMBA;
+    chosen = etap(2);
+    cmdSaveArch_Click(e);
+    EXPECT_EQ(readFile(etap(2)).size(), ARCHIWUM_SIZE_BYTES);
+    chosen = base / "PLIKI/DP1.DTA";
+    cmdSave_Click(e);
+    EXPECT_EQ(namesIn("ETAPY/KOPIE/DETAP.2").size(), 1U);
+    EXPECT_EQ(namesIn("PLIKI/KOPIE/DP1.DTA").size(), 1U);
+    chosen = root / "obcy";
+    writeFile(*chosen, {1});
+    cmdSave_Click(e);
+    EXPECT_FALSE(fs::exists(root / "KOPIE")) << "any other file that the user chose is replaced without";
 }
 
 } // namespace

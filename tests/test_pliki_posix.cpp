@@ -1,151 +1,175 @@
 // The file layer where there are mode bits, symbolic links, pipes and devices.
+#include "output/obraz_gry.h"
 #include "pulpit.h"
-#include "system/system_plikow.h"
+#include "stage/archiwum.h"
+#include "tiles/kolory.h"
 
-#include <chrono>
 #include <sys/stat.h>
-#include <thread>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace dorva::test {
 namespace {
 
-constexpr ::uid_t OTHER = 12345;
+class FilesPosix : public Pulpit {
+protected:
+    // Every operation once.
+    void useEverything() {
+        for (int index : {1, 2, 0})
+            SelectEtapNR(e, index);
+        cmdSave_Click(e);
+        cmdLoad_Click(e);
+        cmdSaveArch_Click(e);
+        cmdLoadArch_Click(e);
+        cmdCreate_Click(e);
+        cmdTest_Click(e);
+        Form_QueryUnload(e);
+    }
+    void expectNoLeftovers() {
+        for (const auto& entry : fs::recursive_directory_iterator(root))
+            EXPECT_NE(entry.path().extension(), ".dp-tmp") << entry.path();
+    }
+};
 
-class PlikiPosix : public Pulpit {};
-
-TEST_F(PlikiPosix, WriteKeepsModeAndLinks) {
+TEST_F(FilesPosix, WriteKeepsModeAndLinks) {
     const auto file = root / "plik", link = root / "dowiazanie";
+    ::umask(022);
     writeFile(file, {1, 2, 3});
     fs::permissions(file, fs::perms(0640));
-    (void)::chown(file.c_str(), OTHER, OTHER); // only root may
-    struct ::stat before {
-    }, now{};
-    ::stat(file.c_str(), &before);
     fs::create_symlink("plik", link);
-    SystemPlikow unread = SYSTEM_PLIKOW;
-    unread.readLink = [](const fs::path&, fs::path&) { return Wynik::Blad; };
+    SystemCalls unread = SYSTEM_CALLS, modeless = SYSTEM_CALLS;
+    unread.readLink = [](const fs::path&, fs::path&) { return Result::Error; };
     EXPECT_FALSE(writeWhole(unread, link, Bajty{9}));
-    ASSERT_TRUE(writeWhole(SYSTEM_PLIKOW, link, Bajty{9}));
+    ASSERT_TRUE(writeWhole(SYSTEM_CALLS, link, Bajty{9}));
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(readFile(file), Bajty{9});
-    ::stat(file.c_str(), &now);
-    EXPECT_EQ(std::tuple(now.st_mode, now.st_uid, now.st_gid),
-              std::tuple(before.st_mode, before.st_uid, before.st_gid));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+    modeless.setMode = [](const fs::path&, fs::perms) { return Result::Error; };
+    EXPECT_TRUE(writeWhole(modeless, file, Bajty{8})) << "a file system without mode bits";
+    EXPECT_EQ(readFile(file), Bajty{8});
 }
 
-// Behind a link to another file system, where another program writes at the last moment.
-TEST_F(PlikiPosix, WhatComesBetweenIsKeptBesideTheLinkAcrossFileSystems) {
-    static fs::path plik;
-    plik = root / "dysk/plik";
-    fs::create_directory(root / "dysk");
-    writeFile(plik, {1});
-    fs::create_symlink("dysk/plik", root / "dowiazanie");
-    SystemPlikow system = SYSTEM_PLIKOW;
-    system.swap = [](const fs::path& one, const fs::path& other) {
-        writeFile(plik, {7});
-        return SYSTEM_PLIKOW.swap(one, other);
-    };
-    system.renameNew = [](const fs::path& from, const fs::path& to) {
-        return from.parent_path() == to.parent_path() ? SYSTEM_PLIKOW.renameNew(from, to) : Wynik::Blad;
-    };
-    EXPECT_TRUE(writeKeepingUnknown(system, root / "dowiazanie", Bajty{2}, Bajty{1}));
-    EXPECT_EQ(readFile(plik), Bajty{2});
-    EXPECT_EQ(readFile(root / "dowiazanie.kopia"), Bajty{7});
-    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root / "dysk", "").size(), 1U);
-}
-
-// Another editor stores at the same instant, where names can't be exchanged.
-TEST_F(PlikiPosix, WritersInAFolderTakeTurns) {
-    static fs::path plik;
-    static std::thread other;
-    plik = root / "plik";
-    writeFile(plik, {1});
-    SystemPlikow system = SYSTEM_PLIKOW;
-    system.swap = [](const fs::path&, const fs::path&) { return Wynik::Odmowa; };
-    static const SystemPlikow others = system;
-    system.rename = [](const fs::path& from, const fs::path& to) {
-        other = std::thread([] { EXPECT_TRUE(writeKeepingUnknown(others, plik, Bajty{3}, Bajty{1})); });
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        return SYSTEM_PLIKOW.rename(from, to);
-    };
-    EXPECT_TRUE(writeKeepingUnknown(system, plik, Bajty{2}, Bajty{1}));
-    other.join();
-    EXPECT_EQ(readFile(plik), Bajty{3});
-    EXPECT_EQ(readFile(root / "plik.kopia"), Bajty{2});
-}
-
-// What a swap leaves under the temporary name is as old as the file was.
-TEST_F(PlikiPosix, AnotherStartMaySweepTheOldContent) {
-    writeFile(root / "plik", {1});
-    SystemPlikow system = SYSTEM_PLIKOW;
-    system.swap = [](const fs::path& one, const fs::path& other) {
-        const Wynik wynik = SYSTEM_PLIKOW.swap(one, other);
-        return fs::remove(one), wynik;
-    };
-    EXPECT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{2}, Bajty{1}));
-    EXPECT_EQ(readFile(root / "plik"), Bajty{2});
-}
-
-TEST_F(PlikiPosix, WriteRefusesWhatCouldNotBeOpened) {
+TEST_F(FilesPosix, WriteRefusesWhatCouldNotBeOpened) {
     fs::create_directory(root / "katalog");
     ASSERT_EQ(::mkfifo((root / "potok").c_str(), 0600), 0);
     fs::create_symlink("petla", root / "petla");
     for (const char* name : {"katalog", "potok", "petla", "brak/plik"}) {
-        EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, root / name, Bajty{1})) << name;
-        EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, root / name, 1)) << name;
+        EXPECT_FALSE(writeWhole(SYSTEM_CALLS, root / name, Bajty{1})) << name;
+        EXPECT_FALSE(readOrCreate(SYSTEM_CALLS, root / name, 1)) << name;
     }
-    EXPECT_EQ(listNames(SYSTEM_PLIKOW, root, "").size(), 4U) << "no temporary file is left";
+    EXPECT_EQ(listNames(SYSTEM_CALLS, root, "").size(), 4U) << "no temporary file is left";
     EXPECT_TRUE(fs::is_fifo(root / "potok"));
 }
 
-TEST_F(PlikiPosix, FileSystemsWithoutModeBits) {
-    SystemPlikow system = SYSTEM_PLIKOW;
-    system.makeLike = [](Uchwyt file, const OpisPliku& other) {
-        OpisPliku own;
-        SYSTEM_PLIKOW.describe(file, own);
-        return own.mode == other.mode ? Wynik::Ok : Wynik::Odmowa;
-    };
-    ::umask(022);
-    writeFile(root / "plik", {1});
-    fs::permissions(root / "plik", fs::perms(0600));
-    ASSERT_TRUE(writeKeepingUnknown(system, root / "plik", Bajty{2}, {}));
-    EXPECT_EQ(readFile(root / "plik.kopia"), Bajty{1});
-    EXPECT_EQ(readFile(root / "plik"), Bajty{2});
-    EXPECT_EQ(fs::status(root / "plik").permissions(), fs::perms(0600)) << "a private file never becomes a public one";
-}
-
-TEST_F(PlikiPosix, ExistenceAndSameness) {
+TEST_F(FilesPosix, ExistenceAndSameness) {
     writeFile(root / "plik", {1});
     writeFile(root / "inny", {1});
     fs::create_symlink("plik", root / "link");
-    EXPECT_TRUE(fileExists(SYSTEM_PLIKOW, root / "link"));
-    EXPECT_FALSE(fileExists(SYSTEM_PLIKOW, root / "brak"));
-    EXPECT_FALSE(fileExists(SYSTEM_PLIKOW, root / "plik" / "pod plikiem"));
-    EXPECT_TRUE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / "link"));
+    EXPECT_TRUE(fileExists(SYSTEM_CALLS, root / "link"));
+    EXPECT_FALSE(fileExists(SYSTEM_CALLS, root / "brak"));
+    EXPECT_FALSE(fileExists(SYSTEM_CALLS, root / "plik" / "pod plikiem"));
+    EXPECT_EQ(isSameFile(SYSTEM_CALLS, root / "plik", root / "link"), true);
     for (const char* name : {"inny", "brak", "plik/pod plikiem", "/dev/null"})
-        EXPECT_FALSE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / name)) << name;
+        EXPECT_EQ(isSameFile(SYSTEM_CALLS, root / "plik", root / name), false) << name;
     fs::create_symlink("petla", root / "petla");
-    EXPECT_TRUE(isSameFile(SYSTEM_PLIKOW, root / "plik", root / "petla")) << "can't be told";
+    EXPECT_EQ(isSameFile(SYSTEM_CALLS, root / "plik", root / "petla"), std::nullopt);
+    chosen = root / "petla";
+    cmdSave_Click(e);
+    EXPECT_EQ(shown.size(), 1U) << "only the question whether to replace it";
 }
 
-TEST_F(PlikiPosix, StartSweepsOldLeftoversAlone) {
-    const auto leave = [](const fs::path& path, std::chrono::minutes age) {
-        writeFile(path, {1});
-        fs::last_write_time(path, fs::file_time_type::clock::now() - age);
-    };
-    leave(base / "ETAPY/dorva-1.dp-tmp", std::chrono::minutes(61));
-    leave(base / "ETAPY/dorva-2.dp-tmp", std::chrono::minutes(59)); // it may be at work, on another machine
-    leave(base / "ETAPY/moje.dp-tmp", std::chrono::minutes(61));
-    leave(base / "ETAPY/dorva-moje.dp-tmp", std::chrono::minutes(61));
-    leave(base / "PLIKI/dorva-2.dp-tmp", std::chrono::minutes(61));
-    leave(root / "dorva-1.dp-tmp", std::chrono::minutes(61));
+TEST_F(FilesPosix, LinkedStageStaysLinked) {
+    fs::create_directory(root / "dysk");
+    fs::rename(etap(2), root / "dysk/drugi");
+    fs::create_symlink("../../dysk/drugi", etap(2));
+    fs::remove(etap(3));
+    fs::create_symlink("../../dysk/trzeci", etap(3));
+    fs::create_hard_link(etap(4), root / "dysk/czwarty");
     start();
-    EXPECT_EQ(namesIn("ETAPY").size(), 35U);
-    EXPECT_EQ(namesIn("PLIKI"), (std::vector<std::string>{"DP1.DTA", "DP2.DTA"}));
-    chosen = root / "etap";
+    for (int index : {1, 2, 3}) {
+        SelectEtapNR(e, index);
+        cell(6, 6) = BOMBA;
+    }
+    SelectEtapNR(e, 4);
+    EXPECT_TRUE(fs::is_symlink(etap(2)) && fs::is_symlink(etap(3)));
+    for (const auto& file : {root / "dysk/drugi", root / "dysk/trzeci", etap(4)})
+        EXPECT_EQ(readFile(file)[uklad::PLANSZA + 246], 14) << file;
+    EXPECT_EQ(readFile(root / "dysk/czwarty"), sampleEtap(4)) << "a second name keeps the old stage";
+    EXPECT_EQ(namesIn("ETAPY/KOPIE"), (std::vector<std::string>{"DETAP.2", "DETAP.4"})) << "beside the link";
+    chosen = root / "dysk/drugi";
     cmdSave_Click(e);
-    EXPECT_FALSE(fs::exists(root / "dorva-1.dp-tmp")) << "nor do any stay beside a chosen file";
+    EXPECT_EQ(namesIn("ETAPY/KOPIE/DETAP.2").size(), 2U) << "known as a stage by its other name, too";
+    expectNoLeftovers();
+}
+
+TEST_F(FilesPosix, PipesAndDevicesAreLeftAloneAndNeverHang) {
+    const auto potok = [](const fs::path& path) {
+        fs::remove(path);
+        fs::create_directories(path.parent_path());
+        ASSERT_EQ(::mkfifo(path.c_str(), 0666), 0);
+    };
+    start();
+    potok(etap(2));
+    for (const char* name : {"PLIKI/DP1.DTA", "PLIKI/DP2.DTA", "PLIKI/TEST.XEX", "PLIKI/PALETY/Bitwor.act",
+                             "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY"})
+        potok(base / name);
+    for (const char* device : {"/dev/zero", "/dev/full", "/dev/null"}) {
+        chosen = device;
+        useEverything();
+    }
+    potok(root / "potok");
+    chosen = root / "potok";
+    useEverything();
+    restart();
+    useEverything();
+    EXPECT_TRUE(fs::is_fifo(etap(2)) && fs::is_fifo(base / "PLIKI/DP1.DTA") && fs::is_fifo(base / "PLIKI/TEST.XEX"));
+    EXPECT_TRUE(fs::is_fifo(root / "potok") && fs::is_character_file("/dev/full"));
+    EXPECT_EQ(readFile(etap(3)), sampleEtap(3));
+    expectNoLeftovers();
+}
+
+// Runs `work` as an ordinary user where this is root: modes mean nothing to root.
+int asOrdinaryUser(const std::function<void()>& work) {
+    constexpr int NOBODY = 65534;
+    const ::pid_t child = ::fork();
+    if (child == 0) {
+        if (::geteuid() == 0 && (::setgid(NOBODY) != 0 || ::setuid(NOBODY) != 0))
+            ::_exit(2);
+        work();
+        ::_exit(::testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return status;
+}
+
+TEST_F(FilesPosix, ReadOnlyTreeAndReadOnlyFiles) {
+    for (bool folders : {true, false}) {
+        fs::permissions(root, fs::perms(0755));
+        for (const auto& entry : fs::recursive_directory_iterator(root))
+            fs::permissions(entry.path(), entry.is_directory() ? fs::perms(folders ? 0555 : 0777) : fs::perms(0444));
+        const auto status = asOrdinaryUser([&] {
+            start();
+            cell(5, 5) = BOMBA;
+            SelectEtapNR(e, 31);
+            EXPECT_EQ(shown.size(), 1U);
+            EXPECT_TRUE(shown[0].starts_with("Nie można zapisać etapu."));
+            EXPECT_EQ(e.NumerEtapu, 1);
+            EXPECT_EQ(e.okno.optEtapNR, 0);
+            EXPECT_TRUE(e.okno.chkOstatniEnabled);
+            EXPECT_EQ(cell(5, 5), BOMBA);
+            chosen = etap(3);
+            useEverything();
+            EXPECT_EQ(kod(cell(5, 6)), 206 * 3 % 50) << "what was loaded is on the board";
+        });
+        EXPECT_EQ(status, 0) << (folders ? "folders" : "files");
+        for (const auto& entry : fs::recursive_directory_iterator(root))
+            if (entry.is_directory())
+                fs::permissions(entry.path(), fs::perms::owner_all);
+        for (int number = 1; number <= ETAPY_COUNT; ++number)
+            EXPECT_EQ(readFile(etap(number)), sampleEtap(number)) << number;
+        expectNoLeftovers();
+    }
 }
 
 } // namespace

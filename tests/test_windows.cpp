@@ -1,7 +1,6 @@
 // What only Windows does to files: holders, the read-only flag, device names, long paths, wide names.
 #include "pulpit.h"
 #include "system/proces.h"
-#include "system/system_plikow.h"
 
 #include <array>
 #include <thread>
@@ -35,9 +34,9 @@ TEST_F(Windows, AHolderOfAMomentIsWaitedFor) {
         holder.join();
     };
     for (::DWORD share : SHARES) {
-        whileHeld(share, [&] { return writeWhole(SYSTEM_PLIKOW, etap(1), Bajty{9}); });
+        whileHeld(share, [&] { return writeWhole(SYSTEM_CALLS, etap(1), Bajty{9}); });
         EXPECT_EQ(readFile(etap(1)), Bajty{9});
-        whileHeld(share, [&] { return SYSTEM_PLIKOW.remove(etap(1)) == Wynik::Ok; });
+        whileHeld(share, [&] { return SYSTEM_CALLS.remove(etap(1)) == Result::Ok; });
         writeFile(etap(1), {1});
     }
 }
@@ -45,22 +44,22 @@ TEST_F(Windows, AHolderOfAMomentIsWaitedFor) {
 TEST_F(Windows, AHolderForGoodAndAReadOnlyFileAreRefusals) {
     for (::DWORD share : SHARES) {
         ::HANDLE held = hold(etap(1), share);
-        EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, etap(1), Bajty{9})) << share;
+        EXPECT_FALSE(writeWhole(SYSTEM_CALLS, etap(1), Bajty{9})) << share;
         ::CloseHandle(held);
         expectUntouched();
     }
     ::SetFileAttributesW(etap(1).c_str(), FILE_ATTRIBUTE_READONLY);
-    EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, etap(1), Bajty{9}));
+    EXPECT_FALSE(writeWhole(SYSTEM_CALLS, etap(1), Bajty{9}));
     ::SetFileAttributesW(etap(1).c_str(), FILE_ATTRIBUTE_NORMAL);
     expectUntouched();
 }
 
 TEST_F(Windows, DevicesFoldersAndImpossibleNamesAreRefused) {
     for (const wchar_t* name : {L"NUL", L"CON", L"ETAPY", L"brak\\plik", L"a?b", L"a:b:c"}) {
-        EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, base / name, Bajty{1})) << fs::path(name);
-        EXPECT_FALSE(readFirst(SYSTEM_PLIKOW, base / name, 1)) << fs::path(name);
+        EXPECT_FALSE(writeWhole(SYSTEM_CALLS, base / name, Bajty{1})) << fs::path(name);
+        EXPECT_FALSE(readFirst(SYSTEM_CALLS, base / name, 1)) << fs::path(name);
     }
-    EXPECT_EQ(listNames(SYSTEM_PLIKOW, base, "").size(), 3U);
+    EXPECT_EQ(listNames(SYSTEM_CALLS, base, "").size(), 3U);
 }
 
 TEST_F(Windows, LongPathsWorkOrFailAsAWhole) {
@@ -68,10 +67,10 @@ TEST_F(Windows, LongPathsWorkOrFailAsAWhole) {
     while (folder.native().size() < 400)
         folder /= L"łódź i jeszcze kawałek drogi";
     const fs::path file = folder / L"DETAP.1";
-    EXPECT_FALSE(readOrCreate(SYSTEM_PLIKOW, file, 1));
-    EXPECT_FALSE(writeWhole(SYSTEM_PLIKOW, file, Bajty{1})) << "its folder is missing";
-    EXPECT_FALSE(fileExists(SYSTEM_PLIKOW, file));
-    EXPECT_TRUE(listNames(SYSTEM_PLIKOW, folder, "").empty());
+    EXPECT_FALSE(readOrCreate(SYSTEM_CALLS, file, 1));
+    EXPECT_FALSE(writeWhole(SYSTEM_CALLS, file, Bajty{1})) << "its folder is missing";
+    EXPECT_FALSE(fileExists(SYSTEM_CALLS, file));
+    EXPECT_TRUE(listNames(SYSTEM_CALLS, folder, "").empty());
 }
 
 TEST_F(Windows, TheProgramKnowsItsOwnFile) {

@@ -1,6 +1,6 @@
 // A delivered set is laid out over whatever stands there, and no one's work is lost.
 #include "pulpit.h"
-#include "system/system_plikow.h"
+#include "system/system_calls.h"
 #include "system/wzorzec.h"
 
 #include <utility>
@@ -15,7 +15,7 @@ protected:
         writeFile(wzorzec / name, bytes);
     }
     bool lay() { return refused().empty(); }
-    std::vector<fs::path> refused() { return layOut(SYSTEM_PLIKOW, wzorzec, base); }
+    std::vector<fs::path> refused() { return layOut(SYSTEM_CALLS, wzorzec, base); }
 
     fs::path wzorzec;
 
@@ -55,21 +55,6 @@ TEST_F(Wzorzec, ANewerVersionRenewsOnlyWhatNobodyChanged) {
     deliver("ETAPY/DETAP.2", {30});
     ASSERT_TRUE(lay());
     EXPECT_EQ(readFile(etap(2)), Bajty{30}) << "put back as delivered, so no one's any more";
-}
-
-TEST_F(Wzorzec, WhatIsStoredMeanwhileIsKept) {
-    static fs::path stored;
-    stored = etap(1);
-    fs::remove_all(wzorzec);
-    deliver("ETAPY/DETAP.1", {1});
-    SystemPlikow system = SYSTEM_PLIKOW;
-    system.flush = [](Uchwyt file) { // an editor stores while the stage that is laid is flushed
-        writeFile(std::exchange(stored, "/brak/plik"), {7});
-        return SYSTEM_PLIKOW.flush(file);
-    };
-    EXPECT_TRUE(layOut(system, wzorzec, base).empty());
-    EXPECT_EQ(readFile(etap(1)), Bajty{1});
-    EXPECT_EQ(readFile(base / "ETAPY/DETAP.1.kopia"), Bajty{7});
 }
 
 TEST_F(Wzorzec, WithoutItsRecordEverythingIsItsOwners) {

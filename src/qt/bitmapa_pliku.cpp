@@ -53,7 +53,7 @@ void convertRow(const QImage& image, int y, std::span<std::uint32_t> pixels) {
 } // namespace
 
 std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width, int height) {
-    const auto file = readWhole(SYSTEM_PLIKOW, path);
+    const auto file = readWhole(SYSTEM_CALLS, path);
     if (!file)
         return std::nullopt;
     QByteArray bytes =

@@ -4,6 +4,7 @@
 #include "qt/paleta_okno.h"
 #include "qt/zdarzenia_okna.h"
 #include "shell/start.h"
+#include "stage/kopie_ekranu.h"
 
 #include <QCloseEvent>
 
@@ -21,6 +22,7 @@ OknoGlowne::OknoGlowne(Edytor& e)
 }
 
 void OknoGlowne::run(const std::function<void(Edytor&)>& operation) {
+    keepWork(e_);
     operation(e_);
     showRecord();
 }

@@ -2,7 +2,7 @@
 
 #include "qt/przeklad.h"
 #include "system/pliki.h"
-#include "system/system_plikow.h"
+#include "system/system_calls.h"
 
 #include <QDir>
 #include <QProcess>
@@ -13,14 +13,14 @@ namespace dorva {
 namespace {
 
 bool hasInterpreterLine(const std::filesystem::path& program) {
-    const auto start = readFirst(SYSTEM_PLIKOW, program, 2);
+    const auto start = readFirst(SYSTEM_CALLS, program, 2);
     return start && (*start)[0] == '#' && (*start)[1] == '!';
 }
 
 } // namespace
 
 void startProgram(const std::filesystem::path& program, OknoProgramu) {
-    if (!lengthOf(SYSTEM_PLIKOW, program))
+    if (!lengthOf(SYSTEM_CALLS, program))
         return;
     const bool script = program.extension() == ".BAT" && !hasInterpreterLine(program);
     const QString name = nameOfPath(program);

@@ -1,7 +1,7 @@
 #include "qt/programy.h"
 
 #include "system/pliki.h"
-#include "system/system_plikow.h"
+#include "system/system_calls.h"
 
 #include <array>
 #include <filesystem>
@@ -25,7 +25,7 @@ std::wstring quoted(const fs::path& path) {
 } // namespace
 
 void startProgram(const fs::path& path, OknoProgramu okno) {
-    if (!lengthOf(SYSTEM_PLIKOW, path))
+    if (!lengthOf(SYSTEM_CALLS, path))
         return;
     fs::path program = path;
     program.make_preferred();

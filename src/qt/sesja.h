@@ -14,7 +14,7 @@ void prepareFolder(const std::filesystem::path& folder);
 // Ends a file dialog so that nothing of it outlives the run.
 void endFileDialog(QFileDialog*);
 
-// From now on a logout, a shutdown, Ctrl+C or the loss of the display stores the work as closing the window does.
+// From now on a logout, a shutdown or Ctrl+C stores the work as closing the window does.
 void storeAtSessionEnd(QWidget& window);
 
 } // namespace dorva

@@ -1,14 +1,10 @@
 #include "qt/sesja.h"
 
-#include <QCloseEvent>
-#include <QCoreApplication>
 #include <QFileDialog>
-#include <QPointer>
 #include <QSocketNotifier>
 #include <QWidget>
 
 #include <csignal>
-#include <cstdlib>
 #include <filesystem>
 
 #include <sys/socket.h>
@@ -23,15 +19,6 @@ int ends[2] = {-1, -1};
 void onSignal(int) {
     const char byte = 1;
     [[maybe_unused]] const auto written = ::write(ends[0], &byte, 1);
-}
-
-// Where the display is lost, Qt calls exit() in its midst. The window is still there then, and gone at any other exit.
-QPointer<QWidget> openWindow;
-
-void storeAtExit() {
-    QCloseEvent event;
-    if (openWindow)
-        QCoreApplication::sendEvent(openWindow, &event);
 }
 
 } // namespace
@@ -53,8 +40,6 @@ void storeAtSessionEnd(QWidget& window) {
         [[maybe_unused]] const auto count = ::read(ends[1], &byte, 1);
         window.close();
     });
-    openWindow = &window;
-    std::atexit(storeAtExit);
     struct sigaction action {};
     action.sa_handler = onSignal;
     action.sa_flags = SA_RESTART;

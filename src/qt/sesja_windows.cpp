@@ -21,7 +21,7 @@ namespace dorva {
 // A newer version is unpacked over an older one, and a double click starts it: nothing else could lay it out.
 void prepareFolder(const std::filesystem::path& folder) {
     constexpr std::size_t NAMES_MAX = 5;
-    const auto refused = layOut(SYSTEM_PLIKOW, folder / "wzorzec", folder);
+    const auto refused = layOut(SYSTEM_CALLS, folder / "wzorzec", folder);
     if (refused.empty())
         return;
     QStringList names;

@@ -16,7 +16,9 @@ inline constexpr Komunikat NIE_MOZNA_PLIKU{"Uwaga!", "Coś poszło źle...\nNie 
                                            Przyciski::Ok};
 inline constexpr Komunikat NIE_MOZNA_GRY{"Uwaga!", "Coś poszło źle...\nNie można utworzyć gry.", Ikona::Critical,
                                          Przyciski::Ok};
-inline constexpr Komunikat NIE_MOZNA_ETAPU{"Uwaga!", "Nie można zapisać etapu.", Ikona::Critical, Przyciski::Ok};
+inline constexpr Komunikat NIE_MOZNA_ETAPU{
+    "Uwaga!", "Nie można zapisać etapu.\nSprawdź, czy jest miejsce na dysku i prawo do zapisu w folderze ETAPY.",
+    Ikona::Critical, Przyciski::Ok};
 inline constexpr Komunikat CZYSZCZENIE{"Ostrzeżenie!", "Czyszczenie usunie całą zawartość mapy!\nKontynuować?",
                                        Ikona::Warning, Przyciski::YesNo};
 inline constexpr Komunikat KOLORY_ZABLOKOWANE{

@@ -3,6 +3,7 @@
 #include "sciezki.h"
 #include "stage/autor_gry.h"
 #include "stage/etap.h"
+#include "stage/kopie_ekranu.h"
 #include "stage/zbior_etapow.h"
 #include "system/pliki.h"
 #include "tiles/kolory.h"
@@ -12,7 +13,6 @@
 #include <filesystem>
 #include <string>
 #include <system_error>
-#include <vector>
 
 namespace dorva {
 namespace {
@@ -32,11 +32,9 @@ void setFolders(Edytor& e, const std::filesystem::path& folder) {
 }
 
 // What a killed run left beside the files that the editor writes.
-void sweepLeftovers(Edytor& e) {
-    std::vector<std::filesystem::path> files{e.KatalogBazowy / sciezki::AUTOR_GRY, e.KatalogBazowy / sciezki::TEST_XEX};
-    for (int number = 1; number <= ETAPY_COUNT; ++number)
-        files.push_back(sciezki::etap(e.KatalogBazowy, number));
-    sweepTemporary(*e.system, files);
+void sweepLeftovers(const Edytor& e) {
+    for (const auto& file : {sciezki::etap(e.KatalogBazowy, 1), e.KatalogBazowy / sciezki::AUTOR_GRY})
+        sweepTemporary(*e.system, file.parent_path());
 }
 
 void loadColours(Edytor& e) {
@@ -78,6 +76,7 @@ void Form_QueryUnload(Edytor& e) {
 
 void Form_Unload(Edytor& e) {
     closePaleta(e);
+    trimKopie(e);
 }
 
 } // namespace dorva

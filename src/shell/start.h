@@ -15,7 +15,7 @@ void Form_Load(Edytor&, const std::filesystem::path& folder, std::string_view ve
 // Writes the current stage and the title lines back. Never refuses to close.
 void Form_QueryUnload(Edytor&);
 
-// Closes the palette dialog.
+// Closes the palette dialog and removes the oldest of many copies.
 void Form_Unload(Edytor&);
 
 } // namespace dorva

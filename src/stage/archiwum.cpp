@@ -3,8 +3,10 @@
 #include "sciezki.h"
 #include "shell/komunikaty.h"
 #include "stage/etap.h"
+#include "stage/kopie_ekranu.h"
 #include "stage/zapis_jako.h"
 #include "stage/zbior_etapow.h"
+#include "system/kopie.h"
 #include "system/pliki.h"
 
 #include <array>
@@ -32,18 +34,18 @@ std::span<const Bajt> etapOf(std::span<const Bajt> archiwum, int number) {
     return archiwum.subspan(AUTOR_GRY_SIZE_BYTES + (number - 1) * ETAP_SIZE_BYTES, ETAP_SIZE_BYTES);
 }
 
-// Writes a stage of the archive over the working set. A file that is no whole stage is kept aside, and so is what the
-// editor doesn't know of the current one.
-bool replaceEtap(Edytor& e, int number, std::span<const Bajt> image) {
-    const auto path = sciezki::etap(e.KatalogBazowy, number);
-    const bool current = number == e.NumerEtapu;
-    if (!current && lengthOf(*e.system, path) == ETAP_SIZE_BYTES)
-        return writeWhole(*e.system, path, image);
-    if (!writeKeepingUnknown(*e.system, path, image, current ? e.znanyEtap : std::nullopt))
-        return false;
-    if (current)
-        e.znanyEtap.reset(); // until the editor has taken over the archive's stage
-    return true;
+// Copies the whole game as it is, the current stage and the title lines as the screen holds them. A stage without a
+// whole file stands in it as the window's first one.
+void keepGra(const Edytor& e) {
+    std::array<EtapImage, ETAPY_COUNT> etapy;
+    for (int number = 1; number <= ETAPY_COUNT; ++number) {
+        const auto stored = readFirst(*e.system, sciezki::etap(e.KatalogBazowy, number), ETAP_SIZE_BYTES);
+        etapy[number - 1] = number == e.NumerEtapu ? packed(e.okno) : stored.value_or(packed(defaultOkno()));
+    }
+    const Bajty archiwum = assemble(packedAutorGry(e.okno), etapy);
+    if (archiwum.size() == ARCHIWUM_SIZE_BYTES)
+        (void)keepCopy(*e.system, e.KatalogBazowy / sciezki::ARCHIWUM, archiwum, e.system->now(),
+                       sciezki::ARCHIWUM_ENDING);
 }
 
 } // namespace
@@ -83,9 +85,11 @@ void cmdLoadArch_Click(Edytor& e) {
     const auto archiwum = readOrCreate(*e.system, *path, ARCHIWUM_SIZE_BYTES);
     if (!archiwum)
         return;
+    keepEtap(e);
+    keepGra(e);
     takeAutorGry(e, *archiwum);
     for (int number = 1; number <= ETAPY_COUNT; ++number)
-        if (!replaceEtap(e, number, etapOf(*archiwum, number)))
+        if (!writeKeeping(*e.system, sciezki::etap(e.KatalogBazowy, number), etapOf(*archiwum, number)))
             return;
     if (!writeAutorGry(e))
         return;

@@ -2,6 +2,7 @@
 
 #include "sciezki.h"
 #include "stage/pola.h"
+#include "system/kopie.h"
 #include "system/pliki.h"
 
 #include <filesystem>
@@ -15,14 +16,19 @@ std::filesystem::path pathOf(const Edytor& e) {
 
 } // namespace
 
-Bajty fillAutorGry(Edytor& e) {
+Bajty packedAutorGry(const Okno& okno) {
     Bajty bytes;
     for (int i = 0; i < LINIE_COUNT; ++i) {
-        fillShort(e.okno, poleLinii(i));
-        const Bajty linia = e.okno.txtAutorGry[i].tekst.bytes();
+        const Bajty linia = filled(okno, poleLinii(i)).bytes();
         bytes.insert(bytes.end(), linia.begin(), linia.end());
     }
     return bytes;
+}
+
+Bajty fillAutorGry(Edytor& e) {
+    for (int i = 0; i < LINIE_COUNT; ++i)
+        fillShort(e.okno, poleLinii(i));
+    return packedAutorGry(e.okno);
 }
 
 void takeAutorGry(Edytor& e, std::span<const Bajt> bytes) {
@@ -31,32 +37,27 @@ void takeAutorGry(Edytor& e, std::span<const Bajt> bytes) {
 }
 
 void readAutorGry(Edytor& e) {
-    e.znanyAutorGry.reset();
     const auto length = lengthOf(*e.system, pathOf(e));
     if (!length)
         return;
     if (*length != AUTOR_GRY_SIZE_BYTES)
         for (int i = 0; i < LINIE_COUNT; ++i)
             SetTekst(e.okno, poleLinii(i), {});
-    const Bajty bytes = readUpTo(*e.system, pathOf(e), AUTOR_GRY_SIZE_BYTES).value_or(Bajty());
+    const auto bytes = readUpTo(*e.system, pathOf(e), AUTOR_GRY_SIZE_BYTES);
+    if (!bytes)
+        return;
     for (int i = 0; i < LINIE_COUNT; ++i) {
         const std::size_t start = i * LINIA_WIDTH, end = start + LINIA_WIDTH;
         SetTekst(e.okno, poleLinii(i), {});
-        if (bytes.size() < end)
+        if (bytes->size() < end)
             return;
-        SetTekst(e.okno, poleLinii(i), Tekst::fromBytes(std::span(bytes).subspan(start, LINIA_WIDTH)));
-        e.znanyAutorGry = Bajty(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(end));
+        SetTekst(e.okno, poleLinii(i), Tekst::fromBytes(std::span(*bytes).subspan(start, LINIA_WIDTH)));
     }
 }
 
 bool writeAutorGry(Edytor& e) {
     const Bajty bytes = fillAutorGry(e);
-    if (bytes.size() != AUTOR_GRY_SIZE_BYTES)
-        return false;
-    if (!writeKeepingUnknown(*e.system, pathOf(e), bytes, e.znanyAutorGry))
-        return false;
-    e.znanyAutorGry = bytes;
-    return true;
+    return bytes.size() == AUTOR_GRY_SIZE_BYTES && writeKeeping(*e.system, pathOf(e), bytes);
 }
 
 } // namespace dorva

@@ -10,8 +10,10 @@ namespace dorva {
 
 inline constexpr std::size_t AUTOR_GRY_SIZE_BYTES = LINIE_COUNT * LINIA_WIDTH;
 
-// The three lines as they are stored, 60 bytes unless one is too long. Boxes shorter than their width are brought to
-// it first.
+// The three lines as they are stored, 60 bytes unless one is too long; the window stays as it is.
+Bajty packedAutorGry(const Okno&);
+
+// The same, once boxes shorter than their width are brought to it.
 Bajty fillAutorGry(Edytor&);
 
 // Sets the three boxes from the first 60 bytes of a title file or an archive.
@@ -21,7 +23,7 @@ void takeAutorGry(Edytor&, std::span<const Bajt> bytes);
 // read; it may end early, or be none that can be read.
 void readAutorGry(Edytor&);
 
-// Writes DP1.DTA, what fillAutorGry makes of the boxes. Content that the editor doesn't know is kept aside first.
+// Writes DP1.DTA, what fillAutorGry makes of the boxes, once a copy of the old one is made.
 [[nodiscard]] bool writeAutorGry(Edytor&);
 
 } // namespace dorva

@@ -7,18 +7,18 @@
 
 #include <cstddef>
 #include <span>
-#include <utility>
 
 namespace dorva {
 namespace {
 
-void applyEdgeRule(Okno& okno) {
-    const Znak krawedz = KodKrawedzi(okno);
-    for (int i = 0; i < PLANSZA_CELLS; ++i) {
-        Znak& z = okno.imgPG[i].znak;
-        if (isEdge(i) && z != NIC && z != MUREK_PIONOWY && z != MUREK_POZIOMY)
-            z = krawedz;
-    }
+// What a cell of the edge is stored as.
+Znak ruled(Znak z, Znak krawedz) {
+    return z == NIC || z == MUREK_PIONOWY || z == MUREK_POZIOMY ? z : krawedz;
+}
+
+// What any other cell is stored as.
+Znak heroine(Znak z) {
+    return z == DORVA_INV ? DORVA : z;
 }
 
 void append(EtapImage& image, std::span<const Bajt> bytes) {
@@ -35,31 +35,40 @@ Znak KodKrawedzi(const Okno& okno) {
     return okno.optNN == 0 ? MUREK_PIONOWY : znak(kod(MUREK_PIONOWY) + INV);
 }
 
-void PackEtap(Edytor& e) {
-    Okno& okno = e.okno;
-    fillShort(okno, POLE_NAZWA);
-    fillShort(okno, POLE_AUTOR);
-
-    applyEdgeRule(okno);
-    ShowZestaw(e, okno.optObiektyNR);
-    RefreshInfo(e);
-
+EtapImage packed(const Okno& okno) {
+    const Znak krawedz = KodKrawedzi(okno);
     EtapImage image(uklad::KOLORY, 0);
     image.reserve(ETAP_SIZE_BYTES);
     for (const KolorSlot& slot : okno.lblKolor)
         image.push_back(slot.value);
     image.resize(uklad::PLANSZA, 0);
-    for (PokazanyZnak& cell : okno.imgPG) {
-        if (cell.znak == DORVA_INV)
-            cell.znak = DORVA;
-        image.push_back(static_cast<Bajt>(cell.znak));
+    for (int i = 0; i < PLANSZA_CELLS; ++i) {
+        const Znak z = okno.imgPG[i].znak;
+        image.push_back(static_cast<Bajt>(isEdge(i) ? ruled(z, krawedz) : heroine(z)));
     }
     image.push_back(static_cast<Bajt>(okno.hscMonet));
     image.push_back(okno.chkOstatni);
     image.push_back(static_cast<Bajt>(okno.optObiektyNR));
-    append(image, EncodeTekst(okno.txtNazwa.tekst));
-    append(image, EncodeTekst(okno.txtAutor.tekst));
-    e.image = std::move(image);
+    append(image, EncodeTekst(filled(okno, POLE_NAZWA)));
+    append(image, EncodeTekst(filled(okno, POLE_AUTOR)));
+    return image;
+}
+
+void PackEtap(Edytor& e) {
+    Okno& okno = e.okno;
+    fillShort(okno, POLE_NAZWA);
+    fillShort(okno, POLE_AUTOR);
+
+    const Znak krawedz = KodKrawedzi(okno);
+    for (int i = 0; i < PLANSZA_CELLS; ++i)
+        if (isEdge(i))
+            okno.imgPG[i].znak = ruled(okno.imgPG[i].znak, krawedz);
+    ShowZestaw(e, okno.optObiektyNR);
+    RefreshInfo(e);
+
+    for (PokazanyZnak& cell : okno.imgPG)
+        cell.znak = heroine(cell.znak);
+    e.image = packed(okno);
 }
 
 bool UnpackEtap(Edytor& e) {

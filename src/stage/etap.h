@@ -5,6 +5,9 @@
 
 namespace dorva {
 
+// The image of the stage in the window as a pack would make it; the window stays as it is.
+EtapImage packed(const Okno&);
+
 // Editor to image buffer. Cleans up the board first (edge rule, heroine), redraws and recounts. A text
 // box that is still being edited and shorter than its width is brought to it.
 void PackEtap(Edytor&);

@@ -3,9 +3,8 @@
 namespace dorva {
 namespace {
 
-void bringToForm(Okno& okno, const Pole& pole) {
-    const Tekst& tekst = pole.box(okno).tekst;
-    SetTekst(okno, pole, pole.forma == Forma::Centred ? FitNazwa(tekst, pole.width) : NormalizeBox(tekst, pole.width));
+Tekst formed(const Pole& pole, const Tekst& tekst) {
+    return pole.forma == Forma::Centred ? FitNazwa(tekst, pole.width) : NormalizeBox(tekst, pole.width);
 }
 
 } // namespace
@@ -19,9 +18,13 @@ void SetTekst(Okno& okno, const Pole& pole, const Tekst& tekst) {
     ++box.zaznaczenia;
 }
 
+Tekst filled(const Okno& okno, const Pole& pole) {
+    const Tekst& tekst = pole.box(okno).tekst;
+    return tekst.size() < pole.width ? formed(pole, tekst) : tekst;
+}
+
 void fillShort(Okno& okno, const Pole& pole) {
-    if (pole.box(okno).tekst.size() < pole.width)
-        bringToForm(okno, pole);
+    SetTekst(okno, pole, filled(okno, pole));
 }
 
 void txt_Change(Edytor& e, const Pole& pole, const Tekst& tekst) {
@@ -33,7 +36,7 @@ void txt_GotFocus(Edytor& e, const Pole& pole) {
 }
 
 void txt_LostFocus(Edytor& e, const Pole& pole) {
-    bringToForm(e.okno, pole);
+    SetTekst(e.okno, pole, formed(pole, pole.box(e.okno).tekst));
 }
 
 } // namespace dorva

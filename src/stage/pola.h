@@ -51,7 +51,10 @@ static_assert(POLE_NAZWA.name == "txtNazwa" && POLE_AUTOR.name == "txtAutor" && 
 // Sets a box from code; an empty text becomes spaces, all selected.
 void SetTekst(Okno&, const Pole&, const Tekst&);
 
-// A box that is still being edited is brought to its form if it is too short; full text stays as it is.
+// The text of a box as it is stored: one that is too short, since it is still being edited, is brought to its form.
+Tekst filled(const Okno&, const Pole&);
+
+// Does the same to the box itself.
 void fillShort(Okno&, const Pole&);
 
 // The user has changed the text. What is longer than the box is cut off; an emptied box is refilled with spaces, all

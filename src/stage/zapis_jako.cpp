@@ -2,10 +2,8 @@
 
 #include "sciezki.h"
 #include "shell/komunikaty.h"
+#include "system/kopie.h"
 #include "system/pliki.h"
-
-#include <algorithm>
-#include <array>
 
 namespace dorva {
 
@@ -19,15 +17,15 @@ std::optional<std::filesystem::path> askSavePath(Edytor& e, const DialogPliku& d
     return path;
 }
 
-bool writeChosen(Edytor& e, const std::filesystem::path& path, std::span<const Bajt> bytes) {
-    sweepTemporary(*e.system, std::array{path});
-    if (!writeWhole(*e.system, path, bytes))
-        return false;
-    if (isSameFile(*e.system, path, sciezki::etap(e.KatalogBazowy, e.NumerEtapu)))
-        e.znanyEtap = std::ranges::equal(bytes, e.image) ? std::optional(e.image) : std::nullopt;
-    if (isSameFile(*e.system, path, e.KatalogBazowy / sciezki::AUTOR_GRY))
-        e.znanyAutorGry.reset();
-    return true;
+bool writeChosen(const Edytor& e, const std::filesystem::path& path, std::span<const Bajt> bytes) {
+    for (const auto& file : sciezki::zestawRoboczy(e.KatalogBazowy)) {
+        const auto same = isSameFile(*e.system, path, file);
+        if (!same)
+            return false;
+        if (*same)
+            return writeKeeping(*e.system, file, bytes);
+    }
+    return writeWhole(*e.system, path, bytes);
 }
 
 } // namespace dorva

@@ -12,8 +12,7 @@ namespace dorva {
 // Asks for a file to save to and, if it exists, whether to replace it. Sets OstatniaSciezka.
 std::optional<std::filesystem::path> askSavePath(Edytor&, const DialogPliku&);
 
-// Writes a file that the user has named. Where it is one of the editor's own, only a stage image saved over the
-// current stage's file counts as known from then on.
-[[nodiscard]] bool writeChosen(Edytor&, const std::filesystem::path&, std::span<const Bajt> bytes);
+// Writes a file that the user has named. A copy of its old content is made first where it is one of the working set.
+[[nodiscard]] bool writeChosen(const Edytor&, const std::filesystem::path&, std::span<const Bajt> bytes);
 
 } // namespace dorva

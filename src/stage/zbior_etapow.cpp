@@ -4,8 +4,10 @@
 #include "sciezki.h"
 #include "shell/komunikaty.h"
 #include "stage/etap.h"
+#include "stage/kopie_ekranu.h"
 #include "stage/pola.h"
 #include "stage/zapis_jako.h"
+#include "system/kopie.h"
 #include "system/pliki.h"
 #include "tiles/zestaw.h"
 
@@ -38,15 +40,11 @@ Znak clearedCell(int cell, Znak krawedz) {
     return isEdge(cell) ? znak(kod(krawedz) + 1) : ZIEMIA;
 }
 
-// Reads a file's first 931 bytes and shows them in the editor. False where either fails; the buffer then holds zeros or
-// what was refused.
+// Reads a file's first 931 bytes into the image buffer, which holds zeros where that fails.
 bool readOrCreateEtap(Edytor& e, const std::filesystem::path& path) {
-    e.image.assign(ETAP_SIZE_BYTES, 0);
     auto image = readOrCreate(*e.system, path, ETAP_SIZE_BYTES);
-    if (!image)
-        return false;
-    e.image = std::move(*image);
-    return UnpackEtap(e);
+    e.image = image ? std::move(*image) : EtapImage(ETAP_SIZE_BYTES, 0);
+    return image.has_value();
 }
 
 std::filesystem::path biezacyPath(const Edytor& e) {
@@ -86,8 +84,10 @@ void cmdLoad_Click(Edytor& e) {
         askMessage(e.haki, komunikaty::ZLY_FORMAT);
         return;
     }
-    if (readOrCreateEtap(e, *path) && isSameFile(*e.system, *path, biezacyPath(e)))
-        e.znanyEtap = e.image;
+    if (!readOrCreateEtap(e, *path))
+        return;
+    keepEtap(e);
+    (void)UnpackEtap(e);
 }
 
 void cmdSave_Click(Edytor& e) {
@@ -106,6 +106,7 @@ void cmdSave_Click(Edytor& e) {
 void cmdCzysc_Click(Edytor& e) {
     if (!askMessage(e.haki, komunikaty::CZYSZCZENIE))
         return;
+    keepEtap(e);
     ClearEtap(e);
     e.okno.txtAutorEnabled = true;
 }
@@ -123,20 +124,11 @@ void ClearEtap(Edytor& e) {
 }
 
 bool writeBiezacyEtap(Edytor& e) {
-    if (e.image.size() != ETAP_SIZE_BYTES)
-        return false;
-    if (!writeKeepingUnknown(*e.system, biezacyPath(e), e.image, e.znanyEtap))
-        return false;
-    e.znanyEtap = e.image;
-    return true;
+    return e.image.size() == ETAP_SIZE_BYTES && writeKeeping(*e.system, biezacyPath(e), e.image);
 }
 
 bool readOrCreateBiezacyEtap(Edytor& e) {
-    e.znanyEtap.reset();
-    if (!readOrCreateEtap(e, biezacyPath(e)))
-        return false;
-    e.znanyEtap = e.image;
-    return true;
+    return readOrCreateEtap(e, biezacyPath(e)) && UnpackEtap(e);
 }
 
 std::optional<std::array<EtapImage, ETAPY_COUNT>> readOrCreateAllEtapy(const Edytor& e) {

@@ -19,7 +19,7 @@ void cmdCzysc_Click(Edytor&);
 // A frame of walls around a field of earth, goal 1, blank texts. No file is touched.
 void ClearEtap(Edytor&);
 
-// Writes the image buffer to the current stage's file. Content that the editor doesn't know is kept aside first.
+// Writes the image buffer to the current stage's file, once a copy of the old content is made.
 [[nodiscard]] bool writeBiezacyEtap(Edytor&);
 
 // Reads the current stage's file (its first 931 bytes) into the image buffer and unpacks it. A missing file is

@@ -1,7 +1,8 @@
 #include "system/wzorzec.h"
 
+#include "system/kopie.h"
 #include "system/pliki.h"
-#include "system/system_plikow.h"
+#include "system/system_calls.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -30,7 +31,7 @@ std::string lineOf(std::string_view name, const Bajty& bytes) {
 
 class Spis {
 public:
-    Spis(const SystemPlikow& system, fs::path path) : system_(system), path_(std::move(path)) {
+    Spis(const SystemCalls& system, fs::path path) : system_(system), path_(std::move(path)) {
         const Bajty text = readWhole(system_, path_).value_or(Bajty());
         for (auto at = text.begin(); at != text.end();) {
             const auto end = std::find(at, text.end(), '\n');
@@ -53,7 +54,7 @@ public:
     }
 
 private:
-    const SystemPlikow& system_;
+    const SystemCalls& system_;
     fs::path path_;
     std::set<std::string> lines_;
     std::size_t stored_ = 0;
@@ -75,20 +76,20 @@ std::vector<fs::path> filesIn(const fs::path& tree) {
 }
 
 // What stood there at the look may go, and nothing else.
-bool put(const SystemPlikow& system, const fs::path& path, const Bajty& bytes, const std::optional<Bajty>& old) {
+bool put(const SystemCalls& system, const fs::path& path, const Bajty& bytes, const std::optional<Bajty>& old) {
     std::error_code error;
     fs::create_directories(path.parent_path(), error);
-    return writeKeepingUnknown(system, path, bytes, old);
+    return old ? writeKeeping(system, path, bytes) : writeWhole(system, path, bytes);
 }
 
-bool isLink(const SystemPlikow& system, const fs::path& path) {
-    OpisPliku opis;
-    return system.lstat(path, opis) == Wynik::Ok && opis.rodzaj == RodzajPliku::Dowiazanie;
+bool isLink(const SystemCalls& system, const fs::path& path) {
+    fs::path target;
+    return system.readLink(path, target) == Result::Ok;
 }
 
 } // namespace
 
-std::vector<fs::path> layOut(const SystemPlikow& system, const fs::path& wzorzec, const fs::path& folder) {
+std::vector<fs::path> layOut(const SystemCalls& system, const fs::path& wzorzec, const fs::path& folder) {
     Spis spis(system, folder / SPIS);
     std::vector<fs::path> refused;
     for (const fs::path& name : filesIn(wzorzec)) {

@@ -28,16 +28,6 @@ TEST_F(SesjaPosix, ASignalToEndStoresTheWork) {
     }
 }
 
-// As Qt makes it where the display is lost. Its status is not looked at: a leak checker may have its own.
-TEST_F(SesjaPosix, AnExitInTheMidstStoresTheWork) {
-    open();
-    storeAtSessionEnd(*okno);
-    e.okno.imgPG[410].znak = znak(7);
-    EXPECT_EXIT(
-        std::exit(1), [](int status) { return WIFEXITED(status); }, "");
-    EXPECT_EQ(readFile(etap(1))[uklad::PLANSZA + 410], 7);
-}
-
 // The launcher of the working folder, with an emulator that notes how it was called.
 TEST_F(SesjaPosix, TheLauncherRunsTheEmulatorBesideTheEditor) {
     open();

@@ -1,0 +1,434 @@
+// What the editor replaces, it keeps: copies beside the files, and the slips of the hand that they undo.
+#include "output/obraz_gry.h"
+#include "pulpit.h"
+#include "stage/archiwum.h"
+#include "stage/kopie_ekranu.h"
+#include "stage/pola.h"
+#include "system/kopie.h"
+
+#include <array>
+#include <chrono>
+#include <ctime>
+#include <set>
+#include <thread>
+
+namespace dorva::test {
+namespace {
+
+using std::chrono::hours, std::chrono::minutes;
+
+class Copies : public Pulpit {
+protected:
+    [[nodiscard]] std::vector<fs::path> names(const char* folder) const {
+        return listNames(SYSTEM_CALLS, root / "KOPIE" / folder, "");
+    }
+    fs::path file;
+    void SetUp() override {
+        Pulpit::SetUp();
+        file = root / "plik";
+    }
+};
+
+// The first of two programs is about to replace a file, and the second writes to it.
+TEST_F(Copies, WhatComesBetweenIsKept) {
+    static fs::path plik;
+    static Bajt next;
+    plik = file;
+    next = 7;
+    SystemCalls own = SYSTEM_CALLS;
+    own.flush = [](Handle handle) { // of the new content, then of a copy
+        if (next < 9)
+            writeFile(plik, {next++});
+        return SYSTEM_CALLS.flush(handle);
+    };
+    EXPECT_TRUE(writeKeeping(own, file, Bajty{1}));
+    EXPECT_EQ(readFile(file), Bajty{1});
+    ASSERT_EQ(names("plik").size(), 2U);
+    for (const Bajt i : {0, 1})
+        EXPECT_EQ(readFile(root / "KOPIE/plik" / names("plik")[i]), Bajty{static_cast<Bajt>(7 + i)});
+}
+
+TEST_F(Copies, WhatCannotBeKeptIsNotReplaced) {
+    writeFile(file, {1});
+    writeFile(root / "KOPIE", {});
+    EXPECT_FALSE(writeKeeping(SYSTEM_CALLS, file, Bajty{2})) << "no folder can be made";
+    fs::remove(root / "KOPIE");
+    SystemCalls full = SYSTEM_CALLS, unlisted = SYSTEM_CALLS;
+    full.write = [](Handle handle, std::span<const Bajt> bytes, std::size_t& count) {
+        return bytes.size() == 1 ? Result::Error : SYSTEM_CALLS.write(handle, bytes, count); // the copy
+    };
+    unlisted.list = [](const fs::path&, std::vector<fs::path>&) { return Result::Error; };
+    for (const SystemCalls& broken : {full, unlisted})
+        EXPECT_FALSE(writeKeeping(broken, file, Bajty{2, 2}));
+    EXPECT_EQ(readFile(file), Bajty{1});
+    EXPECT_TRUE(names("plik").empty()) << "nor is half a copy left";
+    fs::resize_file(file, 100U << 20U);
+    EXPECT_FALSE(writeKeeping(SYSTEM_CALLS, file, Bajty{2})) << "too long to be copied";
+    EXPECT_EQ(fs::file_size(file), 100U << 20U);
+    EXPECT_EQ(listNames(SYSTEM_CALLS, root, "").size(), 3U) << "no temporary file is left";
+}
+
+TEST_F(Copies, ARenameThatIsCarriedOutAndAnsweredByAnErrorKeepsTheCopy) {
+    SystemCalls own = SYSTEM_CALLS;
+    own.rename = [](const fs::path& from, const fs::path& to) { return SYSTEM_CALLS.rename(from, to), Result::Error; };
+    writeFile(file, {1});
+    EXPECT_FALSE(writeKeeping(own, file, Bajty{2}));
+    ASSERT_EQ(names("plik").size(), 1U);
+    EXPECT_EQ(readFile(root / "KOPIE/plik" / names("plik")[0]), Bajty{1});
+}
+
+TEST_F(Copies, TheSameBytesNeedNoCopyAndLeaveTheFileAsItIs) {
+    const fs::file_time_type old = fs::file_time_type::clock::now() - hours(48);
+    writeFile(file, {1});
+    fs::last_write_time(file, old);
+    EXPECT_TRUE(writeKeeping(SYSTEM_CALLS, file, Bajty{1}));
+    EXPECT_EQ(fs::last_write_time(file), old);
+    writeFile(root / "pusty", {});
+    EXPECT_TRUE(writeKeeping(SYSTEM_CALLS, root / "pusty", Bajty{1})) << "an empty file";
+    EXPECT_FALSE(fs::exists(root / "KOPIE"));
+    for (const Bajt content : {1, 1, 2, 1})
+        EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{content}, Time()));
+    EXPECT_EQ(names("plik").size(), 3U);
+}
+
+// The number alone tells newer from older; names of another form don't count.
+TEST_F(Copies, NamesAndNumbers) {
+    const auto made = Time(hours(24 * 20000) + minutes(62));
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(made);
+    std::array<char, 40> time{};
+    std::strftime(time.data(), time.size(), " %Y-%m-%d %H.%M", std::localtime(&seconds));
+    const auto folder = root / "KOPIE/plik";
+    fs::create_directories(folder);
+    for (const char* name :
+         {"plik.123 2026-11-25 18.32", "plik.0200 2026-11-25 18.32.dpa", "plik.0200 2026-11-25 18:32", "plik.0200",
+          "plik.0x00 2026-11-25 18.32", "plik.99999999999 2026-11-25 18.32"})
+        writeFile(folder / (POSIX ? name : std::string(name).substr(0, 20)), {1});
+    writeFile(folder / "plik.0041 2099-01-01 00.00", {1});
+    EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{2}, made));
+    EXPECT_TRUE(fs::exists(folder / ("plik.0042" + std::string(time.data()))));
+    writeFile(folder / "plik.9999 2020-01-01 00.00", {1});
+    EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{3}, made));
+    EXPECT_TRUE(fs::exists(folder / ("plik.10000" + std::string(time.data()))));
+    EXPECT_TRUE(keepCopy(SYSTEM_CALLS, root / "gra", Bajty{3}, Time::min(), ".dpa"));
+    EXPECT_EQ(names("gra").at(0).string().substr(0, 9), "gra.0001 ");
+    EXPECT_EQ(names("gra").at(0).extension(), ".dpa");
+}
+
+TEST_F(Copies, TheNewest200Stay) {
+    for (int i = 0; i < 203; ++i)
+        ASSERT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{static_cast<Bajt>(i)}, Time(hours(1000 - i))));
+    const auto folder = root / "KOPIE/plik";
+    fs::rename(folder / names("plik")[0], folder / "najlepsza");
+    trimCopies(SYSTEM_CALLS, file);
+    ASSERT_EQ(names("plik").size(), 201U);
+    EXPECT_EQ(readFile(folder / names("plik")[1]), Bajty{3});
+    EXPECT_EQ(readFile(folder / "najlepsza"), Bajty{0});
+}
+
+TEST_F(Copies, NoCopyReplacesAnother) {
+    constexpr int EACH = 150;
+    const auto work = [&](int first) {
+        for (int i = 0; i < EACH; ++i)
+            EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{static_cast<Bajt>(first), static_cast<Bajt>(i)}, Time()));
+    };
+    std::thread other(work, 1);
+    work(2);
+    other.join();
+    std::set<int> contents;
+    for (const fs::path& name : names("plik")) {
+        const Bajty copy = readFile(root / "KOPIE/plik" / name);
+        contents.insert(copy.at(0) * EACH + copy.at(1));
+    }
+    EXPECT_EQ(contents.size(), 2U * EACH);
+}
+
+// Slips of the hand and of the machine, and what of them comes back.
+class Slips : public DeskInMemory {
+public:
+    using Pulpit::cell, Pulpit::chosen, Pulpit::restart, Pulpit::root;
+    // As the window runs an operation.
+    void act(void (*operation)(Edytor&)) {
+        keepWork(e);
+        operation(e);
+    }
+    void paint(Znak z) {
+        keepWork(e);
+        cell(5, 5) = z;
+    }
+    void killed() { restart(); }
+    void passes(minutes time) { disk.clock += time; }
+    [[nodiscard]] Bajty screen() const { return packed(e.okno); }
+    void choose(const std::string& name, const Bajty& bytes) {
+        chosen = root / name;
+        disk.put(chosen->generic_string(), bytes);
+    }
+    // The copies of a file that hold the bytes.
+    [[nodiscard]] std::vector<fs::path> copiesWith(const fs::path& file, const Bajty& bytes) const {
+        std::vector<fs::path> copies;
+        const fs::path folder = file.parent_path() / "KOPIE" / file.filename();
+        for (const auto& [name, content] : disk.files(folder.generic_string() + '/'))
+            if (content == bytes)
+                copies.emplace_back(name);
+        return copies;
+    }
+};
+
+struct Slip {
+    const char* name;
+    Bajty (*happens)(Slips&); // gives what would be lost
+    int number = 1;           // of the stage whose copies are looked at
+};
+
+void goToTwo(Edytor& e) {
+    SelectEtapNR(e, 1);
+}
+
+void nothing(Edytor&) {}
+
+const Slip SLIPS[]{
+    {"clear",
+     [](Slips& d) {
+         d.paint(BOMBA);
+         const Bajty lost = d.screen();
+         d.act(cmdCzysc_Click);
+         return lost;
+     }},
+    {"load",
+     [](Slips& d) {
+         d.paint(BOMBA);
+         const Bajty lost = d.screen();
+         d.choose("inny", sampleEtap(9));
+         d.act(cmdLoad_Click);
+         return lost;
+     }},
+    {"refused load, then a switch",
+     [](Slips& d) {
+         d.choose("obcy", Bajty(ETAP_SIZE_BYTES, 0));
+         d.act(cmdLoad_Click);
+         d.act(goToTwo);
+         return sampleEtap(1);
+     }},
+    {"painted over and switched",
+     [](Slips& d) {
+         d.paint(BOMBA);
+         d.act(goToTwo);
+         return sampleEtap(1);
+     }},
+    {"saved by name onto another stage",
+     [](Slips& d) {
+         d.chosen = d.root / "praca/ETAPY/DETAP.9";
+         d.act(cmdSave_Click);
+         return sampleEtap(9);
+     },
+     9},
+    {"killed after six minutes",
+     [](Slips& d) {
+         d.paint(BOMBA);
+         d.passes(minutes(6));
+         Bajty lost = d.screen();
+         d.act(nothing);
+         d.killed();
+         return lost;
+     }},
+    {"the same twice",
+     [](Slips& d) {
+         d.paint(BOMBA);
+         const Bajty lost = d.screen();
+         d.act(cmdCzysc_Click);
+         d.paint(KLUCZ);
+         d.act(cmdCzysc_Click);
+         return lost;
+     }},
+    {"another program's content",
+     [](Slips& d) {
+         disk.put(at("praca/ETAPY/DETAP.1"), sampleEtap(20));
+         d.paint(BOMBA);
+         d.act(goToTwo);
+         return sampleEtap(20);
+     }},
+    {"start-up ended early, then the exit",
+     [](Slips& d) {
+         std::erase_if(disk.names, [](const auto& entry) { return entry.first.ends_with(".ND"); });
+         d.restart();
+         d.act(Form_QueryUnload);
+         return sampleEtap(1);
+     }},
+    {"the clock a day back",
+     [](Slips& d) {
+         d.act(nothing);
+         d.paint(BOMBA);
+         d.passes(-hours(24));
+         Bajty lost = d.screen();
+         d.act(nothing);
+         d.killed();
+         return lost;
+     }},
+    {"killed, started again and painted on",
+     [](Slips& d) {
+         d.paint(BOMBA);
+         d.passes(minutes(6));
+         Bajty lost = d.screen();
+         d.act(nothing);
+         d.killed();
+         d.paint(KLUCZ);
+         d.act(goToTwo);
+         d.act(Form_QueryUnload);
+         return lost;
+     }},
+    {"the oldest copy loaded",
+     [](Slips& d) {
+         d.paint(BOMBA);
+         const Bajty lost = d.screen();
+         for (int i = 0; i < 210; ++i) {
+             d.act(cmdCzysc_Click);
+             d.cell(6, 6) = znak(i % 2);
+         }
+         return lost;
+     }},
+};
+
+TEST_F(Slips, EveryLostStageComesBackByTheDialog) {
+    for (const Slip& slip : SLIPS) {
+        SCOPED_TRACE(slip.name);
+        SetUp();
+        restart();
+        const Bajty lost = slip.happens(*this);
+        const auto copies = copiesWith(etap(slip.number), lost);
+        ASSERT_FALSE(copies.empty());
+        chosen = copies[0];
+        cmdLoad_Click(e);
+        EXPECT_EQ(screen(), lost);
+    }
+}
+
+TEST_F(Slips, AWrongArchiveIsTakenBack) {
+    restart();
+    SelectEtapNR(e, 6);
+    disk.names.erase(at("praca/ETAPY/DETAP.8"));
+    disk.put(at("praca/ETAPY/DETAP.9"), Bajty(930, 1));
+    disk.put(at("praca/ETAPY/DETAP.10"), Bajty(932, 1));
+    cell(5, 5) = BOMBA;
+    txt_Change(e, poleLinii(1), ascii("ala"));
+    const Bajty stage = screen();
+    choose("zle.dpa", sampleArchiwum());
+    cmdLoadArch_Click(e);
+    EXPECT_EQ(copiesWith(etap(7), stage).size(), 1U);
+    for (const auto& [number, old] : {std::pair{1, sampleEtap(1)}, {9, Bajty(930, 1)}, {10, Bajty(932, 1)}})
+        EXPECT_EQ(copiesWith(etap(number), old).size(), 1U) << number;
+
+    const auto archives = disk.files(at("praca/ETAPY/KOPIE/DPArchiwum/"));
+    ASSERT_EQ(archives.size(), 1U);
+    chosen = archives.begin()->first;
+    cmdLoadArch_Click(e);
+    EXPECT_EQ(screen(), stage);
+    EXPECT_EQ(e.okno.txtAutorGry[1].tekst.znaki, "ALA" + std::string(17, ' '));
+    const Bajty empty = packed(defaultOkno());
+    const std::map<int, Bajty> odd{{7, stage}, {8, empty}, {9, empty}, {10, Bajty(931, 1)}};
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        EXPECT_EQ(disk.find(etap(number))->bytes, odd.contains(number) ? odd.at(number) : sampleEtap(number)) << number;
+}
+
+TEST_F(Slips, TitleLinesBeingTypedAreKeptAndTheBoxIsLeftAlone) {
+    restart();
+    keepWork(e);
+    txt_Change(e, poleLinii(0), ascii("ala"));
+    passes(minutes(4));
+    keepWork(e);
+    Bajty lines(60, 'X');
+    std::fill_n(lines.begin(), 20, ' ');
+    std::ranges::copy(std::string("ALA"), lines.begin());
+    const fs::path file = base / "PLIKI/DP1.DTA";
+    EXPECT_TRUE(copiesWith(file, lines).empty()) << "five minutes have not passed yet";
+    passes(minutes(1));
+    keepWork(e);
+    EXPECT_EQ(copiesWith(file, lines).size(), 1U);
+    EXPECT_EQ(e.okno.txtAutorGry[0].tekst, ascii("ala"));
+}
+
+TEST_F(Slips, KeepingLeavesTheScreenAloneAndOrdinaryWorkMakesNoCopies) {
+    restart();
+    for (int index : {1, 0, 2, 31, 2}) {
+        keepWork(e);
+        SelectEtapNR(e, index);
+        passes(minutes(6));
+        chosen = etap(e.NumerEtapu);
+        act(cmdSave_Click);
+        act(cmdLoad_Click);
+    }
+    choose("gra", {});
+    act(cmdSaveArch_Click);
+    act(cmdCreate_Click);
+    act(Form_QueryUnload);
+    EXPECT_TRUE(disk.files(at("praca/ETAPY/KOPIE/")).empty());
+    cell(5, 5) = DORVA_INV;
+    cell(0, 0) = BOMBA;
+    passes(minutes(6));
+    keepWork(e);
+    EXPECT_EQ(cell(5, 5), DORVA_INV);
+    EXPECT_EQ(cell(0, 0), BOMBA);
+    const auto copies = disk.files(at("praca/ETAPY/KOPIE/"));
+    ASSERT_EQ(copies.size(), 1U);
+    PackEtap(e);
+    EXPECT_EQ(copies.begin()->second, e.image);
+}
+
+TEST_F(Slips, TheExitLeavesTheNewest200) {
+    const auto fill = [](const std::string& folder, const std::string& name, const std::string& ending) {
+        for (int i = 1001; i <= 1201; ++i)
+            disk.put(at("praca/" + folder + '/' + name + '.' + std::to_string(i) + " 2026-11-25 18.32" + ending), {1});
+    };
+    fill("ETAPY/KOPIE/DETAP.32", "DETAP.32", "");
+    fill("ETAPY/KOPIE/DPArchiwum", "DPArchiwum", ".dpa");
+    fill("PLIKI/KOPIE/DP1.DTA", "DP1.DTA", "");
+    restart();
+    Form_QueryUnload(e);
+    EXPECT_EQ(disk.files(at("praca/ETAPY/KOPIE/")).size(), 402U);
+    Form_Unload(e);
+    const Files left = disk.files();
+    for (const char* first : {"ETAPY/KOPIE/DETAP.32/DETAP.32.1001 2026-11-25 18.32",
+                              "ETAPY/KOPIE/DPArchiwum/DPArchiwum.1001 2026-11-25 18.32.dpa",
+                              "PLIKI/KOPIE/DP1.DTA/DP1.DTA.1001 2026-11-25 18.32"})
+        EXPECT_FALSE(left.contains(at(std::string("praca/") + first))) << first;
+    EXPECT_EQ(disk.files(at("praca/ETAPY/KOPIE/")).size(), 400U);
+    EXPECT_EQ(disk.files(at("praca/PLIKI/KOPIE/")).size(), 200U);
+}
+
+TEST_F(Slips, WhereNoCopyCanBeMadeTheScreenStays) {
+    static SystemCalls own;
+    own = *memoryCalls();
+    own.makeFolder = [](const fs::path&) { return Result::Error; };
+    restart();
+    e.system = &own;
+    cell(5, 5) = BOMBA;
+    const Bajty work = screen();
+    SelectEtapNR(e, 1);
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_TRUE(shown[0].starts_with("Nie można zapisać etapu.\n"));
+    EXPECT_EQ(e.okno.optEtapNR, 0);
+    EXPECT_EQ(screen(), work);
+    EXPECT_EQ(disk.find(etap(1))->bytes, sampleEtap(1));
+    act(cmdCzysc_Click);
+    EXPECT_NE(screen(), work) << "the screen's copies are a net, not a gate";
+}
+
+// In turns, as two windows on one folder are used.
+TEST_F(Slips, TwoEditorsThatStoreInTurnsLoseNothing) {
+    restart();
+    Edytor second;
+    attach(second);
+    Form_Load(second, base, "1.0.2");
+    std::vector<Bajty> stored;
+    for (int i = 0; i < 40; ++i) {
+        Edytor& editor = i % 2 == 0 ? e : second;
+        SelectEtapNR(editor, 0);
+        editor.okno.imgPG[300 + i].znak = znak(2 + i % 2);
+        stored.push_back(packed(editor.okno));
+        SelectEtapNR(editor, 1);
+    }
+    for (std::size_t i = 0; i + 1 < stored.size(); ++i)
+        EXPECT_FALSE(copiesWith(etap(1), stored[i]).empty()) << i;
+    EXPECT_EQ(disk.find(etap(1))->bytes, stored.back());
+}
+
+} // namespace
+} // namespace dorva::test
