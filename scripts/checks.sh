@@ -1,10 +1,10 @@
 #!/bin/bash
 # The checks that take longer than the test suite, a line each; a step that fails shows the end of its log
-# (build/checks). With the names of steps only those: scripts/checks.sh coverage fuzz
+# (build/checks). With the names of steps only those: scripts/checks.sh coverage play
 # shellcheck disable=SC2317 # the steps are called by their names
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit
-steps=(format shell floors sanitizers coverage findings fuzz documents package play windows)
+steps=(format shell floors sanitizers coverage findings documents package play windows)
 for step; do
     [[ " ${steps[*]} " == *" $step "* ]] || { echo "checks: no step $step; there are: ${steps[*]}" >&2; exit 2; }
 done
@@ -21,7 +21,7 @@ game_built() { [ -f build/release/data/PLIKI/DP2.DTA ]; }
 # Each step is a function; what it says in its line is the end of its log, or what summary_STEP takes from it.
 
 format() {
-    find src tests bench fuzz game packaging \( -name '*.cpp' -o -name '*.h' -o -name '*.c' \) -print0 |
+    find src tests bench game packaging \( -name '*.cpp' -o -name '*.h' -o -name '*.c' \) -print0 |
         xargs -0 clang-format --dry-run -Werror
 }
 
@@ -74,24 +74,14 @@ coverage() {
     report "${pure[@]}" | awk -v aim=95 '/^TOTAL/ { print "lines " $7 ", branches " $10; exit $10 + 0 < aim }'
 }
 
-fuzzers() { cmake --preset fuzz && cmake --build --preset fuzz --target "$@"; }
-
 findings() { # not in what another system's compiler builds
-    fuzzers dorva_swiaty || return
+    cmake --preset clang && cmake --build --preset clang --target dorva_swiaty || return
     find src game/tools packaging -name '*.cpp' ! -name '*_windows.cpp' |
         { if window_built; then cat; else grep -v -e src/qt -e packaging; fi; } |
-        xargs -P2 -n4 clang-tidy --quiet --warnings-as-errors='*' -p build/fuzz 2>&1 |
+        xargs -P2 -n4 clang-tidy --quiet --warnings-as-errors='*' -p build/clang 2>&1 |
         { grep -v 'warnings generated' || true; } &&
         echo 'no findings'
 }
-
-fuzz() {
-    fuzzers fuzz_edytor || return
-    mkdir -p build/fuzz/korpus
-    build/fuzz/fuzz/fuzz_edytor -max_total_time=30 -max_len=4096 -verbosity=0 -print_final_stats=1 \
-        -artifact_prefix="$logs/edytor-" build/fuzz/korpus fuzz/ziarna/edytor
-}
-summary_fuzz() { awk '/number_of_executed_units/ { print $2 " executions" }' "$1"; }
 
 # The documents' examples against the built files.
 documents() {
