@@ -71,9 +71,17 @@ inline const Bajty& sampleSzablon() {
     return szablon;
 }
 
+// Title lines that differ: 20 X, 20 Y, 20 Z.
+inline Bajty sampleLinie() {
+    Bajty lines;
+    for (const Bajt letter : {'X', 'Y', 'Z'})
+        lines.insert(lines.end(), LINIA_WIDTH, letter);
+    return lines;
+}
+
 // What the base folder of every desk holds.
 inline Files sampleTree() {
-    Files files{{"PLIKI/DP1.DTA", Bajty(AUTOR_GRY_SIZE_BYTES, 'X')},
+    Files files{{"PLIKI/DP1.DTA", sampleLinie()},
                 {"PLIKI/DP2.DTA", sampleSzablon()},
                 {"OBIEKTY/ORN_EXPORT/FNT01.ORN.ND", {}},
                 {"OBIEKTY/ORN_EXPORT/FNT11.ORN.ND", {}},
@@ -160,22 +168,26 @@ protected:
 
 // A path on the disk in memory.
 inline std::string at(const std::string& name) {
-    return (fs::absolute("/") / name).generic_string();
+    return (fs::temp_directory_path() / "dorva-w-pamieci" / name).generic_string();
 }
 
-// The same desk on a disk in memory.
+// The same desk on a disk in memory. Its folder is a real one too, empty, since operations make it the current one.
 class DeskInMemory : public Pulpit {
 protected:
     void SetUp() override {
         calls = memoryCalls();
         root = at("");
         base = at("praca");
+        fs::create_directories(base);
         disk = {};
         for (const auto& [name, bytes] : sampleTree())
             disk.put(at("praca/" + name), bytes);
         attach(e);
     }
-    void TearDown() override {}
+    void TearDown() override {
+        fs::current_path(fs::temp_directory_path());
+        fs::remove_all(root);
+    }
 };
 
 } // namespace dorva::test

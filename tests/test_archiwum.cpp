@@ -83,7 +83,7 @@ TEST_F(Archiwum, LoadMayBreakOffOrRefuseAField) {
     EXPECT_EQ(readFile(etap(7)), sampleEtap(26));
     EXPECT_EQ(e.image, sampleEtap(7)) << "the editor never came to the archive's stage";
     EXPECT_EQ(e.okno.txtAutorGry[0].tekst.znaki, std::string(20, 'A')) << "the title lines did";
-    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), Bajty(60, 'X'));
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), sampleLinie());
 
     fs::remove(etap(20));
     writeFile(root / "x.dpa", Bajty(ARCHIWUM_SIZE_BYTES, 7));

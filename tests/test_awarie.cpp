@@ -18,7 +18,7 @@ struct Scenario {
     const char* name;
     void (*prepare)(); // changes to the disk before the start
     void (*run)(Edytor&);
-    std::vector<std::string> targets; // files that a run brings to their new bytes
+    std::vector<std::string> targets; // files that a run brings to their new bytes, in this order
     bool replacesScreen = false;      // then a failing call may cost what it held
 };
 
@@ -66,9 +66,9 @@ const std::vector<Scenario> SCENARIOS{
     {"Load", makeStage, cmdLoad_Click, {}, true},
     {"Save", makeOther, cmdSave_Click, {WYBRANY}},
     {"Clear", nothing, cmdCzysc_Click, {}, true},
-    {"ArchiveSave", makeOther, cmdSaveArch_Click, {WYBRANY, ETAP_1}},
+    {"ArchiveSave", makeOther, cmdSaveArch_Click, {ETAP_1, WYBRANY}},
     {"ArchiveLoad", makeArchive, cmdLoadArch_Click, {ETAP_2, LINIE}, true},
-    {"GameBuild", makeOther, cmdCreate_Click, {WYBRANY, XEX}},
+    {"GameBuild", makeOther, cmdCreate_Click, {ETAP_1, WYBRANY, XEX}},
     {"TestBuild", nothing, cmdTest_Click, {XEX}},
     {"Exit", nothing, Form_QueryUnload, {ETAP_1, LINIE}},
     {"ExitAfterAnEarlyEndOfStart", removeTileSets, Form_QueryUnload, {ETAP_1, LINIE}},
@@ -150,6 +150,13 @@ protected:
             EXPECT_TRUE(before.contains(name) || isNew(now, name) || isRightCopy(name, bytes) ||
                         (mayLeaveHalves && (isTemporary(name) || isCopy(name))))
                 << name;
+        const auto isDone = [&](const std::string& name) { return isIn(now, name, after.at(name)); };
+        for (std::size_t i = 1; i < s.targets.size(); ++i) {
+            const bool isChanged =
+                !before.contains(s.targets[i]) || !isIn(after, s.targets[i], before.at(s.targets[i]));
+            EXPECT_TRUE(!isChanged || !isDone(s.targets[i]) || isDone(s.targets[i - 1]))
+                << s.targets[i] << " too early";
+        }
     }
 
     // Runs the operation with one failing call, then once more without, then leaves the program.
@@ -161,6 +168,9 @@ protected:
         for (const std::string& text : shown)
             EXPECT_TRUE(std::ranges::count(said, text) || text.starts_with("Nie można zapisać etapu.")) << text;
         EXPECT_TRUE(s.replacesScreen || s.run == Form_QueryUnload || isWorkSafe());
+        for (const std::string& name : s.targets)
+            EXPECT_TRUE(said.empty() || shown != said || isIn(disk.files(), name, after.at(name)))
+                << name << " is not written";
         if (plan.error == Failure::SHORT) {
             EXPECT_EQ(disk.files(), after) << "short transfers are no failures";
             EXPECT_EQ(shown, said);

@@ -334,7 +334,7 @@ TEST_F(Slips, TitleLinesBeingTypedAreKeptAndTheBoxIsLeftAlone) {
     txt_Change(e, poleLinii(0), ascii("ala"));
     passes(minutes(4));
     keepWork(e);
-    Bajty lines(60, 'X');
+    Bajty lines = sampleLinie();
     std::fill_n(lines.begin(), 20, ' ');
     std::ranges::copy(std::string("ALA"), lines.begin());
     const fs::path file = base / "PLIKI/DP1.DTA";

@@ -18,12 +18,12 @@ TEST_F(Start, CompleteStartShowsStageOneAndChangesNoFile) {
     EXPECT_EQ(e.OstatniaSciezka, fs::canonical(root));
     EXPECT_EQ(e.okno.optObiektyNR, 1);
     EXPECT_EQ(e.okno.hscMonet, 1);
-    EXPECT_EQ(e.okno.txtAutorGry[2].tekst.znaki, std::string(20, 'X'));
+    EXPECT_EQ(e.okno.txtAutorGry[2].tekst.znaki, std::string(20, 'Z'));
     EXPECT_TRUE(e.okno.chkOstatniEnabled);
     Form_QueryUnload(e);
     for (int number = 1; number <= ETAPY_COUNT; ++number)
         EXPECT_EQ(readFile(etap(number)), sampleEtap(number));
-    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), Bajty(60, 'X'));
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), sampleLinie());
     EXPECT_EQ(namesIn("ETAPY").size(), 32U);
 }
 

@@ -108,6 +108,8 @@ TEST_F(ZbiorEtapow, ClearBuildsTheWalledField) {
     answers = {false, true};
     cmdCzysc_Click(e);
     EXPECT_EQ(cell(5, 5), znak(5));
+    for (PokazanyZnak& pokazany : e.okno.imgPG)
+        pokazany.znak = BOMBA;
     cmdCzysc_Click(e);
     EXPECT_TRUE(e.okno.txtAutorEnabled);
     EXPECT_EQ(shown.back(), "Czyszczenie usunie całą zawartość mapy!\nKontynuować?");

@@ -66,6 +66,23 @@ void takePlansza(Zrodlo& z, const Legenda& legenda, std::span<Bajt> cells) {
     }
 }
 
+// How often a tile may stand on a board, in either form.
+struct Liczebnosc {
+    Znak znak;
+    int least, most;
+};
+constexpr std::array<Liczebnosc, 4> LICZEBNOSCI{{{DORVA, 1, 1}, {WYJSCIE, 1, 1}, {POCHODNIA, 0, 1}, {MASZYNA, 0, 1}}};
+
+void checkLiczebnosci(const Zrodlo& z, std::span<const Bajt> cells) {
+    for (const auto& [tile, least, most] : LICZEBNOSCI) {
+        const auto isTile = [&](Bajt cell) { return cell % INV == kod(tile); };
+        const auto count = std::ranges::count_if(cells, isTile);
+        if (count < least || count > most)
+            z.fail("the board has " + std::to_string(count) + " of the tile " + std::string(NAZWY_ZNAKOW[kod(tile)]) +
+                   (least == most ? ", not one" : ", more than one"));
+    }
+}
+
 } // namespace
 
 Legenda parseLegenda(Zrodlo z) {
@@ -106,6 +123,7 @@ Bajty parseEtap(Zrodlo z, const Legenda& legenda, const Swiaty& swiaty) {
         z.take();
         z.fail("the board has 20 rows");
     }
+    checkLiczebnosci(z, std::span(image).subspan(uklad::PLANSZA, PLANSZA_CELLS));
     return image;
 }
 
