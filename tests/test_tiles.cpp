@@ -110,7 +110,10 @@ TEST_F(Tiles, ReloadTakesNewColoursOfTheWorldOnShow) {
 }
 
 TEST_F(Tiles, PaletteFileOrBuiltInTable) {
+    for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"})
+        fs::remove(base / "OBIEKTY/ORN_EXPORT" / name);
     start();
+    EXPECT_EQ(e.okno.lblKolor[4].value, 10) << "a world's colours don't wait for its tile set";
     EXPECT_EQ(e.Paleta[180], (Rgb{0x16, 0x92, 0x12}));
     fs::create_directory(base / "PLIKI/PALETY");
     writeFile(base / "PLIKI/PALETY/Bitwor.act", Bajty(767, 3));
