@@ -127,6 +127,13 @@ Bajty parseEtap(Zrodlo z, const Legenda& legenda, const Swiaty& swiaty) {
     return image;
 }
 
+Bajty readEtap(const std::filesystem::path& path) {
+    Bajty etap = readPlik(path);
+    if (etap.size() != ETAP_SIZE_BYTES)
+        throw BladZrodla(path.string() + ": no stage file");
+    return etap;
+}
+
 Bajty parseTytul(Zrodlo z) {
     Bajty bytes;
     for (const char* name : {"linia1", "linia2", "linia3"}) {

@@ -4,6 +4,7 @@
 #include "rysunki.h"
 #include "stage/etap_image.h"
 
+#include <filesystem>
 #include <optional>
 
 namespace dorva {
@@ -23,6 +24,9 @@ Legenda parseLegenda(Zrodlo);
 
 // The stage image, 931 bytes.
 Bajty parseEtap(Zrodlo, const Legenda&, const Swiaty&);
+
+// A stage file; fails where there is none of its length.
+Bajty readEtap(const std::filesystem::path&);
 
 // The three title lines of the game, 60 bytes.
 Bajty parseTytul(Zrodlo);

@@ -5,6 +5,7 @@
 //   swiaty paleta WYNIK                     the built-in colour table as a palette file
 //   swiaty plansza SWIAT.txt ETAP WYNIK.BMP picture of a stage file's board
 #include "etapy.h"
+#include "sciezki.h"
 
 #include <algorithm>
 #include <exception>
@@ -37,7 +38,7 @@ void makeEtapy(const Argumenty& a) {
     const Legenda legenda = parseLegenda(Zrodlo::fromFile(a[1] / "legenda.txt"));
     for (int number = 1; number <= ETAPY_COUNT; ++number) {
         const std::string two = (number < 10 ? "0" : "") + std::to_string(number);
-        writePlik(a[2] / ("DETAP." + std::to_string(number)),
+        writePlik(a[2] / sciezki::nazwaEtapu(number),
                   parseEtap(Zrodlo::fromFile(a[1] / ("etap" + two + ".txt")), legenda, swiaty));
     }
 }
@@ -54,10 +55,7 @@ void makePaleta(const Argumenty& a) {
 }
 
 void makePlansza(const Argumenty& a) {
-    const Bajty etap = readPlik(a[1]);
-    if (etap.size() != ETAP_SIZE_BYTES)
-        throw BladZrodla(a[1].string() + ": no stage file");
-    writePlik(a[2], BuildBmp(BuildPlansza(parseRysunki(Zrodlo::fromFile(a[0])), etap)));
+    writePlik(a[2], BuildBmp(BuildPlansza(parseRysunki(Zrodlo::fromFile(a[0])), readEtap(a[1]))));
 }
 
 struct Polecenie {

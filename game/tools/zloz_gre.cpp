@@ -2,9 +2,9 @@
 //   zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP...   title lines and, from the first place on, stage files, the last
 //                                                      of which is marked as the last one of the game
 //   zloz_gre --tytul GRA                               the bytes of a game's title lines, a line each
+#include "etapy.h"
 #include "output/szablon.h"
 #include "stage/etap_image.h"
-#include "zrodlo.h"
 
 #include <exception>
 #include <iostream>
@@ -26,11 +26,8 @@ void makeGra(const Argumenty& a) {
     if (szablon.size() != GRA_SIZE_BYTES || a.size() - FIRST_ETAP > ETAPY_COUNT)
         throw BladZrodla(a[0] + ": no game template, or too many stages for it");
     std::vector<EtapImage> etapy;
-    for (std::size_t i = FIRST_ETAP; i < a.size(); ++i) {
-        etapy.push_back(readPlik(a[i]));
-        if (etapy.back().size() != ETAP_SIZE_BYTES)
-            throw BladZrodla(a[i] + ": no stage file");
-    }
+    for (std::size_t i = FIRST_ETAP; i < a.size(); ++i)
+        etapy.push_back(readEtap(a[i]));
     etapy.back()[uklad::OSTATNI] = 1;
     writePlik(a[1], buildGra(szablon, etapy, {linia(a, 0), linia(a, 1), linia(a, 2)}));
 }

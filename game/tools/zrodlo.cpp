@@ -1,9 +1,9 @@
 #include "zrodlo.h"
 
+#include "system/pliki.h"
+
 #include <algorithm>
 #include <charconv>
-#include <fstream>
-#include <iterator>
 #include <utility>
 
 namespace dorva {
@@ -73,18 +73,16 @@ Tekst toTekst(const Zrodlo& z, std::string_view utf8) {
 }
 
 Bajty readPlik(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
+    auto bytes = readWhole(SYSTEM_CALLS, path);
+    if (!bytes)
         throw BladZrodla(path.string() + ": cannot be read");
-    return {std::istreambuf_iterator<char>(file), {}};
+    return std::move(*bytes);
 }
 
 void writePlik(const std::filesystem::path& path, const Bajty& bytes) {
     if (path.has_parent_path())
         std::filesystem::create_directories(path.parent_path());
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    if (!file.flush())
+    if (!writeWhole(SYSTEM_CALLS, path, bytes))
         throw BladZrodla(path.string() + ": cannot be written");
 }
 
