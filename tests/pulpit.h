@@ -2,17 +2,16 @@
 #pragma once
 
 #include "edytor.h"
-#include "memory_disk.h"
 #include "output/szablon.h"
 #include "shell/start.h"
 #include "stage/autor_gry.h"
-#include "stage/etap.h"
-#include "stage/zbior_etapow.h"
+#include "system/pliki.h"
 
 #include <deque>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <map>
 #include <random>
 #include <utility>
 
@@ -80,12 +79,12 @@ inline Bajty sampleLinie() {
 }
 
 // What the base folder of every desk holds.
-inline Files sampleTree() {
-    Files files{{"PLIKI/DP1.DTA", sampleLinie()},
-                {"PLIKI/DP2.DTA", sampleSzablon()},
-                {"OBIEKTY/ORN_EXPORT/FNT01.ORN.ND", {}},
-                {"OBIEKTY/ORN_EXPORT/FNT11.ORN.ND", {}},
-                {"OBIEKTY/ORN_EXPORT/FNT21.ORN.ND", {}}};
+inline std::map<std::string, Bajty> sampleTree() {
+    std::map<std::string, Bajty> files{{"PLIKI/DP1.DTA", sampleLinie()},
+                                       {"PLIKI/DP2.DTA", sampleSzablon()},
+                                       {"OBIEKTY/ORN_EXPORT/FNT01.ORN.ND", {}},
+                                       {"OBIEKTY/ORN_EXPORT/FNT11.ORN.ND", {}},
+                                       {"OBIEKTY/ORN_EXPORT/FNT21.ORN.ND", {}}};
     for (int number = 1; number <= ETAPY_COUNT; ++number)
         files["ETAPY/DETAP." + std::to_string(number)] = sampleEtap(number);
     return files;
@@ -164,30 +163,6 @@ protected:
     std::optional<fs::path> chosen;   // in the file dialogs
     std::vector<std::pair<fs::path, OknoProgramu>> started;
     std::map<std::string, Bitmapa> strips; // pictures by file name
-};
-
-// A path on the disk in memory.
-inline std::string at(const std::string& name) {
-    return (fs::temp_directory_path() / "dorva-w-pamieci" / name).generic_string();
-}
-
-// The same desk on a disk in memory. Its folder is a real one too, empty, since operations make it the current one.
-class DeskInMemory : public Pulpit {
-protected:
-    void SetUp() override {
-        calls = memoryCalls();
-        root = at("");
-        base = at("praca");
-        fs::create_directories(base);
-        disk = {};
-        for (const auto& [name, bytes] : sampleTree())
-            disk.put(at("praca/" + name), bytes);
-        attach(e);
-    }
-    void TearDown() override {
-        fs::current_path(fs::temp_directory_path());
-        fs::remove_all(root);
-    }
 };
 
 } // namespace dorva::test

@@ -1,5 +1,6 @@
 #include "pulpit.h"
 #include "stage/archiwum.h"
+#include "stage/zbior_etapow.h"
 
 #include <algorithm>
 

@@ -1,10 +1,12 @@
 // Every file call of every operation fails, and the power goes after every call. Whatever happens: each file holds its
 // old or its new bytes, what a file of the working set held before is in it or in a copy, nothing else is left over,
 // the work is on the screen or on the disk, and the next operation works.
+#include "desk_in_memory.h"
 #include "output/obraz_gry.h"
-#include "pulpit.h"
 #include "stage/archiwum.h"
+#include "stage/etap.h"
 #include "stage/kopie_ekranu.h"
+#include "stage/zbior_etapow.h"
 
 #include <iostream>
 

@@ -1,6 +1,8 @@
 #include "board/census.h"
 #include "board/plansza.h"
 #include "pulpit.h"
+#include "stage/etap.h"
+#include "stage/zbior_etapow.h"
 
 #include <utility>
 

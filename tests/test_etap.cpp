@@ -1,4 +1,6 @@
 #include "pulpit.h"
+#include "stage/etap.h"
+#include "stage/zbior_etapow.h"
 
 #include <utility>
 

@@ -1,9 +1,11 @@
 // What the editor replaces, it keeps: copies beside the files, and the slips of the hand that they undo.
+#include "desk_in_memory.h"
 #include "output/obraz_gry.h"
-#include "pulpit.h"
 #include "stage/archiwum.h"
+#include "stage/etap.h"
 #include "stage/kopie_ekranu.h"
 #include "stage/pola.h"
+#include "stage/zbior_etapow.h"
 #include "system/kopie.h"
 
 #include <array>

@@ -1,6 +1,8 @@
 #include "output/narzedzia.h"
 #include "output/obraz_gry.h"
 #include "pulpit.h"
+#include "stage/etap.h"
+#include "stage/zbior_etapow.h"
 
 #include <algorithm>
 #include <utility>

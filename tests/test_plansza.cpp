@@ -1,5 +1,6 @@
 #include "board/plansza.h"
 #include "pulpit.h"
+#include "stage/zbior_etapow.h"
 
 namespace dorva::test {
 namespace {

@@ -2,6 +2,7 @@
 #include "output/obraz_gry.h"
 #include "pulpit.h"
 #include "stage/archiwum.h"
+#include "stage/zbior_etapow.h"
 #include "tiles/kolory.h"
 
 #include <sys/stat.h>

@@ -3,6 +3,7 @@
 #include "pulpit.h"
 #include "stage/archiwum.h"
 #include "stage/pola.h"
+#include "stage/zbior_etapow.h"
 
 #include <stdexcept>
 #include <utility>

@@ -1,6 +1,8 @@
 // The worlds and stages as the build has made them, and the compiler that makes them.
 #include "etapy.h"
 #include "pulpit.h"
+#include "stage/etap.h"
+#include "stage/zbior_etapow.h"
 
 #include <algorithm>
 #include <set>

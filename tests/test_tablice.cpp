@@ -4,6 +4,7 @@
 #include "rows.h"
 #include "shell/komunikaty.h"
 #include "stage/archiwum.h"
+#include "stage/zbior_etapow.h"
 
 #include <algorithm>
 #include <array>

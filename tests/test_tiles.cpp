@@ -1,4 +1,5 @@
 #include "pulpit.h"
+#include "stage/etap.h"
 #include "tiles/kolory.h"
 #include "tiles/paleta.h"
 #include "tiles/zestaw.h"

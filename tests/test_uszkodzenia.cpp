@@ -1,5 +1,7 @@
 // Every damage of a stage file: each bit of it flipped, each length up to twice its own.
-#include "pulpit.h"
+#include "desk_in_memory.h"
+#include "stage/etap.h"
+#include "stage/zbior_etapow.h"
 
 namespace dorva::test {
 namespace {

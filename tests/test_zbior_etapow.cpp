@@ -1,6 +1,8 @@
 #include "output/obraz_gry.h"
 #include "pulpit.h"
 #include "stage/archiwum.h"
+#include "stage/etap.h"
+#include "stage/zbior_etapow.h"
 
 namespace dorva::test {
 namespace {
