@@ -113,7 +113,7 @@ summary_windows() { outcome 'PASSED|logic only|all well' "$1"; }
 
 # The sample game in the emulator, where there is one.
 play() {
-    if game_built; then scripts/play-check.sh; else echo 'skipped: the game is not built'; fi
+    if game_built; then scripts/play-check.py; else echo 'skipped: the game is not built'; fi
 }
 
 failed=0

@@ -22,7 +22,7 @@ NOWA_GRA  = 3
 
 .segment "ZEROPAGE"
 klatka:  .res 1         ; the frame that the tick began in
-spoznione: .res 1       ; ticks that took longer than their frame: none, and scripts/play-check.sh looks
+spoznione: .res 1       ; ticks that took longer than their frame: none, and scripts/play-check.py looks
 
 .segment "BSS"
 pierwszy_etap: .res 1   ; the stage that the player has chosen

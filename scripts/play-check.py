@@ -1,0 +1,307 @@
+#!/usr/bin/env python3
+"""play-check.py [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory.
+
+Says so and ends well where there is no emulator. --pictures also renews docs/obrazy/gra-*.png and etap-*.png (needs
+Xvfb and ImageMagick).
+"""
+import os
+import re
+import shutil
+import subprocess
+import sys
+from collections import defaultdict, namedtuple
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+from tempfile import TemporaryDirectory, mkdtemp
+
+os.chdir(Path(__file__).parent.parent)
+if not shutil.which("atari800"):
+    print("play-check: skipped, the emulator atari800 is not installed")
+    sys.exit()
+arguments = sys.argv[1:]
+with_pictures = arguments[:1] == ["--pictures"]
+build = Path((arguments[with_pictures:] or ["build/release"])[0]).absolute()
+data, game, game_maker = build / "data", build / "data/PLIKI/DP2.DTA", build / "game/tools/zloz_gre"
+if not game_maker.exists() or not game.exists():
+    sys.exit(f"play-check: no {game} or no {game_maker}; build all first")
+
+BOARD, DORVA = 800, 63
+address = {}  # of each label of the game
+for line in (build / "game/src/szablon.lbl").read_text().splitlines():
+    address.setdefault(line.split()[2][1:], int(line.split()[1], 16))
+field = {name: int(offset)  # where the fields of a stage record stand
+         for name, offset in re.findall(r"^ETAP_(\w+) *= *(\d+)", Path("game/src/rekord.inc").read_text(), re.M)}
+stages = {number: (data / f"ETAPY/DETAP.{number}").read_bytes() for number in range(1, 33)}
+temporary = TemporaryDirectory()
+
+def part(record, name, size):
+    return record[field[name]:field[name] + size]
+
+def patched(record, offset, new):
+    return record[:offset] + bytes(new) + record[offset + len(new):]
+
+# Input: a token is letters and a number of frames: L R U D stick, F trigger, T START, S SELECT, O OPTION, E the key
+# ESC, - nothing.
+TO_GAME = "-400 F10 -60"
+HASTE = f"{TO_GAME} R50 D50 L90 U50 F3 R200 D60 F3 L60 U300 F10 R60 E5"  # to and fro, and out
+
+def frames(token):
+    keys, count = re.fullmatch(r"(\D+)(\d+)", token).groups()
+    stick = 255 - ("U" in keys) - 2 * ("D" in keys) - 4 * ("L" in keys) - 8 * ("R" in keys)
+    console = 7 - ("T" in keys) - 2 * ("S" in keys) - 4 * ("O" in keys)
+    frame = [f"{28 if 'E' in keys else -1} 0 {console}", stick, 255, int("F" not in keys), 1, 1, 1, "00000000"]
+    return "".join(f"{line} \n" for line in frame) * int(count)
+
+def run_of(stage):
+    """The recorded run, its steps as taps of two frames in six. Its first move also ends the greeting, so it takes a
+    frame more than in the rules."""
+    steps = Path(f"tests/gra/przejscia/etap{stage}.txt").read_text().split("\n", 1)[1].split()
+    return "".join(f"{step[0]}2 -4 " * int(step[1:]) for step in steps).replace("2", "3", 1)
+
+# Commands to the emulator's monitor.
+label_at = {}  # where games were told to stop
+
+def until(label, go_on="CONT"):
+    label_at[address[label]] = label
+    return f"BPC {address[label]:X}\n{go_on}"
+
+def dump(label, size=1, number=""):
+    return f"WRITE {address[label]:X} {address[label] + size - 1:X} {label}{number}"
+
+def enter(stage): # where a game has stopped at graj_etap
+    return f"C {address['numer_etapu']:X} {stage:X}\nCONT {address['graj']:X}"
+
+Played = namedtuple("Played", "stops dumps log")  # where the game stopped, pieces of its memory, the monitor's words
+
+def play(file, tokens, commands, *machine, shown=False):
+    """Runs a game with recorded input: as fast as it goes, or shown at the pace of the real machine."""
+    folder = Path(mkdtemp(dir=temporary.name))
+    recording = "Atari800 event recording, version: 1\n10387\n" + "".join(map(frames, tokens.split()))
+    (folder / "input").write_text(recording)
+    (folder / "config").touch()
+    options = ["-config", "config", "-nobasic", "-xl-rev", "altirra", "-nosound", "-playback", "input", *machine]
+    environment = os.environ | {"SDL_AUDIODRIVER": "dummy"}
+    if not shown:
+        options += ["-turbo"]
+        environment["SDL_VIDEODRIVER"] = "dummy"
+    log = subprocess.run(["timeout", "300", "atari800", *options, "-run", file, "-monitor"], cwd=folder,
+                         env=environment, input="\n".join([*commands, "QUIT", ""]), text=True, errors="replace",
+                         stdout=subprocess.PIPE, stderr=subprocess.STDOUT).stdout
+    stops = [label_at[int(stop, 16)] for stop in re.findall(r"^\(breakpoint at (\w+)\)", log, re.M)]
+    return Played(stops, defaultdict(bytes, {path.name: path.read_bytes() for path in folder.iterdir()}), log)
+
+def test_build(record):
+    """A game as a test build makes it: the stage in the place of stage 1, marked as the last."""
+    folder = Path(mkdtemp(dir=temporary.name))
+    (folder / "etap").write_bytes(record)
+    texts = ["Żółty Atarowiec", "", "TEST ETAPU"]
+    subprocess.run([game_maker, game, folder / "test.xex", *texts, folder / "etap"], check=True)
+    return folder / "test.xex"
+
+def title_lines(file):
+    """The bytes that the three title lines of a game put on the text screen, from column 8 on."""
+    lines = []
+    for line in subprocess.check_output([game_maker, "--tytul", file], text=True).splitlines():
+        start, *text = map(int, line.split())
+        lines.append(patched(bytes(24), start, text[:text.index(155)] if 155 in text else text))
+    return lines
+
+def shown_lines(played):
+    return [played.dumps["ekran"][40 * row + 8:][:24] for row in (1, 3, 5)]
+
+# Each check yields what it looked at, what was there and what should be.
+
+def title():
+    played = play(game, TO_GAME, [until("wcisniete"), dump("ekran", 600)], "-xe")
+    yield "the title shows its three lines at their start columns", shown_lines(played), title_lines(game)
+
+def all_runs(system):
+    """The whole game in one go. Each stage waits for the stick, so the time in between may be ample."""
+    commands = []
+    for stage in stages:
+        commands += [until("graj_etap"), until("otworz"), dump("brak_masek", 1, stage),
+                     until("policz_premie"), dump("numer_etapu", 1, stage)]
+    tokens = " ".join([TO_GAME, *(f"{run_of(stage)} -200" for stage in stages)])
+    played = play(game, tokens, [*commands, until("ekran_wygranej")], "-xe", system)
+    yield (f"all stages are entered, their exits open, she goes through, to the last screen ({system})", played.stops,
+           ["graj_etap", "otworz", "policz_premie"] * 32 + ["ekran_wygranej"])
+    yield (f"each is the next one, and no mask is missing ({system})",
+           [(*played.dumps[f"numer_etapu{stage}"], *played.dumps[f"brak_masek{stage}"]) for stage in stages],
+           [(stage, 0) for stage in stages])
+
+def dying():
+    """She steps into a fire and stays there, three times."""
+    beside = stages[1].index(DORVA, field["PLANSZA"]) - 1
+    lives = (3, 2, 1)
+    commands = [command for n in lives for command in (until("graj_etap"), dump("zycia", 1, n))]
+    played = play(test_build(patched(stages[1], beside, [35, DORVA, 35])), f"{TO_GAME} R7 -300 R7 -300 R7 -400",
+                  [*commands, until("ekran_konca"), until("wcisniete")], "-xe")
+    yield "three tries, then the end of the game", played.stops, ["graj_etap"] * 3 + ["ekran_konca", "wcisniete"]
+    yield "a life is lost each time", b"".join(played.dumps[f"zycia{n}"] for n in lives), bytes(lives)
+
+def keys():
+    """Each key means the same in the greeting, in play and in a pause."""
+    for phase, before in ("greeting", "-60"), ("play", "R7 -20"), ("pause", "R7 O5 -20"):
+        for key, effect in ("E", "ekran_konca"), ("T", "nowa_gra"), ("S", "pokaz_strate"):
+            played = play(game, f"{TO_GAME} {before} {key}5 -30", [until("graj_etap"), until(effect)], "-xe")
+            yield f"key {key} in the {phase}", played.stops, ["graj_etap", effect]
+        played = play(game, f"{TO_GAME} {before} O5 -200 O5 R60 -100",
+                      [until("graj_etap"), until("info_powitanie"), dump("pauza")], "-xe")
+        yield (f"OPTION in the {phase}: a pause ends, and its word goes at once",
+               (played.stops, played.dumps["pauza"]), (["graj_etap", "info_powitanie"], bytes([0])))
+    played = play(game, f"{TO_GAME} R7 -20 S5 -150", [until("graj_etap"), until("graj_etap"), dump("zycia")], "-xe")
+    yield "SELECT costs a life", played.dumps["zycia"], bytes([2])
+
+def choice():
+    """The stage chosen on the title: held, the stick goes on choosing; the choice outlives a game."""
+    played = play(game, "-400 R120 -20 F10 -60 E5 -60 F10 -100",
+                  [until("graj_etap"), dump("numer_etapu"), until("ekran_konca"), until("tytul"), until("wcisniete"),
+                   dump("numer_etapu", 1, "again")], "-xe")
+    chosen = played.dumps["numer_etapu"]
+    yield "the held stick chooses on, from stage to stage", 3 < chosen[0] < 25, True
+    yield "the chosen stage stays chosen", played.dumps["numer_etapuagain"], chosen
+
+def overlay():
+    """In each world the two players lie over the heroine's cell and nowhere else."""
+    commands = [until("wcisniete"), f"BPC {address['graj_etap']:X}"]
+    for world in range(3):
+        first = min(stage for stage in stages if stages[stage][field["SWIAT"]] == world)
+        commands += [enter(first), "GTIA", "ANTIC", dump("gracz0", 512, world), dump("dorva_x", 1, world),
+                     dump("dorva_y", 1, world)]
+    played = play(game, "-9000", [*commands, dump("lista_planszy", 12)], "-xe")
+    # The board's first scan line: the picture begins at line 8, and the lines of the display list in front of it.
+    top, instructions = 8, iter(played.dumps["lista_planszy"])
+    while (instruction := next(instructions)) % 16 != 4:
+        if instruction % 16 == 0:
+            top += instruction // 16 % 8 + 1
+        else:
+            top += 8
+            next(instructions), next(instructions)
+    places = re.findall(r"HPOSP0=(..) *HPOSP1=(..)", played.log)
+    for world in range(3):
+        (x,), (y,) = played.dumps[f"dorva_x{world}"], played.dumps[f"dorva_y{world}"]
+        rows = sorted({i % 256 for i, pixels in enumerate(played.dumps[f"gracz0{world}"]) if pixels})
+        yield (f"world {world + 1}: the overlay lies on the rows of her cell", rows,
+               [*range(top + 8 * y, top + 8 * y + 8)])
+        yield "and in its column", places[world], (f"{48 + 4 * x:02X}",) * 2  # the board begins at colour clock 48
+    yield ("players are fetched, on each line, from their page",
+           {*re.findall(r"GRACTL=..|DMACTL=..|PMBASE=..", played.log)}, {"DMACTL=3A", "GRACTL=02", "PMBASE=B0"})
+
+def only_stage():
+    file = test_build(stages[2])
+    played = play(file, f"{TO_GAME} {run_of(2)} -300",
+                  [until("wcisniete"), dump("ekran", 600), until("ekran_wygranej")], "-xe")
+    yield "a test build shows its title lines", shown_lines(played), title_lines(file)
+    yield "its only stage is the last one", played.stops, ["wcisniete", "ekran_wygranej"]
+
+def all_stages():
+    commands = [until("wcisniete"), f"BPC {address['graj_etap']:X}"]
+    for stage in stages:
+        commands += [enter(stage), dump("plansza", BOARD, stage), dump("zestaw", 512, stage), dump("kolory", 12, stage),
+                     dump("linia_info", 40, stage)]
+    dumps = play(game, "-9000", commands, "-xe").dumps
+    for stage, record in stages.items():
+        tiles = (data / f"OBIEKTY/ORN_EXPORT/FNT{record[field['SWIAT']]}1.ORN.ND").read_bytes()
+        shown = [dumps[f"plansza{stage}"], dumps[f"zestaw{stage}"], dumps[f"kolory{stage}"],
+                 dumps[f"linia_info{stage}"][8:]]
+        yield (f"stage {stage} as it was painted: board, tiles, colours, greeting", shown,
+               [part(record, "PLANSZA", BOARD), tiles[:512], part(record, "KOLORY", 12), part(record, "NAZWA", 32)])
+
+def empty_board():
+    empty = part(stages[1], "PLANSZA", BOARD).replace(bytes([DORVA]), bytes([0]))
+    played = play(test_build(patched(stages[1], field["PLANSZA"], empty)), f"{TO_GAME} -100 F10 -100",
+                  [until("ekran_bez_dorvy"), until("rysuj_tytul")], "-xe")
+    yield "a board without a heroine: a word, then the title", played.stops, ["ekran_bez_dorvy", "rysuj_tytul"]
+
+def any_bytes():
+    """Stages of 931 bytes as they come, but for the heroine: the game lives and still takes ESC."""
+    for seed in 1, 2, 3:
+        x, record = seed, bytearray()
+        for _ in range(field["BAJTY"]):
+            x = x * 16807 % 2147483647
+            record.append(x // 128 % 256)
+        record[field["PLANSZA"] + 420] = DORVA
+        played = play(test_build(record), f"{HASTE} -300", [until("ekran_konca"), until("wcisniete")], "-xe")
+        yield f"any bytes are a stage ({seed})", played.stops, ["ekran_konca", "wcisniete"]
+
+def pace(system):
+    """Boards full of what takes longest: no tick may outlast its frame."""
+    for full in ([36, 37, 38, 39, 3, 0], [54, 14, 23, 24, 17], [18, 40, 41, 42, 24, 0], [24, 25, 35, 8, 1],
+                 [43, 44, 45, 46, 19, 20, 0], [55, 0]):
+        board = bytearray(full[(i * i + i * 7) % 31 % len(full)] for i in range(BOARD))
+        board[420] = DORVA
+        record = patched(patched(stages[1], field["PLANSZA"], board), field["CEL"], [99])
+        played = play(test_build(record), f"{HASTE} L200 E5 L200 E5 -300", [until("ekran_konca"), dump("spoznione")],
+                      "-xe", system)
+        yield (f"full frame rate on a board of tiles {full} ({system})", (played.stops, played.dumps["spoznione"]),
+               (["ekran_konca"], bytes([0])))
+
+def reset(basic):
+    played = play(game, f"{TO_GAME} {run_of(1)} -600",
+                  [until("start"), "WRITE 6A 6A top", until("graj_etap"), until("otworz"),
+                   until("rysuj_tytul", "WARMSTART"), until("wcisniete"), dump("ekran", 600)], "-xe", basic)
+    yield (f"RESET in the middle of a stage brings the title ({basic})", played.stops,
+           ["start", "graj_etap", "otworz", "rysuj_tytul", "wcisniete"])
+    yield "and the title is whole", shown_lines(played), title_lines(game)
+    yield "the system's screen stood behind all that is loaded", played.dumps["top"], bytes([0xC0])
+
+def machines():
+    for machine in "-320xe", "-rambo", "-576xe", "-1088xe":
+        played = play(game, f"{TO_GAME} -60", [until("wcisniete"), until("graj_etap"), dump("plansza", BOARD)], machine)
+        yield (f"stage 1 is there on a larger machine ({machine})", played.dumps["plansza"],
+               part(stages[1], "PLANSZA", BOARD))
+    yield "a machine of 64 KB is told what is missing", play(game, "-1000", [until("stoj")], "-xl").stops, ["stoj"]
+
+CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (overlay,), (only_stage,),
+          (all_stages,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
+          (reset, "-basic"), (machines,)]
+
+# Pictures for the documents.
+
+def look(name):
+    """Lets the game go on and takes a picture a second later."""
+    return f"!(sleep 1; import -window root -crop 672x480+0+0 +repage {temporary.name}/{name}.png) &"
+
+def keep(name):
+    subprocess.run(["convert", f"{temporary.name}/{name}.png", "+dither", "-colors", "64", "-strip", "-define",
+                    "png:exclude-chunks=date,time", f"PNG8:docs/obrazy/gra-{name}.png"], check=True)
+
+def renew_pictures():
+    for picture in Path("docs/obrazy").glob("etap-??.png"):  # boards as the editor shows them, in their stages' colours
+        stage = int(picture.stem[-2:])
+        board, art = f"{temporary.name}/board.bmp", f"game/art/swiat{stages[stage][field['SWIAT']] + 1}.txt"
+        subprocess.run([build / "game/tools/swiaty", "plansza", art, data / f"ETAPY/DETAP.{stage}", board], check=True)
+        subprocess.run(["convert", board, "-strip", f"PNG8:{picture}"], check=True)
+
+    reading, writing = os.pipe()
+    display = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-noreset", "-screen", "0", "1024x768x24"],
+                               pass_fds=[writing], stderr=subprocess.DEVNULL)
+    os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
+    machine = ["-xe", "-pal", "-win-width", "672", "-win-height", "480"]
+    play(game, f"{TO_GAME} {run_of(1)} -100 {run_of(2)} -400",
+         [until("wcisniete"), look("tytul"), until("graj"), until("otworz"), look("wyjscie"), until("policz_premie"),
+          until("graj_etap"), until("otworz"), until("policz_premie")], *machine, shown=True)
+    play(test_build(stages[2]), f"{TO_GAME} {run_of(2)} -400 F10 -60",
+         [until("ekran_wygranej"), look("wygrana"), until("rysuj_tytul")], *machine, shown=True)
+    commands = [until("wcisniete")]
+    for stage in stages:
+        commands += [f"BPC {address['graj_etap']:X}", enter(stage), look(f"etap{stage}"), until("takt")]
+    play(game, "R1 -99 " * 60, commands, *machine, shown=True)  # a move every two seconds ends each greeting
+    display.terminate()
+
+    for name in "tytul", "wyjscie", "wygrana", "etap8", "etap14", "etap24":
+        keep(name)
+    small = [f"{temporary.name}/etap{stage}.png" for stage in stages]
+    subprocess.run(["mogrify", "-sample", "50%", *small], check=True)
+    subprocess.run(["montage", *small, "-tile", "4x8", "-geometry", "+2+2", f"{temporary.name}/etapy.png"], check=True)
+    keep("etapy")
+
+wrong = 0
+with ThreadPoolExecutor(os.cpu_count()) as workers:
+    for results in workers.map(lambda check: [*check[0](*check[1:])], CHECKS):
+        for what, found, expected in results:
+            wrong += found != expected
+            print("ok: " + what if found == expected else f"FAILED: {what}: {found} instead of {expected}")
+if with_pictures:
+    renew_pictures()
+sys.exit(wrong > 0)
