@@ -13,7 +13,9 @@ foreach(biblioteka libgcc_s_seh-1 libstdc++-6 libwinpthread-1) # the compiler's 
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${biblioteka}.dll DESTINATION ${FOLDER})
 endforeach()
 
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/ ${DORVA_HOST_BUILD}/data/ DESTINATION ${FOLDER}/wzorzec)
+install(DIRECTORY ${DORVA_HOST_BUILD}/data/ DESTINATION ${FOLDER}/wzorzec)
+configure_file(DP3-windows.BAT DP3.BAT @ONLY NEWLINE_STYLE CRLF)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/DP3.BAT DESTINATION ${FOLDER}/wzorzec/PLIKI)
 foreach(katalog ETAPY PLIKI OBIEKTY)
     install(DIRECTORY DESTINATION ${FOLDER}/${katalog})
 endforeach()
