@@ -1,11 +1,6 @@
-# Nothing stands at a live place. The executable and the working set come in wzorzec/, and start.sh lays them out where
-# they are missing or unchanged.
-install(TARGETS planszownik RUNTIME DESTINATION ${FOLDER}/wzorzec)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/ ${DANE}/ DESTINATION ${FOLDER}/wzorzec/dane)
-install(PROGRAMS ${PROJECT_SOURCE_DIR}/scripts/uloz.sh DESTINATION ${FOLDER}/wzorzec)
-install(FILES planszownik.desktop DESTINATION ${FOLDER}/wzorzec)
-install(FILES ${PROJECT_SOURCE_DIR}/src/qt/zasoby/ikona128.png DESTINATION ${FOLDER}/wzorzec RENAME planszownik.png)
 install(PROGRAMS start.sh menu.sh DESTINATION ${FOLDER})
+install(FILES ${PROJECT_SOURCE_DIR}/src/qt/zasoby/ikona128.png DESTINATION ${FOLDER} RENAME planszownik.png)
+install(FILES ${PROJECT_SOURCE_DIR}/data/PLIKI/DP3.BAT DESTINATION ${FOLDER}/wzorzec/PLIKI)
 install(FILES CZYTAJ.txt DESTINATION ${FOLDER})
 
 # The pages.

@@ -2,18 +2,30 @@
 # Dodaje Planszownik do menu programów bieżącego użytkownika. Z opcją --usun: usuwa go stamtąd.
 set -eu
 cd "$(dirname "$0")"
-case ${1-} in '' | --usun) ;; *) echo "menu.sh: nie ma opcji $1; jest: --usun" >&2 && exit 2 ;; esac
-
 wpis=${XDG_DATA_HOME:-$HOME/.local/share}/applications/dorva-planszownik.desktop
-if [ "${1-}" = --usun ]; then
-    rm -f "$wpis"
-    exit
-fi
+case ${1-} in
+'') ;;
+--usun) rm -f "$wpis" && exit ;;
+*) echo "menu.sh: nie ma opcji $1; jest: --usun" >&2 && exit 2 ;;
+esac
+
 mkdir -p "$(dirname "$wpis")"
 # Two levels of quoting: in a desktop entry's string a backslash is doubled, in a quoted argument of Exec the
 # characters " ` $ \ take one, and % is doubled.
-w_napisie=$(printf %s "$PWD" | sed 's/\\/\\\\/g')
-w_exec=$(printf %s "$PWD" | sed 's/[\\"`$]/\\&/g; s/\\/\\\\/g; s/%/%%/g')
-wstaw() { printf %s "$1" | sed 's/[\\&|]/\\&/g'; } # as the right side of s|||
-sed "s|@EXEC@|$(wstaw "$w_exec")|; s|@FOLDER@|$(wstaw "$w_napisie")|" wzorzec/planszownik.desktop >"$wpis"
+napis=$(printf %s "$PWD" | sed 's/\\/\\\\/g')
+program=$(printf %s "$PWD" | sed 's/[\\"`$]/\\&/g; s/\\/\\\\/g; s/%/%%/g')
+cat >"$wpis" <<KONIEC
+[Desktop Entry]
+Type=Application
+Name=Dorva Planszownik
+GenericName=Edytor etapów
+Comment=Edytor etapów i budowniczy gry na Atari XL/XE
+Exec="$program/start.sh"
+Path=$napis
+Icon=$napis/planszownik.png
+Terminal=false
+Categories=Graphics;
+Keywords=Atari;gra;etapy;plansza;
+StartupWMClass=planszownik
+KONIEC
 echo "$wpis"

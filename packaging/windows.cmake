@@ -1,6 +1,4 @@
-# The program and its libraries stand at their places. The working set comes in wzorzec/, and the program itself lays it
-# out where it is missing or unchanged: a double click is all that a user does.
-install(TARGETS planszownik RUNTIME DESTINATION ${FOLDER})
+# The program's libraries, and what they want to be known.
 install(FILES $<TARGET_FILE:Qt6::Core> $<TARGET_FILE:Qt6::Gui> $<TARGET_FILE:Qt6::Widgets> DESTINATION ${FOLDER})
 install(FILES ${QT_WINDOWS}/plugins/platforms/qwindows.dll DESTINATION ${FOLDER}/platforms)
 install(FILES /usr/share/qt6/translations/qtbase_pl.qm DESTINATION ${FOLDER}/translations)
@@ -13,13 +11,8 @@ foreach(biblioteka libgcc_s_seh-1 libstdc++-6 libwinpthread-1) # the compiler's 
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${biblioteka}.dll DESTINATION ${FOLDER})
 endforeach()
 
-install(DIRECTORY ${DORVA_HOST_BUILD}/data/ DESTINATION ${FOLDER}/wzorzec)
 configure_file(DP3-windows.BAT DP3.BAT @ONLY NEWLINE_STYLE CRLF)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/DP3.BAT DESTINATION ${FOLDER}/wzorzec/PLIKI)
-foreach(katalog ETAPY PLIKI OBIEKTY)
-    install(DIRECTORY DESTINATION ${FOLDER}/${katalog})
-endforeach()
-
 configure_file(CZYTAJ-windows.txt CZYTAJ.txt @ONLY NEWLINE_STYLE CRLF)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/CZYTAJ.txt DESTINATION ${FOLDER})
 install(FILES ${QT_WINDOWS}/licences/LGPL-3.0-only.txt ${QT_WINDOWS}/licences/GPL-3.0-only.txt

@@ -2,26 +2,18 @@
 # docs-check.sh: repeats every "$ od ..." example of docs/formaty.md on freshly laid files, and looks for the target of
 # every relative link of the documents. --write: renews the examples instead.
 set -eu
+case $* in '' | --write) ;; *) echo "docs-check: no option $*; there is: --write" >&2 && exit 2 ;; esac
 
 cd "$(dirname "$0")/.."
-scripts/options.sh docs-check '--write' "$@"
-[ -d build/release/data ] || { echo "docs-check: nothing is built; run scripts/run.sh --no-start first"; exit 1; }
 room=$(mktemp -d)
 trap 'rm -rf "$room"' EXIT
-scripts/uloz.sh "$room/folder" - data build/release/data
+scripts/lay.sh build/release "$room/folder"
 
 # Every example is a block of its own: the command, then what it prints.
-while IFS= read -r line; do
-    case $line in
-    '$ od '*)
-        printf '%s\n' "$line"
-        (cd "$room/folder" && eval "${line#??}")
-        skip=1
-        ;;
-    '```'*) skip='' && printf '%s\n' "$line" ;;
-    *) [ -n "${skip-}" ] || printf '%s\n' "$line" ;;
-    esac
-done <docs/formaty.md >"$room/formaty.md"
+awk -v folder="$room/folder" '
+    /^\$ od / { print; fflush(); system("cd \"" folder "\" && " substr($0, 3)); printed = 1 }
+    /^```/ { printed = 0 }
+    !printed' docs/formaty.md >"$room/formaty.md"
 
 bad=0
 if [ "${1-}" = --write ]; then

@@ -1,7 +1,30 @@
 #!/bin/sh
-# lay.sh BUILD: lays the program folder planszownik/ of the checkout from a build.
+# lay.sh BUILD [FOLDER]: lays the program folder, planszownik/ of the checkout, from a build.
+# Title lines and stages belong to the user: they are laid where they are missing, the stages only as a whole. Everything
+# else is renewed where the build's file is newer and differs; what it replaces is kept under a number (NAME.~1~), the
+# executable excepted. A symbolic link is left alone. A copy gets its name last, so nothing is ever half there.
 set -eu
 
 cd "$(dirname "$0")/.."
-[ -d "${1-}/data" ] || { echo "lay: ${1:-no build}: build it first" >&2; exit 2; }
-scripts/uloz.sh planszownik "$1/src/qt/planszownik" data "$1/data"
+build=${1-} folder=${2-planszownik}
+[ -d "$build/data" ] || { echo "lay: ${build:-no build}: build it first" >&2; exit 2; }
+
+put() { # put FROM NAME [HOW_TO_RENAME]
+    mkdir -p "$(dirname "$folder/$2")"
+    rm -rf "$folder/$2.nowe"
+    cp -rp "$1" "$folder/$2.nowe"
+    mv -fT ${3:+"$3"} "$folder/$2.nowe" "$folder/$2"
+}
+missing() { [ ! -e "$folder/$1" ] && [ ! -L "$folder/$1" ]; }
+newer() { [ ! -L "$folder/$2" ] && [ -n "$(find "$1" -newer "$folder/$2")" ] && ! cmp -s "$1" "$folder/$2"; }
+
+for name in PLIKI/DP1.DTA ETAPY; do
+    ! missing $name || put "$build/data/$name" $name
+done
+for tree in data "$build/data"; do
+    (cd "$tree" && find . -path ./ETAPY -prune -o -type f ! -name DP1.DTA -print) | while read -r name; do
+        if missing "$name" || newer "$tree/$name" "$name"; then put "$tree/$name" "$name" --backup=numbered; fi
+    done
+done
+program=$build/src/qt/planszownik
+[ ! -x "$program" ] || [ -L "$folder/planszownik" ] || cmp -s "$program" "$folder/planszownik" || put "$program" planszownik

@@ -1,40 +1,19 @@
 #!/bin/bash
 # pictures.sh: takes docs/obrazy/okno*.png anew from the running program, through a stage painted as the guide's first
-# ten minutes tell. Needs the package (scripts/package.sh), Xvfb, openbox, xdotool and ImageMagick.
+# ten minutes tell. Needs a build, Xvfb, openbox, xdotool and ImageMagick.
 set -eu
 
 cd "$(dirname "$0")/.."
-scripts/options.sh pictures '' "$@"
-for tool in Xvfb openbox xdotool import convert; do
-    command -v $tool >/dev/null || { echo "pictures: $tool is missing" >&2; exit 1; }
-done
-pictures=$PWD/docs/obrazy
-archive=$(find build/release -maxdepth 1 -name 'dorva-planszownik-*.tar.gz' 2>/dev/null | sort | tail -n 1)
-[ -f "$archive" ] || { echo "pictures: no package; run scripts/package.sh first" >&2; exit 1; }
-archive=$(realpath "$archive")
-
 . scripts/display.sh
-editor='' room=''
 shop=/tmp/Planszownik # the path is in a picture
 mkdir "$shop"         # one that is there already is somebody else's
-finish() {
-    [ -z "$editor" ] || kill "$editor" 2>/dev/null || true
-    close_display
-    rm -rf "$room" "$shop"
-}
-trap finish EXIT
-room=$(mktemp -d)
-tar xzf "$archive" -C "$shop"
+trap 'finish; rm -rf "$shop"' EXIT
+scripts/lay.sh build/release "$shop/planszownik"
 
-open_display "$room" 1280 720
+open_display 1280 720
 export HOME="$room/dom"
 mkdir "$HOME"
-unset QT_QPA_PLATFORM
-open_manager
-sh "$shop/planszownik/start.sh" 2>/dev/null &
-editor=$!
-find_window
-sleep 1
+start "$shop/planszownik/planszownik" 2>/dev/null
 
 drag() { # from COLUMN ROW to COLUMN ROW
     point_cell "$1" "$2"
@@ -49,8 +28,7 @@ shot() { sleep 0.3; import -window "${2-$window}" "$room/$1.png"; }
 point 450 350
 shot okno
 press cmdCzysc # Tak
-xdotool key Tab Return
-sleep 0.4
+xdotool key Tab Return sleep 0.4
 slot 0 0 # NIC
 room_of 4 4 14 7
 room_of 22 10 34 14
@@ -70,18 +48,14 @@ press "optEtapNR(0)"
 point 450 350
 shot pierwszy-etap
 press cmdTest
-sleep 0.5
 shot pytanie root
-xdotool key Tab Return
-sleep 0.4
+xdotool key Tab Return sleep 0.4
 press "lblKolor(4)"
-sleep 0.5
 palette=$(xdotool search --name 'Paleta Atari' | head -n 1)
 xdotool mousemove --window "$palette" 95 215 mousemove_relative 1 0
 sleep 1.2
 shot paleta root
-xdotool mousemove --window "$palette" 100 316 click 1
-sleep 0.3
+xdotool mousemove --window "$palette" 100 316 click 1 sleep 0.3
 slot 10 0 && cell 20 16 # a door without a key, an odd object, no heroine
 slot 18 1 && cell 22 16
 slot 1 0 && cell 6 6
@@ -89,14 +63,11 @@ shot info
 press cmdCreate
 sleep 0.8
 shot zapis root
-xdotool key Escape
-sleep 0.4
-kill -TERM $editor
-wait $editor
-editor=''
+xdotool key Escape sleep 0.4
+close
 
 keep() { # keep SHOT NAME COLOURS [CROP]
-    convert "$room/$1.png" ${4:+-crop "$4" +repage} +dither -colors "$3" -strip "PNG8:$pictures/$2.png"
+    convert "$room/$1.png" ${4:+-crop "$4" +repage} +dither -colors "$3" -strip "PNG8:docs/obrazy/$2.png"
 }
 keep okno okno 96
 keep pierwszy-etap okno-pierwszy-etap 96
@@ -115,4 +86,3 @@ for place in 82,13 84,302 420,60 874,14 874,94 872,282 872,328 738,358 374,357 8
 done
 convert "$room/okno.png" -font src/qt/zasoby/czcionki/LiberationSans-Bold.ttf -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/opis.png"
 keep opis okno-opis 96
-ls -l "$pictures"/okno*.png

@@ -1,23 +1,15 @@
 #!/bin/sh
-# Builds Qt for Windows, once, from Debian's own source package and into the user's cache. Only what the window
+# windows-qt.sh FOLDER: builds Qt for Windows into it, once, from Debian's own source package. Only what the window
 # (core, gui, widgets) and its tests (testlib) need; shared libraries. Roughly an hour on two cores.
-# --where: only prints the folder, whether anything is in it or not.
 set -eu
-"$(dirname "$0")/options.sh" windows-qt '--where' "$@"
 
-version=6.4.2
-cache=${XDG_CACHE_HOME:-$HOME/.cache}/dorva-planszownik
-target=$cache/qt-windows-$version
-case ${1-} in
---where) echo "$target" && exit ;;
-esac
+target=$1
 [ ! -f "$target/ready" ] || exit 0
 
-work=$cache/qt-windows-build
+work=$target-build
 rm -rf "$work" "$target"
 mkdir -p "$work/lists/partial" "$work/archives/partial"
-as_root=
-[ "$(id -u)" = 0 ] || as_root=sudo
+as_root=$([ "$(id -u)" = 0 ] || echo sudo)
 
 # The source package comes from the mirror that this system uses, through a list of its own.
 $as_root apt-get update -qq
@@ -31,7 +23,7 @@ cd "$work"
 apt-get $own_list update -qq
 # shellcheck disable=SC2086
 apt-get $own_list source -qq qt6-base/bookworm
-source=$(echo qt6-base-$version*/)
+source=$(echo qt6-base-*/)
 
 # directwrite can't be linked without direct2d; letters are drawn by freetype.
 off=
@@ -56,6 +48,6 @@ cmake --build build -j2
 cmake --install build --strip
 mkdir -p "$target/licences"
 cp "$source"/LICENSES/* "$source/debian/copyright" "$target/licences/"
-cd "$cache"
+cd /
 rm -rf "$work"
 touch "$target/ready"

@@ -1,20 +1,17 @@
 #!/bin/sh
 # The Windows version, made on Debian 12: build/windows/dorva-planszownik-<version>-windows-x64.zip. Installs the tools,
 # builds Qt once into the user's cache (windows-qt.sh: roughly an hour), then the program.
-# --tests: only the logic's tests, under Wine; they need no Qt.
-# --check: makes the zip, then runs the logic's tests, the window's tests and the program from the zip under Wine.
-# --have-qt: only tells by its status whether Qt is there.
+# --check: the logic's tests under Wine; where that Qt is there, also the zip, and all that Wine shows of it.
 set -eu
+case $* in '' | --check) ;; *) echo "windows: no option $*; there is: --check" >&2 && exit 2 ;; esac
 
 cd "$(dirname "$0")/.."
-scripts/options.sh windows '--tests --check --have-qt' "$@"
-qt=$(scripts/windows-qt.sh --where)
 build=build/windows
-case ${1-} in --have-qt) [ -f "$qt/ready" ] && exit || exit 1 ;; esac
-
-scripts/setup.sh --windows
+export QT_WINDOWS="${XDG_CACHE_HOME:-$HOME/.cache}/dorva-planszownik/qt-windows-6.4.2"
+scripts/setup.sh build g++-mingw-w64-x86-64-posix googletest qt6-base-dev-tools dpkg-dev perl python3 \
+    wine wine64 xvfb openbox xdotool x11-xkb-utils imagemagick unzip
 for tool in x86_64-w64-mingw32-g++-posix wine cmake; do
-    command -v $tool >/dev/null || { echo "windows: skipped: $tool can't be installed here"; exit 0; }
+    command -v $tool >/dev/null || { echo "windows: skipped: $tool can't be installed here" && exit; }
 done
 
 # Wine for tests: a folder of its own, no window of its own, no word but the program's.
@@ -23,33 +20,16 @@ libraries=$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)
 trap 'wineserver -k 2>/dev/null || true' EXIT # nothing of it goes on running
 export WINEPATH="${libraries%/*};/usr/x86_64-w64-mingw32/lib"
 
-logic_tests() {
-    cmake --preset windows -DQT_WINDOWS="$qt"
+if [ $# = 0 ]; then
+    scripts/windows-qt.sh "$QT_WINDOWS"
+else
+    cmake --preset windows -DQT_WINDOWS="$QT_WINDOWS"
     cmake --build --preset windows --target dorva_tests
     timeout 600 wine $build/tests/dorva_tests.exe --gtest_brief
-}
-
-make_zip() {
-    scripts/run.sh --no-start
-    cmake --build --preset release --target strony
-    cmake --preset windows -DQT_WINDOWS="$qt"
-    cmake --build --preset windows
-    (cd $build && cpack)
-}
-
-case ${1-} in
---tests)
-    logic_tests
-    [ -f "$qt/ready" ] || echo "the logic only: there is no Qt for Windows in the cache; scripts/windows.sh builds it"
-    ;;
---check)
-    scripts/windows-qt.sh
-    make_zip
-    logic_tests
-    scripts/windows-check.sh
-    ;;
-*)
-    scripts/windows-qt.sh
-    make_zip
-    ;;
-esac
+    [ -f "$QT_WINDOWS/ready" ] || { echo "the logic only: there is no Qt for Windows yet; scripts/windows.sh builds it" && exit; }
+fi
+scripts/run.sh --no-start
+cmake --build --preset release --target strony
+cmake --preset windows -DQT_WINDOWS="$QT_WINDOWS"
+cmake --build --preset windows --target package
+[ $# = 0 ] || { scripts/package-check.sh $build/dorva-planszownik-*.zip && scripts/windows-check.sh; }

@@ -1,11 +1,18 @@
 #include "qt/aplikacja.h"
 
 #include "qt/czcionki.h"
+#include "qt/przeklad.h"
+#include "qt/rozmowy.h"
+#include "system/wzorzec.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLibraryInfo>
+#include <QLockFile>
 #include <QSettings>
 #include <QTranslator>
+
+#include <system_error>
 
 static void initResources() {
     Q_INIT_RESOURCE(czcionki); // they lie in a static library
@@ -23,6 +30,24 @@ void setUpApplication(QApplication& application) {
     auto* polish = new QTranslator(&application);
     if (polish->load("qtbase_pl", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(polish);
+}
+
+bool prepareFolder(const std::filesystem::path& folder) {
+    constexpr int PATIENCE_MS = 10000;
+    QLockFile turn(nameOfPath(folder / "wzorzec" / "kolej")); // two first starts at once would mix their copies
+    (void)turn.tryLock(PATIENCE_MS);                          // without a right to write there is nothing to mix
+    const std::error_code error = layOut(folder);
+    if (!error)
+        return true;
+    const QString why = error == std::errc::no_space_on_device
+                            ? "Dysk jest pełny. Zrób miejsce i uruchom program znowu."
+                        : error == std::errc::permission_denied || error == std::errc::read_only_file_system
+                            ? "Brak prawa do zapisu. Przenieś cały folder tam, gdzie możesz tworzyć pliki."
+                            : QString::fromLocal8Bit(error.message());
+    const QString text =
+        "Nie udało się ułożyć plików w folderze\n" + QDir::toNativeSeparators(nameOfPath(folder)) + "\n" + why;
+    (void)showMessageBox(nullptr, {"Dorva Planszownik", text.toStdString(), Ikona::Warning, Przyciski::Ok});
+    return false;
 }
 
 } // namespace dorva

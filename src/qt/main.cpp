@@ -72,7 +72,8 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(ownIcon());
 
     const auto folder = ownFolder();
-    dorva::prepareFolder(folder);
+    if (!dorva::prepareFolder(folder))
+        return EXIT_FAILURE;
     dorva::Edytor edytor;
     dorva::OknoGlowne okno(edytor);
     dorva::Form_Load(edytor, folder, DORVA_VERSION);

@@ -5,7 +5,6 @@
 #include <QWidget>
 
 #include <csignal>
-#include <filesystem>
 
 #include <sys/socket.h>
 #include <unistd.h>
@@ -22,9 +21,6 @@ void onSignal(int) {
 }
 
 } // namespace
-
-// What starts the program has done it: start.sh of the package, run.sh of the sources.
-void prepareFolder(const std::filesystem::path&) {}
 
 // What it would like to keep goes to /dev/null (setUpApplication).
 void endFileDialog(QFileDialog* dialog) {

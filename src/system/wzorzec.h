@@ -1,18 +1,15 @@
-// The working set as it was delivered, and how it comes to its place.
+// The delivered set, and how what a user works on comes to its place.
 #pragma once
 
 #include <filesystem>
-#include <vector>
+#include <system_error>
 
 namespace dorva {
 
-struct SystemCalls;
-
-// Lays out the files of `wzorzec` in `folder`, which may hold an older version that someone has worked with. A file
-// that is missing or empty there, or still exactly as an earlier run laid it, is put in; one that was changed since is
-// its owner's and stays, and so does a symbolic link where the system tells one. What was laid is on record in
-// `folder`. The names of what couldn't be read, put in or recorded; a later run tries again.
-[[nodiscard]] std::vector<std::filesystem::path> layOut(const SystemCalls&, const std::filesystem::path& wzorzec,
-                                                        const std::filesystem::path& folder);
+// Copies from `folder`/wzorzec into `folder` what belongs to the user or may be changed: the title lines, the stages,
+// the launcher, the palette and the tile sets, each only where nothing of its name stands, and a folder only as a
+// whole. A copy gets its name last, so a run that breaks off leaves no half. The first error; the rest is laid all the
+// same.
+[[nodiscard]] std::error_code layOut(const std::filesystem::path& folder);
 
 } // namespace dorva
