@@ -1,9 +1,7 @@
 #!/usr/bin/env python3
-"""play-check.py [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory.
-
-Says so and ends well where there is no emulator. --pictures also renews docs/obrazy/gra-*.png and etap-*.png (needs
-Xvfb and ImageMagick).
-"""
+"""play-check.py [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory. Says so
+and ends well where there is no emulator. --pictures: also renews docs/obrazy/gra-*.png and etap-*.png (needs Xvfb and
+ImageMagick)."""
 import os
 import re
 import shutil
@@ -36,7 +34,6 @@ temporary = TemporaryDirectory()
 
 def part(record, name, size):
     return record[field[name]:field[name] + size]
-
 def patched(record, offset, new):
     return record[:offset] + bytes(new) + record[offset + len(new):]
 
@@ -58,7 +55,7 @@ def run_of(stage):
     steps = Path(f"tests/gra/przejscia/etap{stage}.txt").read_text().split("\n", 1)[1].split()
     return "".join(f"{step[0]}2 -4 " * int(step[1:]) for step in steps).replace("2", "3", 1)
 
-# Commands to the emulator's monitor.
+# Commands to the emulator's monitor; a label stands for going on until the game comes there.
 label_at = {}  # where games were told to stop
 
 def until(label, go_on="CONT"):
@@ -68,24 +65,25 @@ def until(label, go_on="CONT"):
 def dump(label, size=1, number=""):
     return f"WRITE {address[label]:X} {address[label] + size - 1:X} {label}{number}"
 
-def enter(stage): # where a game has stopped at graj_etap
+def enter(stage):  # where a game has stopped at graj_etap
     return f"C {address['numer_etapu']:X} {stage:X}\nCONT {address['graj']:X}"
 
 Played = namedtuple("Played", "stops dumps log")  # where the game stopped, pieces of its memory, the monitor's words
 
 def play(file, tokens, commands, *machine, shown=False):
-    """Runs a game with recorded input: as fast as it goes, or shown at the pace of the real machine."""
+    """Runs a game with recorded input, on a 130XE unless another is given: as fast as it goes, or shown."""
     folder = Path(mkdtemp(dir=temporary.name))
     recording = "Atari800 event recording, version: 1\n10387\n" + "".join(map(frames, tokens.split()))
     (folder / "input").write_text(recording)
     (folder / "config").touch()
-    options = ["-config", "config", "-nobasic", "-xl-rev", "altirra", "-nosound", "-playback", "input", *machine]
+    options = ["-config", "config", "-nobasic", "-xl-rev", "altirra", "-nosound", "-playback", "input", "-xe", *machine]
     environment = os.environ | {"SDL_AUDIODRIVER": "dummy"}
     if not shown:
         options += ["-turbo"]
         environment["SDL_VIDEODRIVER"] = "dummy"
+    words = [until(command) if command in address else command for command in commands]
     log = subprocess.run(["timeout", "300", "atari800", *options, "-run", file, "-monitor"], cwd=folder,
-                         env=environment, input="\n".join([*commands, "QUIT", ""]), text=True, errors="replace",
+                         env=environment, input="\n".join([*words, "QUIT", ""]), text=True, errors="replace",
                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT).stdout
     stops = [label_at[int(stop, 16)] for stop in re.findall(r"^\(breakpoint at (\w+)\)", log, re.M)]
     return Played(stops, defaultdict(bytes, {path.name: path.read_bytes() for path in folder.iterdir()}), log)
@@ -112,17 +110,17 @@ def shown_lines(played):
 # Each check yields what it looked at, what was there and what should be.
 
 def title():
-    played = play(game, TO_GAME, [until("wcisniete"), dump("ekran", 600)], "-xe")
+    played = play(game, TO_GAME, ["wcisniete", dump("ekran", 600)])
     yield "the title shows its three lines at their start columns", shown_lines(played), title_lines(game)
 
 def all_runs(system):
     """The whole game in one go. Each stage waits for the stick, so the time in between may be ample."""
     commands = []
     for stage in stages:
-        commands += [until("graj_etap"), until("otworz"), dump("brak_masek", 1, stage),
-                     until("policz_premie"), dump("numer_etapu", 1, stage)]
+        commands += ["graj_etap", "otworz", dump("brak_masek", 1, stage), "policz_premie",
+                     dump("numer_etapu", 1, stage)]
     tokens = " ".join([TO_GAME, *(f"{run_of(stage)} -200" for stage in stages)])
-    played = play(game, tokens, [*commands, until("ekran_wygranej")], "-xe", system)
+    played = play(game, tokens, [*commands, "ekran_wygranej"], system)
     yield (f"all stages are entered, their exits open, she goes through, to the last screen ({system})", played.stops,
            ["graj_etap", "otworz", "policz_premie"] * 32 + ["ekran_wygranej"])
     yield (f"each is the next one, and no mask is missing ({system})",
@@ -132,43 +130,40 @@ def all_runs(system):
 def dying():
     """She steps into a fire and stays there, three times."""
     beside = stages[1].index(DORVA, field["PLANSZA"]) - 1
-    lives = (3, 2, 1)
-    commands = [command for n in lives for command in (until("graj_etap"), dump("zycia", 1, n))]
+    commands = [command for lives in (3, 2, 1) for command in ("graj_etap", dump("zycia", 1, lives))]
     played = play(test_build(patched(stages[1], beside, [35, DORVA, 35])), f"{TO_GAME} R7 -300 R7 -300 R7 -400",
-                  [*commands, until("ekran_konca"), until("wcisniete")], "-xe")
+                  [*commands, "ekran_konca", "wcisniete"])
     yield "three tries, then the end of the game", played.stops, ["graj_etap"] * 3 + ["ekran_konca", "wcisniete"]
-    yield "a life is lost each time", b"".join(played.dumps[f"zycia{n}"] for n in lives), bytes(lives)
+    yield "a life is lost each time", [*map(played.dumps.get, ("zycia3", "zycia2", "zycia1"))], [b"\3", b"\2", b"\1"]
 
 def keys():
     """Each key means the same in the greeting, in play and in a pause."""
     for phase, before in ("greeting", "-60"), ("play", "R7 -20"), ("pause", "R7 O5 -20"):
         for key, effect in ("E", "ekran_konca"), ("T", "nowa_gra"), ("S", "pokaz_strate"):
-            played = play(game, f"{TO_GAME} {before} {key}5 -30", [until("graj_etap"), until(effect)], "-xe")
+            played = play(game, f"{TO_GAME} {before} {key}5 -30", ["graj_etap", effect])
             yield f"key {key} in the {phase}", played.stops, ["graj_etap", effect]
-        played = play(game, f"{TO_GAME} {before} O5 -200 O5 R60 -100",
-                      [until("graj_etap"), until("info_powitanie"), dump("pauza")], "-xe")
+        played = play(game, f"{TO_GAME} {before} O5 -200 O5 R60 -100", ["graj_etap", "info_powitanie", dump("pauza")])
         yield (f"OPTION in the {phase}: a pause ends, and its word goes at once",
                (played.stops, played.dumps["pauza"]), (["graj_etap", "info_powitanie"], bytes([0])))
-    played = play(game, f"{TO_GAME} R7 -20 S5 -150", [until("graj_etap"), until("graj_etap"), dump("zycia")], "-xe")
+    played = play(game, f"{TO_GAME} R7 -20 S5 -150", ["graj_etap", "graj_etap", dump("zycia")])
     yield "SELECT costs a life", played.dumps["zycia"], bytes([2])
 
 def choice():
     """The stage chosen on the title: held, the stick goes on choosing; the choice outlives a game."""
     played = play(game, "-400 R120 -20 F10 -60 E5 -60 F10 -100",
-                  [until("graj_etap"), dump("numer_etapu"), until("ekran_konca"), until("tytul"), until("wcisniete"),
-                   dump("numer_etapu", 1, "again")], "-xe")
+                  ["graj_etap", dump("numer_etapu"), "ekran_konca", "tytul", "wcisniete", dump("numer_etapu", 1, "2")])
     chosen = played.dumps["numer_etapu"]
     yield "the held stick chooses on, from stage to stage", 3 < chosen[0] < 25, True
-    yield "the chosen stage stays chosen", played.dumps["numer_etapuagain"], chosen
+    yield "the chosen stage stays chosen", played.dumps["numer_etapu2"], chosen
 
 def overlay():
     """In each world the two players lie over the heroine's cell and nowhere else."""
-    commands = [until("wcisniete"), f"BPC {address['graj_etap']:X}"]
+    commands = ["wcisniete", f"BPC {address['graj_etap']:X}"]
     for world in range(3):
         first = min(stage for stage in stages if stages[stage][field["SWIAT"]] == world)
         commands += [enter(first), "GTIA", "ANTIC", dump("gracz0", 512, world), dump("dorva_x", 1, world),
                      dump("dorva_y", 1, world)]
-    played = play(game, "-9000", [*commands, dump("lista_planszy", 12)], "-xe")
+    played = play(game, "-9000", [*commands, dump("lista_planszy", 12)])
     # The board's first scan line: the picture begins at line 8, and the lines of the display list in front of it.
     top, instructions = 8, iter(played.dumps["lista_planszy"])
     while (instruction := next(instructions)) % 16 != 4:
@@ -181,36 +176,34 @@ def overlay():
     for world in range(3):
         (x,), (y,) = played.dumps[f"dorva_x{world}"], played.dumps[f"dorva_y{world}"]
         rows = sorted({i % 256 for i, pixels in enumerate(played.dumps[f"gracz0{world}"]) if pixels})
-        yield (f"world {world + 1}: the overlay lies on the rows of her cell", rows,
-               [*range(top + 8 * y, top + 8 * y + 8)])
+        cell = [*range(top + 8 * y, top + 8 * y + 8)]
+        yield f"world {world + 1}: the overlay lies on the rows of her cell", rows, cell
         yield "and in its column", places[world], (f"{48 + 4 * x:02X}",) * 2  # the board begins at colour clock 48
     yield ("players are fetched, on each line, from their page",
            {*re.findall(r"GRACTL=..|DMACTL=..|PMBASE=..", played.log)}, {"DMACTL=3A", "GRACTL=02", "PMBASE=B0"})
 
 def only_stage():
     file = test_build(stages[2])
-    played = play(file, f"{TO_GAME} {run_of(2)} -300",
-                  [until("wcisniete"), dump("ekran", 600), until("ekran_wygranej")], "-xe")
+    played = play(file, f"{TO_GAME} {run_of(2)} -300", ["wcisniete", dump("ekran", 600), "ekran_wygranej"])
     yield "a test build shows its title lines", shown_lines(played), title_lines(file)
     yield "its only stage is the last one", played.stops, ["wcisniete", "ekran_wygranej"]
 
 def all_stages():
-    commands = [until("wcisniete"), f"BPC {address['graj_etap']:X}"]
+    commands = ["wcisniete", f"BPC {address['graj_etap']:X}"]
     for stage in stages:
-        commands += [enter(stage), dump("plansza", BOARD, stage), dump("zestaw", 512, stage), dump("kolory", 12, stage),
-                     dump("linia_info", 40, stage)]
-    dumps = play(game, "-9000", commands, "-xe").dumps
+        commands += [enter(stage), dump("plansza", BOARD, stage), dump("zestaw", 512, stage),
+                     dump("kolory", 12, stage), dump("linia_info", 40, stage)]
+    dumps = play(game, "-9000", commands).dumps
     for stage, record in stages.items():
         tiles = (data / f"OBIEKTY/ORN_EXPORT/FNT{record[field['SWIAT']]}1.ORN.ND").read_bytes()
-        shown = [dumps[f"plansza{stage}"], dumps[f"zestaw{stage}"], dumps[f"kolory{stage}"],
-                 dumps[f"linia_info{stage}"][8:]]
-        yield (f"stage {stage} as it was painted: board, tiles, colours, greeting", shown,
+        shown = [dumps[f"{label}{stage}"] for label in ("plansza", "zestaw", "kolory", "linia_info")]
+        yield (f"stage {stage} as it was painted: board, tiles, colours, greeting", [*shown[:3], shown[3][8:]],
                [part(record, "PLANSZA", BOARD), tiles[:512], part(record, "KOLORY", 12), part(record, "NAZWA", 32)])
 
 def empty_board():
     empty = part(stages[1], "PLANSZA", BOARD).replace(bytes([DORVA]), bytes([0]))
     played = play(test_build(patched(stages[1], field["PLANSZA"], empty)), f"{TO_GAME} -100 F10 -100",
-                  [until("ekran_bez_dorvy"), until("rysuj_tytul")], "-xe")
+                  ["ekran_bez_dorvy", "rysuj_tytul"])
     yield "a board without a heroine: a word, then the title", played.stops, ["ekran_bez_dorvy", "rysuj_tytul"]
 
 def any_bytes():
@@ -221,7 +214,7 @@ def any_bytes():
             x = x * 16807 % 2147483647
             record.append(x // 128 % 256)
         record[field["PLANSZA"] + 420] = DORVA
-        played = play(test_build(record), f"{HASTE} -300", [until("ekran_konca"), until("wcisniete")], "-xe")
+        played = play(test_build(record), f"{HASTE} -300", ["ekran_konca", "wcisniete"])
         yield f"any bytes are a stage ({seed})", played.stops, ["ekran_konca", "wcisniete"]
 
 def pace(system):
@@ -231,15 +224,14 @@ def pace(system):
         board = bytearray(full[(i * i + i * 7) % 31 % len(full)] for i in range(BOARD))
         board[420] = DORVA
         record = patched(patched(stages[1], field["PLANSZA"], board), field["CEL"], [99])
-        played = play(test_build(record), f"{HASTE} L200 E5 L200 E5 -300", [until("ekran_konca"), dump("spoznione")],
-                      "-xe", system)
+        played = play(test_build(record), f"{HASTE} L200 E5 L200 E5 -300", ["ekran_konca", dump("spoznione")], system)
         yield (f"full frame rate on a board of tiles {full} ({system})", (played.stops, played.dumps["spoznione"]),
                (["ekran_konca"], bytes([0])))
 
 def reset(basic):
-    played = play(game, f"{TO_GAME} {run_of(1)} -600",
-                  [until("start"), "WRITE 6A 6A top", until("graj_etap"), until("otworz"),
-                   until("rysuj_tytul", "WARMSTART"), until("wcisniete"), dump("ekran", 600)], "-xe", basic)
+    to_title = until("rysuj_tytul", "WARMSTART")
+    played = play(game, f"{TO_GAME} {run_of(1)} -600", ["start", "WRITE 6A 6A top", "graj_etap", "otworz", to_title,
+                                                       "wcisniete", dump("ekran", 600)], basic)
     yield (f"RESET in the middle of a stage brings the title ({basic})", played.stops,
            ["start", "graj_etap", "otworz", "rysuj_tytul", "wcisniete"])
     yield "and the title is whole", shown_lines(played), title_lines(game)
@@ -247,10 +239,10 @@ def reset(basic):
 
 def machines():
     for machine in "-320xe", "-rambo", "-576xe", "-1088xe":
-        played = play(game, f"{TO_GAME} -60", [until("wcisniete"), until("graj_etap"), dump("plansza", BOARD)], machine)
+        played = play(game, f"{TO_GAME} -60", ["wcisniete", "graj_etap", dump("plansza", BOARD)], machine)
         yield (f"stage 1 is there on a larger machine ({machine})", played.dumps["plansza"],
                part(stages[1], "PLANSZA", BOARD))
-    yield "a machine of 64 KB is told what is missing", play(game, "-1000", [until("stoj")], "-xl").stops, ["stoj"]
+    yield "a machine of 64 KB is told what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
 
 CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (overlay,), (only_stage,),
           (all_stages,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
@@ -262,9 +254,10 @@ def look(name):
     """Lets the game go on and takes a picture a second later."""
     return f"!(sleep 1; import -window root -crop 672x480+0+0 +repage {temporary.name}/{name}.png) &"
 
-def keep(name):
-    subprocess.run(["convert", f"{temporary.name}/{name}.png", "+dither", "-colors", "64", "-strip", "-define",
-                    "png:exclude-chunks=date,time", f"PNG8:docs/obrazy/gra-{name}.png"], check=True)
+def keep(*names):
+    for name in names:
+        subprocess.run(["convert", f"{temporary.name}/{name}.png", "+dither", "-colors", "64", "-strip", "-define",
+                        "png:exclude-chunks=date,time", f"PNG8:docs/obrazy/gra-{name}.png"], check=True)
 
 def renew_pictures():
     for picture in Path("docs/obrazy").glob("etap-??.png"):  # boards as the editor shows them, in their stages' colours
@@ -272,25 +265,22 @@ def renew_pictures():
         board, art = f"{temporary.name}/board.bmp", f"game/art/swiat{stages[stage][field['SWIAT']] + 1}.txt"
         subprocess.run([build / "game/tools/swiaty", "plansza", art, data / f"ETAPY/DETAP.{stage}", board], check=True)
         subprocess.run(["convert", board, "-strip", f"PNG8:{picture}"], check=True)
-
     reading, writing = os.pipe()
     display = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-noreset", "-screen", "0", "1024x768x24"],
                                pass_fds=[writing], stderr=subprocess.DEVNULL)
     os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
-    machine = ["-xe", "-pal", "-win-width", "672", "-win-height", "480"]
+    machine = ["-pal", "-win-width", "672", "-win-height", "480"]
     play(game, f"{TO_GAME} {run_of(1)} -100 {run_of(2)} -400",
-         [until("wcisniete"), look("tytul"), until("graj"), until("otworz"), look("wyjscie"), until("policz_premie"),
-          until("graj_etap"), until("otworz"), until("policz_premie")], *machine, shown=True)
+         ["wcisniete", look("tytul"), "graj", "otworz", look("wyjscie"), "policz_premie", "graj_etap", "otworz",
+          "policz_premie"], *machine, shown=True)
     play(test_build(stages[2]), f"{TO_GAME} {run_of(2)} -400 F10 -60",
-         [until("ekran_wygranej"), look("wygrana"), until("rysuj_tytul")], *machine, shown=True)
-    commands = [until("wcisniete")]
+         ["ekran_wygranej", look("wygrana"), "rysuj_tytul"], *machine, shown=True)
+    commands = ["wcisniete"]
     for stage in stages:
-        commands += [f"BPC {address['graj_etap']:X}", enter(stage), look(f"etap{stage}"), until("takt")]
+        commands += [f"BPC {address['graj_etap']:X}", enter(stage), look(f"etap{stage}"), "takt"]
     play(game, "R1 -99 " * 60, commands, *machine, shown=True)  # a move every two seconds ends each greeting
     display.terminate()
-
-    for name in "tytul", "wyjscie", "wygrana", "etap8", "etap14", "etap24":
-        keep(name)
+    keep("tytul", "wyjscie", "wygrana", "etap8", "etap14", "etap24")
     small = [f"{temporary.name}/etap{stage}.png" for stage in stages]
     subprocess.run(["mogrify", "-sample", "50%", *small], check=True)
     subprocess.run(["montage", *small, "-tile", "4x8", "-geometry", "+2+2", f"{temporary.name}/etapy.png"], check=True)
