@@ -3,50 +3,36 @@
 # Benchmarks X and XPlain take turns; the medians of their repetitions are compared. Times in microseconds.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-scripts/options.sh bench '' "$@"
-scripts/setup.sh --tests
+scripts/setup.sh build tests python3 valgrind
 cmake --preset release >/dev/null
 cmake --build --preset release >/dev/null
 scripts/lay.sh build/release
 export QT_LOGGING_RULES='*=false' TMPDIR=${TMPDIR:-/var/tmp} # a disk, where flushing counts
 bench=build/release/bench
+results=$(mktemp)
+trap 'rm "$results"' EXIT
 
-row() { printf '%-28s %12s %12s %7s  %s\n' "$@"; }
-
-runAll() { # runAll PROGRAM: name, median, then counters, as CSV
+compare() { # compare PROGRAM [FIGURE=AIM...]
     "$1" --benchmark_repetitions=15 --benchmark_min_time=0.05 --benchmark_enable_random_interleaving=true \
-        --benchmark_report_aggregates_only=true --benchmark_format=csv 2>/dev/null
-}
-
-# Pairs X and XPlain of a CSV, with the aims told as "X=1.3 Y=3".
-pairs() { # pairs AIMS
-    awk -F, -v aims="$1" '
-        BEGIN { count = split(aims, list, " "); for (i = 1; i <= count; ++i) { split(list[i], a, "="); aim[a[1]] = a[2] } }
-        $1 ~ /^"?name"?$/ { for (i = 1; i <= NF; ++i) { gsub(/"/, "", $i); column[$i] = i } }
-        /_median"/ {
-            name = $1; gsub(/^"BM_|(\/[a-z_]*)?_median"$/, "", name)
-            scale = $5 ~ /ns/ ? 1000 : $5 ~ /us/ ? 1 : 0.001
-            value[name] = $3 / scale; order[++n] = name
-            if ("p99_us" in column && $column["p99_us"] != "") {
-                value[name] = $column["median_us"]
-                p99 = name; plain = sub(/Plain$/, "", p99)
-                p99 = p99 ", 99th percent" (plain ? "Plain" : "")
-                value[p99] = $column["p99_us"]; order[++n] = p99
-            }
-        }
-        END {
-            for (i = 1; i <= n; ++i) {
-                name = order[i]; plain = name "Plain"
-                if (plain in value)
-                    printf "%-28s %12.2f %12.2f %7.2f  %s\n", name, value[name], value[plain], value[name] / value[plain], aim[name]
-            }
-        }'
+        --benchmark_report_aggregates_only=true --benchmark_format=json >"$results" 2>/dev/null
+    python3 - "$results" "${@:2}" <<'END'
+import json, re, sys
+aims = dict(aim.split("=") for aim in sys.argv[2:])
+micros = {}
+for run in json.load(open(sys.argv[1]))["benchmarks"]:
+    if run["aggregate_name"] == "median":
+        name = re.sub("^BM_|/.*", "", run["run_name"])
+        micros[name] = run.get("median_us", run["real_time"] * {"ns": 1e-3, "us": 1, "ms": 1e3}[run["time_unit"]])
+        if "p99_us" in run:
+            micros[re.sub("(Plain)?$", r", 99th percent\1", name, count=1)] = run["p99_us"]
+for name in micros:
+    if plain := micros.get(name + "Plain"):
+        print(f"{name:28} {micros[name]:12.2f} {plain:12.2f} {micros[name] / plain:7.2f}  {aims.get(name, '')}")
+END
 }
 
 # Instructions up to the first frame, which nothing else on the machine can disturb.
-countStart() {
-    command -v valgrind >/dev/null || { echo 'instructions to first frame: not counted, valgrind is missing'; return 0; }
-    local mode
+count_start() {
     printf 'instructions to first frame, in millions:'
     for mode in editor text bare; do
         QT_QPA_PLATFORM=offscreen valgrind --tool=callgrind --callgrind-out-file=/dev/null \
@@ -56,11 +42,12 @@ countStart() {
     echo
 }
 
-row figure median baseline ratio aim
-runAll $bench/dorva_bench | pairs "RefreshInfo=3 Stroke=3 Switch=1.3 GameBuild=1.3 TestBuild=1.3 ArchiveSave=1.3 ArchiveLoad=1.3 Exit=1.3"
-[ ! -x $bench/qt/dorva_bench_okno ] || runAll $bench/qt/dorva_bench_okno | pairs ""
+printf '%-28s %12s %12s %7s  %s\n' figure median baseline ratio aim
+compare $bench/dorva_bench RefreshInfo=3 Stroke=3 Switch=1.3 GameBuild=1.3 TestBuild=1.3 ArchiveSave=1.3 ArchiveLoad=1.3 \
+    Exit=1.3
+[ ! -x $bench/qt/dorva_bench_okno ] || compare $bench/qt/dorva_bench_okno
 if [ -x $bench/qt/dorva_bench_start ]; then
     $bench/qt/dorva_bench_start planszownik
-    countStart
+    if command -v valgrind >/dev/null; then count_start; else echo 'instructions: not counted, there is no valgrind'; fi
 fi
 echo "program folder: $(du -sh planszownik | cut -f 1)"

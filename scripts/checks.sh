@@ -5,18 +5,30 @@
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit
 steps=(format shell floors sanitizers coverage findings documents package play windows)
+declare -A needs=( # the steps' packages, as setup.sh takes them; windows.sh installs more
+    [format]=clang-format [shell]=shellcheck [floors]=python3 [documents]=build [play]='build python3' [windows]=build
+    [sanitizers]='build tests' [coverage]='build tests clang libclang-rt-dev llvm' [findings]='build clang clang-tidy'
+    [package]='build xvfb openbox xdotool desktop-file-utils'
+)
 for step; do
     [[ " ${steps[*]} " == *" $step "* ]] || { echo "checks: no step $step; there are: ${steps[*]}" >&2; exit 2; }
 done
 [ $# -gt 0 ] || set -- "${steps[@]}"
-scripts/setup.sh --checks
+# shellcheck disable=SC2046 # words
+scripts/setup.sh $(for step; do echo "${needs[$step]-}"; done)
 export QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*=false'
 logs=build/checks
 mkdir -p $logs
 
-# What could not be installed is left out, and said so.
-window_built() { [ -x build/release/src/qt/planszownik ]; }
-game_built() { [ -f build/release/data/PLIKI/DP2.DTA ]; }
+# Builds all, and runs a command if what it needs came out of that; what could not be installed is left out, and said so.
+with_built() { # with_built FILES COMMAND...
+    cmake --preset release && cmake --build --preset release || return
+    for file in $1; do
+        [ -e "build/release/$file" ] || { echo "skipped: $file can't be built here" && return; }
+    done
+    "${@:2}"
+}
+window=src/qt/planszownik game=data/PLIKI/DP2.DTA
 
 # Each step is a function; what it says in its line is the end of its log, or what summary_STEP takes from it.
 
@@ -26,33 +38,30 @@ format() {
 }
 
 shell() {
-    shellcheck -x scripts/*.sh packaging/*.sh .ci/run
+    shellcheck -x scripts/*.sh packaging/*.sh tests/*.sh data/PLIKI/DP3.BAT .ci/run
 }
 
 # An include only points down, and within a floor never in a circle; a .cpp and its .h are one file. What knows of
 # Edytor, be it by another file, is an operation and stands above it.
 floors() {
-    local includes
-    includes=$(grep -r '#include "' src | sed -E 's,^src/([^:]*)\.[a-z]*:#include "(.*)\.h".*,\1 \2,' | sort -u)
-    tsort <<<"$includes" >/dev/null || return # it names the files of a circle
-    awk '
-        function floor(file, i) {
-            for (i = knows[file] ? edytor + 1 : 1; i <= count && index(file, at[i]) != 1; ++i) {}
-            return i
-        }
-        { from[NR] = $1; to[NR] = $2 }
-        END {
-            count = split("podstawy system/ sciezki board/ tiles/ stage/ output/ shell/ edytor " \
-                          "board/ tiles/ stage/ output/ shell/ qt/", at, " ")
-            while (at[++edytor] != "edytor") {}
-            for (more = 1; more;)
-                for (i = more = 0; ++i <= NR;)
-                    if (!knows[from[i]] && (to[i] == "edytor" || knows[to[i]])) more = knows[from[i]] = 1
-            for (i = 1; i <= NR; ++i)
-                if (floor(from[i]) < floor(to[i])) { print from[i] " includes " to[i]; wrong = 1 }
-            if (!wrong) print NR " includes, all of them down, none in a circle"
-            exit wrong
-        }' <<<"$includes"
+    python3 - <<'END'
+import graphlib, pathlib, re
+FLOORS = "podstawy system/ sciezki board/ tiles/ stage/ output/ shell/ edytor board/ tiles/ stage/ output/ shell/ qt/".split()
+EDYTOR = FLOORS.index("edytor")
+includes = {(str(path.relative_to("src").with_suffix("")), included) for path in pathlib.Path("src").rglob("*.*")
+            if path.suffix in (".h", ".cpp") for included in re.findall('#include "(.*)[.]h"', path.read_text())}
+includes = {(file, included) for file, included in includes if file != included}
+graphlib.TopologicalSorter({file: [b for a, b in includes if a == file] for file, _ in includes}).prepare()
+operations = {"edytor"}
+while more := {file for file, included in includes if included in operations} - operations:
+    operations |= more
+def floor(file):
+    lowest = EDYTOR + 1 if file in operations and file != "edytor" else 0
+    return next(i for i in range(lowest, len(FLOORS)) if file.startswith(FLOORS[i]))
+for file, included in includes:
+    assert floor(file) >= floor(included), f"{file} includes {included}"
+print(len(includes), "includes, all of them down, none in a circle")
+END
 }
 
 # The whole suite, window included, with warnings as errors.
@@ -74,47 +83,20 @@ coverage() {
     report "${pure[@]}" | awk -v aim=95 '/^TOTAL/ { print "lines " $7 ", branches " $10; exit $10 + 0 < aim }'
 }
 
-findings() { # not in what another system's compiler builds
+findings() { # not in what another system's compiler builds, nor where Qt is missing
     cmake --preset clang && cmake --build --preset clang --target dorva_swiaty || return
     find src game/tools packaging -name '*.cpp' ! -name '*_windows.cpp' |
-        { if window_built; then cat; else grep -v -e src/qt -e packaging; fi; } |
+        { if grep -q src/qt/main build/clang/compile_commands.json; then cat; else grep -v -e src/qt -e packaging; fi; } |
         xargs -P2 -n4 clang-tidy --quiet --warnings-as-errors='*' -p build/clang 2>&1 |
         { grep -v 'warnings generated' || true; } &&
         echo 'no findings'
 }
 
-# The documents' examples against the built files.
-documents() {
-    if game_built; then scripts/docs-check.sh; else echo 'skipped: the game is not built'; fi
-}
-
-# What the log says of parts left out, and how it ended.
-outcome() { grep -E "^(windows: )?skipped|$1" "$2" | tail -n 3 | paste -sd';' | sed 's/;/; /g'; }
-
-# The package unpacked, used, and unpacked again over itself.
-package() {
-    if window_built && game_built; then
-        scripts/package.sh && scripts/package-check.sh
-    else
-        echo 'skipped: the window or the game is not built'
-    fi
-}
-summary_package() { outcome 'all well' "$1"; }
-
-# The Windows version under Wine: the logic's tests always, the window where Qt for Windows lies in the cache.
-windows() {
-    if scripts/windows.sh --have-qt && window_built && game_built; then
-        scripts/windows.sh --check
-    else
-        scripts/windows.sh --tests
-    fi
-}
-summary_windows() { outcome 'PASSED|logic only|all well' "$1"; }
-
-# The sample game in the emulator, where there is one.
-play() {
-    if game_built; then scripts/play-check.py; else echo 'skipped: the game is not built'; fi
-}
+documents() { with_built "$game" scripts/docs-check.sh; }
+play() { with_built "$game" scripts/play-check.py; }
+package() { with_built "$window $game" eval 'scripts/package.sh && scripts/package-check.sh'; }
+windows() { with_built "$window $game" scripts/windows.sh --check; }
+summary_windows() { grep -E '^(windows: )?skipped|PASSED|logic only|all well' "$1" | tail -n 3 | paste -sd';'; }
 
 failed=0
 for step; do

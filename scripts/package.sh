@@ -3,7 +3,5 @@
 set -eu
 
 cd "$(dirname "$0")/.."
-scripts/options.sh package '' "$@"
 scripts/run.sh --no-start
-cd build/release
-cpack
+cmake --build --preset release --target package

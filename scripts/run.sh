@@ -2,10 +2,10 @@
 # Installs what is missing, builds the program and its data, lays the program folder and starts the editor.
 # --no-start: all but that. Without Qt the data are built and laid all the same, and the status is 1.
 set -eu
+case $* in '' | --no-start) ;; *) echo "run: no option $*; there is: --no-start" >&2 && exit 2 ;; esac
 
 cd "$(dirname "$0")/.."
-scripts/options.sh run '--no-start' "$@"
-scripts/setup.sh
+scripts/setup.sh build
 cmake --preset release >/dev/null
 cmake --build --preset release --target praca
 scripts/lay.sh build/release
@@ -13,7 +13,7 @@ scripts/lay.sh build/release
     echo "run: the window can't be built, Qt 6 is missing (qt6-base-dev); the data are laid in $PWD/planszownik" >&2
     exit 1
 }
-[ "${1-}" != --no-start ] || exit 0
+[ $# = 0 ] || exit 0
 planszownik/planszownik || {
     status=$?
     echo "run: it is built, though: $PWD/planszownik/planszownik" >&2

@@ -4,7 +4,6 @@
 set -eu
 
 cd "$(dirname "$0")/.."
-scripts/options.sh runs '--record BUILD' "$@"
 record=no
 [ "${1-}" != --record ] || { record=yes && shift; }
 build=${1-build/release}

@@ -3,8 +3,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
-scripts/options.sh test '' "$@"
-scripts/setup.sh --tests
+scripts/setup.sh build tests
 cmake --preset release >/dev/null
 cmake --build --preset release
 scripts/lay.sh build/release
