@@ -5,11 +5,8 @@
 #include <QBuffer>
 #include <QImageReader>
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstdlib>
-#include <span>
 
 namespace dorva {
 namespace {
@@ -37,19 +34,6 @@ bool isWhole(const QByteArray& bytes, QSize size) {
     return little(bytes, PIXELS_OFFSET, 4) + rowBytes * size.height() <= bytes.size();
 }
 
-// One row of a picture in 32 bits; the whole picture would cost more memory than all else at the start.
-void convertRow(const QImage& image, int y, std::span<std::uint32_t> pixels) {
-    if (image.format() == QImage::Format_Indexed8) {
-        std::array<QRgb, 256> colours{};
-        std::ranges::copy(image.colorTable(), colours.begin());
-        const uchar* row = image.constScanLine(y);
-        std::transform(row, row + pixels.size(), pixels.begin(), [&](uchar index) { return colours[index]; });
-        return;
-    }
-    const QImage row = image.copy(0, y, int(pixels.size()), 1).convertToFormat(QImage::Format_ARGB32);
-    std::copy_n(reinterpret_cast<const std::uint32_t*>(row.constScanLine(0)), pixels.size(), pixels.begin());
-}
-
 } // namespace
 
 std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width, int height) {
@@ -69,12 +53,9 @@ std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width,
     if (image.isNull())
         return std::nullopt;
 
-    Bitmapa bitmapa{std::min(width, image.width()), std::min(height, image.height()), {}};
-    bitmapa.piksele.resize(bitmapa.width * bitmapa.height);
-    const std::span pixels(bitmapa.piksele);
-    for (int y = 0; y < bitmapa.height; ++y)
-        convertRow(image, y, pixels.subspan(y * bitmapa.width, bitmapa.width));
-    return bitmapa;
+    const QImage part = image.copy(image.rect() & QRect(0, 0, width, height)).convertToFormat(QImage::Format_ARGB32);
+    const auto* pixels = reinterpret_cast<const std::uint32_t*>(part.constBits());
+    return Bitmapa{part.width(), part.height(), {pixels, pixels + part.width() * part.height()}};
 }
 
 } // namespace dorva

@@ -6,18 +6,16 @@
 #include <QImage>
 
 #include <array>
-#include <cstdint>
 #include <memory>
 
 namespace dorva {
 
 inline constexpr int KRATKA_SIDE = 16; // a board cell or an icon, in logical pixels
 
-// A picture at its two sizes, premultiplied 0xAARRGGBB row by row.
+// A picture at its two sizes.
 struct Obrazek {
-    ZnakObraz duzy{};                                          // 32 x 32
-    std::array<std::uint32_t, KRATKA_SIDE * KRATKA_SIDE> maly; // scaled once to 16 x 16
-    bool opaque = false;
+    QImage duzy; // 32 x 32
+    QImage maly; // scaled once to 16 x 16
 };
 
 // A picture is known by where it stands: another picture is another pointer.
@@ -48,8 +46,5 @@ private:
     unsigned wersja_ = 0;
     std::array<ObrazekPtr, (SWIATY_COUNT + 1) * CODES> gotowe_; // the default state comes first
 };
-
-// Lays a picture over an opaque image at whole pixels, at its size of `side`.
-void blit(QImage& image, int left, int top, const Obrazek&, int side);
 
 } // namespace dorva

@@ -12,8 +12,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <cstdlib>
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -77,17 +77,6 @@ void drawFrame(QPainter& painter, QRect rect, const QColor& colour, int thicknes
     drawBorder(painter, rect.adjusted(thickness, thickness, -thickness, -thickness), Qt::black);
 }
 
-// The large picture as an image, without a copy.
-QImage imageOver(const Obrazek& obrazek) {
-    return {reinterpret_cast<const uchar*>(obrazek.duzy.data()), OBRAZ_SIDE, OBRAZ_SIDE,
-            QImage::Format_ARGB32_Premultiplied};
-}
-
-QImage smallImageOver(const Obrazek& obrazek) {
-    return {reinterpret_cast<const uchar*>(obrazek.maly.data()), KRATKA_SIDE, KRATKA_SIDE,
-            QImage::Format_ARGB32_Premultiplied};
-}
-
 } // namespace
 
 PlanszaWidget::PlanszaWidget(QWidget* parent) : QWidget(parent) {
@@ -96,15 +85,17 @@ PlanszaWidget::PlanszaWidget(QWidget* parent) : QWidget(parent) {
 }
 
 void PlanszaWidget::showPlansza(const Plansza& plansza, Obrazki& obrazki) {
+    std::vector<int> changed;
     for (int cell = 0; cell < PLANSZA_CELLS; ++cell) {
         const ObrazekPtr& obrazek = obrazki[plansza[cell].obraz];
         if (obrazki_[cell] == obrazek)
             continue;
         obrazki_[cell] = obrazek;
-        if (!image_.isNull())
-            composeCell(cell);
+        changed.push_back(cell);
         update(cellRect(cell, KRATKA_SIDE));
     }
+    if (!image_.isNull())
+        compose(changed);
 }
 
 void PlanszaWidget::showObrys(int cell) {
@@ -121,25 +112,28 @@ int PlanszaWidget::cellSide() const {
     return devicePixelRatioF() > 1 ? OBRAZ_SIDE : KRATKA_SIDE;
 }
 
-void PlanszaWidget::compose() {
-    image_ = QImage(PLANSZA_COLUMNS * cellSide(), PLANSZA_ROWS * cellSide(), QImage::Format_RGB32);
-    for (int i = 0; i < PLANSZA_CELLS; ++i)
-        composeCell(i);
+void PlanszaWidget::compose(std::span<const int> cells) {
+    const int side = image_.width() / PLANSZA_COLUMNS;
+    QPainter painter(&image_);
+    for (int cell : cells) {
+        const QRect rect = cellRect(cell, side);
+        painter.fillRect(rect, QColor::fromRgb(SZARY));
+        painter.drawImage(rect.topLeft(), side == KRATKA_SIDE ? obrazki_[cell]->maly : obrazki_[cell]->duzy);
+    }
 }
 
-void PlanszaWidget::composeCell(int cell) {
-    const int side = image_.width() / PLANSZA_COLUMNS;
-    const QRect rect = cellRect(cell, side);
-    for (int y = rect.top(); y <= rect.bottom() && !obrazki_[cell]->opaque; ++y)
-        std::fill_n(reinterpret_cast<std::uint32_t*>(image_.scanLine(y)) + rect.left(), side, SZARY);
-    blit(image_, rect.left(), rect.top(), *obrazki_[cell], side);
+void PlanszaWidget::composeAll() {
+    image_ = QImage(PLANSZA_COLUMNS * cellSide(), PLANSZA_ROWS * cellSide(), QImage::Format_RGB32);
+    std::array<int, PLANSZA_CELLS> cells;
+    std::iota(cells.begin(), cells.end(), 0);
+    compose(cells);
 }
 
 void PlanszaWidget::paintEvent(QPaintEvent* event) {
     if (!obrazki_.front())
         return;
     if (image_.width() != PLANSZA_COLUMNS * cellSide())
-        compose(); // for the first time, or the window has come to a screen of another scale
+        composeAll(); // for the first time, or the window has come to a screen of another scale
     QPainter painter(this);
     if (image_.width() == width()) {
         for (const QRect& part : event->region())
@@ -197,7 +191,7 @@ void WyborWidget::showZnaki(const std::array<ZnakSlot, ZNAKI_COUNT>& imgZnak, Ob
     QPainter painter(&image_);
     for (int slot : WYBOR_ORDER) {
         const QRect rect = slotRect(slot);
-        painter.drawImage(rect.topLeft() + QPoint(1, 1), imageOver(*obrazki_[slot]));
+        painter.drawImage(rect.topLeft() + QPoint(1, 1), obrazki_[slot]->duzy);
         drawBorder(painter, rect, SEPARATOR);
     }
     update();
@@ -299,12 +293,12 @@ void ObrazWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), QColor::fromRgb(SZARY));
     if (width() >= SLOT_SIDE)
-        painter.drawImage(QPoint(1, 1), imageOver(*obrazek_));
+        painter.drawImage(QPoint(1, 1), obrazek_->duzy);
     else if (devicePixelRatioF() > 1) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(rect(), imageOver(*obrazek_));
+        painter.drawImage(rect(), obrazek_->duzy);
     } else
-        painter.drawImage(QPoint(0, 0), smallImageOver(*obrazek_));
+        painter.drawImage(QPoint(0, 0), obrazek_->maly);
     drawBorder(painter, rect(), Qt::black);
 }
 

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <functional>
+#include <span>
 
 namespace dorva {
 
@@ -33,8 +34,8 @@ protected:
 
 private:
     [[nodiscard]] int cellSide() const; // of the composed image, in its pixels
-    void compose();
-    void composeCell(int cell);
+    void compose(std::span<const int> cells);
+    void composeAll();
 
     std::array<ObrazekPtr, PLANSZA_CELLS> obrazki_;
     int obrys_ = -1;
