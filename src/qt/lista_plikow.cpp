@@ -13,36 +13,14 @@ namespace {
 enum Kolumna { NAZWA, ROZMIAR, RODZAJ, DATA, KOLUMNY_COUNT };
 constexpr const char* NAGLOWKI[KOLUMNY_COUNT]{"Nazwa", "Rozmiar", "Rodzaj", "Data zmiany"};
 
-// The run of digits at a place, leading zeros left out.
-QStringView numberAt(const QString& name, qsizetype& at) {
-    const qsizetype first = at;
-    while (at < name.size() && name[at].isDigit())
-        ++at;
-    QStringView digits = QStringView(name).mid(first, at - first);
-    while (digits.size() > 1 && digits.front() == '0')
-        digits = digits.mid(1);
-    return digits;
-}
-
 QString sizeText(qint64 size) {
     return size < 1024 ? QString("%1 B").arg(size) : QLocale(QLocale::Polish).formattedDataSize(size, 1);
 }
 
 } // namespace
 
-bool isNameBefore(const QString& left, const QString& right) {
-    qsizetype l = 0, r = 0;
-    while (l < left.size() && r < right.size()) {
-        if (left[l].isDigit() && right[r].isDigit()) {
-            const QStringView a = numberAt(left, l), b = numberAt(right, r);
-            if (a.size() != b.size())
-                return a.size() < b.size();
-            if (a != b)
-                return a < b;
-        } else if (const QChar a = left[l++].toCaseFolded(), b = right[r++].toCaseFolded(); a != b)
-            return a < b;
-    }
-    return left.size() - l < right.size() - r;
+ListaPlikow::ListaPlikow(QObject* parent) : QSortFilterProxyModel(parent) {
+    collator_.setNumericMode(true);
 }
 
 QVariant ListaPlikow::data(const QModelIndex& index, int role) const {
@@ -73,7 +51,7 @@ bool ListaPlikow::lessThan(const QModelIndex& left, const QModelIndex& right) co
         return files->size(left) < files->size(right);
     if (left.column() == DATA && files->lastModified(left) != files->lastModified(right))
         return files->lastModified(left) < files->lastModified(right);
-    return isNameBefore(files->fileName(left), files->fileName(right));
+    return collator_.compare(files->fileName(left), files->fileName(right)) < 0;
 }
 
 void showLista(QFileDialog& dialog) {
