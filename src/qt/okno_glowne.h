@@ -2,7 +2,7 @@
 #pragma once
 
 #include "edytor.h"
-#include "qt/budowa_okna.h"
+#include "qt/kontrolki_okna.h"
 #include "qt/pokaz_okna.h"
 
 #include <QWidget>

@@ -1,6 +1,6 @@
 #include "qt/pokaz_okna.h"
 
-#include "qt/budowa_okna.h"
+#include "qt/kontrolki_okna.h"
 #include "qt/kontrolki.h"
 #include "qt/opcje_okna.h"
 #include "qt/paleta_okno.h"

@@ -5,7 +5,7 @@
 #include "output/narzedzia.h"
 #include "output/obraz_gry.h"
 #include "qt/bitmapa_pliku.h"
-#include "qt/budowa_okna.h"
+#include "qt/kontrolki_okna.h"
 #include "qt/kontrolki.h"
 #include "qt/opcje_okna.h"
 #include "qt/paleta_okno.h"

@@ -1,7 +1,7 @@
 // The whole window against what a user has to find, where and under which words.
 #include "stanowisko.h"
 
-#include "qt/budowa_okna.h"
+#include "qt/kontrolki_okna.h"
 #include "qt/napisy.h"
 #include "qt/wytwornia.h"
 #include "rows.h"

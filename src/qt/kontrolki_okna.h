@@ -1,13 +1,11 @@
-// Builds the window: the widgets of the catalogue, which are known by the names of their controls.
+// The controls of the window, built from the catalogue and known by their names.
 #pragma once
 
 #include "qt/katalog.h"
 
 #include <QWidget>
 
-#include <map>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace dorva {
@@ -21,30 +19,32 @@ public:
 
     // The widget of a control.
     template <typename Widget> Widget* get(std::string_view name, int index = -1) const {
-        const auto found = widgets_.find({name, index});
-        auto* widget = found == widgets_.end() ? nullptr : dynamic_cast<Widget*>(found->second);
-        if (!widget)
-            endWithoutControl(name, index);
-        return widget;
+        return checked<Widget>(find(name, index), name, index);
     }
 
     // The widgets of a control array, in order; of a single control that alone.
     template <typename Widget> std::vector<Widget*> getAll(std::string_view name) const {
         std::vector<Widget*> all;
-        for (auto it = widgets_.lower_bound({name, -1}); it != widgets_.end() && it->first.first == name; ++it)
-            all.push_back(get<Widget>(name, it->first.second));
-        if (all.empty())
-            endWithoutControl(name, -1);
-        return all;
+        for (int index = 0; QWidget* widget = find(name, index); ++index)
+            all.push_back(checked<Widget>(widget, name, index));
+        return all.empty() ? std::vector{get<Widget>(name)} : all;
     }
 
     // Lets the Tab key visit these controls in this order.
     void setTabOrder(const std::vector<std::string_view>& names) const;
 
 private:
+    [[nodiscard]] QWidget* find(std::string_view name, int index) const;
+
+    template <typename Widget> static Widget* checked(QWidget* found, std::string_view name, int index) {
+        auto* widget = dynamic_cast<Widget*>(found);
+        if (!widget)
+            endWithoutControl(name, index);
+        return widget;
+    }
     [[noreturn]] static void endWithoutControl(std::string_view name, int index);
 
-    std::map<std::pair<std::string_view, int>, QWidget*> widgets_; // by name and index
+    QWidget* window_;
 };
 
 } // namespace dorva

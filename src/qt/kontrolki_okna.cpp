@@ -1,4 +1,4 @@
-#include "qt/budowa_okna.h"
+#include "qt/kontrolki_okna.h"
 
 #include "qt/przeklad.h"
 
@@ -9,12 +9,12 @@ namespace dorva {
 namespace {
 
 QString nameOf(std::string_view name, int index) {
-    return index < 0 ? toQString(name) : QString("%1(%2)").arg(toQString(name)).arg(index);
+    return index < 0 ? toQString(name) : toQString(name) + '(' + QString::number(index) + ')';
 }
 
 } // namespace
 
-KontrolkiOkna::KontrolkiOkna(const std::vector<Kontrolka>& katalog, QWidget* window) {
+KontrolkiOkna::KontrolkiOkna(const std::vector<Kontrolka>& katalog, QWidget* window) : window_(window) {
     for (const Kontrolka& k : katalog) {
         QWidget* widget = k.make(k, k.container.empty() ? window : get<QWidget>(k.container));
         widget->setObjectName(nameOf(k.name, k.index));
@@ -22,7 +22,6 @@ KontrolkiOkna::KontrolkiOkna(const std::vector<Kontrolka>& katalog, QWidget* win
         widget->setToolTip(toQString(k.tooltip));
         widget->setEnabled(k.enabled);
         widget->setVisible(k.visible);
-        widgets_[{k.name, k.index}] = widget;
     }
 }
 
@@ -34,6 +33,10 @@ void KontrolkiOkna::setTabOrder(const std::vector<std::string_view>& names) cons
                 QWidget::setTabOrder(last, widget);
             last = widget;
         }
+}
+
+QWidget* KontrolkiOkna::find(std::string_view name, int index) const {
+    return window_->findChild<QWidget*>(nameOf(name, index));
 }
 
 void KontrolkiOkna::endWithoutControl(std::string_view name, int index) {
