@@ -7,10 +7,7 @@
 
 #include <QButtonGroup>
 #include <QCoreApplication>
-#include <QFocusEvent>
 #include <QFontMetrics>
-#include <QGuiApplication>
-#include <QInputMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOption>
@@ -27,10 +24,6 @@ constexpr QColor WYBRANY_KOLOR(0x8C, 0xB4, 0xE4); // of a button that is selecte
 QColor lightest(const QPalette& palette) {
     const QColor field = palette.color(QPalette::Base), text = palette.color(QPalette::Text);
     return field.lightness() > text.lightness() ? field : text;
-}
-
-bool isWindowChange(const QFocusEvent* event) {
-    return event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
 }
 
 } // namespace
@@ -189,92 +182,6 @@ void Suwak::mouseReleaseEvent(QMouseEvent* event) {
 void Suwak::count(SliderAction action) {
     setRepeatAction(action);
     update();
-}
-
-PoleEdycji::PoleEdycji(QWidget* parent) : QLineEdit(parent) {
-    connect(this, &QLineEdit::textEdited, this, &PoleEdycji::reportEdit);
-}
-
-void PoleEdycji::showText(const QString& wanted, unsigned requests) {
-    if (composing_)
-        return;
-    if (wanted != text()) {
-        // a character of two code units is shown as one
-        const auto before = text().left(cursorPosition()).toUcs4().size();
-        setText(wanted);
-        setCursorPosition(static_cast<int>(before));
-    }
-    const auto before = std::exchange(requests_, requests);
-    if (before && *before != requests)
-        selectAll();
-}
-
-void PoleEdycji::reportEdit() {
-    if (!composing_ && onEdit)
-        onEdit(text());
-}
-
-void PoleEdycji::enter() {
-    entered_ = true;
-    if (onEnter)
-        onEnter();
-}
-
-void PoleEdycji::leave() {
-    endComposition();
-    if (std::exchange(entered_, false) && onLeave)
-        onLeave();
-}
-
-void PoleEdycji::endComposition() {
-    QGuiApplication::inputMethod()->commit();
-    if (std::exchange(composing_, false))
-        reportEdit(); // it had nothing to add
-}
-
-void PoleEdycji::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    if (isWindowChange(event) && entered_)
-        return;
-    enter();
-    if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
-        sinceMouseEntry_.start(); // what entering takes is no part of it
-}
-
-void PoleEdycji::focusOutEvent(QFocusEvent* event) {
-    QLineEdit::focusOutEvent(event);
-    endComposition();
-    if (!isWindowChange(event))
-        leave();
-}
-
-// While a composition goes on, the text around it is not complete: a box that it has emptied is not refilled.
-void PoleEdycji::inputMethodEvent(QInputMethodEvent* event) {
-    const bool ends = std::exchange(composing_, !event->preeditString().isEmpty()) && !composing_;
-    QLineEdit::inputMethodEvent(event);
-    if (ends)
-        reportEdit();
-}
-
-// The press that enters the box would put the cursor in its place and so undo the selection. It comes with the focus,
-// or just before or after it where it makes the window the active one, too.
-void PoleEdycji::mousePressEvent(QMouseEvent* event) {
-    constexpr int SAME_PRESS_MS = 100;
-    const bool enters = !entered_ || (sinceMouseEntry_.isValid() && sinceMouseEntry_.elapsed() < SAME_PRESS_MS);
-    sinceMouseEntry_.invalidate();
-    pressEnters_ = enters && event->button() != Qt::RightButton;
-    if (!pressEnters_)
-        QLineEdit::mousePressEvent(event);
-}
-
-void PoleEdycji::mouseMoveEvent(QMouseEvent* event) {
-    if (!pressEnters_)
-        QLineEdit::mouseMoveEvent(event);
-}
-
-void PoleEdycji::mouseReleaseEvent(QMouseEvent* event) {
-    if (!std::exchange(pressEnters_, false))
-        QLineEdit::mouseReleaseEvent(event);
 }
 
 } // namespace dorva

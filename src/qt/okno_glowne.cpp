@@ -1,7 +1,7 @@
 #include "qt/okno_glowne.h"
 
-#include "qt/kontrolki.h"
 #include "qt/paleta_okno.h"
+#include "qt/pole_edycji.h"
 #include "qt/zdarzenia_okna.h"
 #include "shell/start.h"
 #include "stage/kopie_ekranu.h"

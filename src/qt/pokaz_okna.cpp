@@ -1,9 +1,10 @@
 #include "qt/pokaz_okna.h"
 
-#include "qt/kontrolki_okna.h"
 #include "qt/kontrolki.h"
+#include "qt/kontrolki_okna.h"
 #include "qt/opcje_okna.h"
 #include "qt/paleta_okno.h"
+#include "qt/pole_edycji.h"
 #include "qt/przeklad.h"
 #include "qt/widoki_znakow.h"
 #include "stage/pola.h"

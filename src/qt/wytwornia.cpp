@@ -3,6 +3,7 @@
 #include "podstawy.h"
 #include "qt/czcionki.h"
 #include "qt/kontrolki.h"
+#include "qt/pole_edycji.h"
 #include "qt/przeklad.h"
 #include "qt/widoki_znakow.h"
 
