@@ -1,9 +1,9 @@
 #include "qt/kontrolki.h"
 
 #include "qt/czcionki.h"
+#include "qt/konwersje.h"
 #include "qt/napisy.h"
 #include "qt/obramowanie.h"
-#include "qt/przeklad.h"
 
 #include <QButtonGroup>
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "qt/kontrolki_okna.h"
 
-#include "qt/przeklad.h"
+#include "qt/konwersje.h"
 
 #include <cstdio>
 #include <cstdlib>

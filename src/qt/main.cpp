@@ -1,6 +1,6 @@
 #include "qt/aplikacja.h"
+#include "qt/konwersje.h"
 #include "qt/okno_glowne.h"
-#include "qt/przeklad.h"
 #include "qt/sesja.h"
 #include "shell/start.h"
 #include "system/proces.h"

@@ -2,8 +2,8 @@
 
 #include "qt/czcionki.h"
 #include "qt/kontrolki.h"
+#include "qt/konwersje.h"
 #include "qt/kursory.h"
-#include "qt/przeklad.h"
 #include "tiles/paleta_barw.h"
 
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #include "qt/programy.h"
 
-#include "qt/przeklad.h"
+#include "qt/konwersje.h"
 #include "system/pliki.h"
 #include "system/system_calls.h"
 

@@ -1,7 +1,7 @@
 #include "qt/rozmowy.h"
 
+#include "qt/konwersje.h"
 #include "qt/lista_plikow.h"
-#include "qt/przeklad.h"
 #include "qt/sesja.h"
 
 #include <QFileDialog>

@@ -1,9 +1,9 @@
 #include "qt/widoki_znakow.h"
 
 #include "board/plansza.h"
+#include "qt/konwersje.h"
 #include "qt/kursory.h"
 #include "qt/obramowanie.h"
-#include "qt/przeklad.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>

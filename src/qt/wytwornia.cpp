@@ -3,8 +3,8 @@
 #include "podstawy.h"
 #include "qt/czcionki.h"
 #include "qt/kontrolki.h"
+#include "qt/konwersje.h"
 #include "qt/pole_edycji.h"
-#include "qt/przeklad.h"
 #include "qt/widoki_znakow.h"
 
 #include <QCheckBox>

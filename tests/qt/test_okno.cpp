@@ -1,6 +1,6 @@
 #include "stanowisko.h"
 
-#include "qt/przeklad.h"
+#include "qt/konwersje.h"
 
 #include <QCheckBox>
 #include <QDialog>

@@ -1,4 +1,4 @@
-#include "qt/przeklad.h"
+#include "qt/konwersje.h"
 
 #include <QFile>
 #include <QWidget>
