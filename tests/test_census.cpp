@@ -22,9 +22,7 @@ protected:
         RefreshInfo(e);
     }
     bool red(std::size_t label) { return e.okno.lblInfo[label].czerwona; }
-    std::string text(std::size_t label) {
-        return infoCaption(static_cast<info::Figura>(label), e.okno.lblInfo[label].liczba);
-    }
+    std::string text(std::size_t label) { return e.okno.lblInfo[label].caption; }
     bool enabled(Znak z) { return e.okno.imgZnak[static_cast<std::size_t>(z)].enabled; }
 };
 

@@ -51,7 +51,7 @@ TEST_F(Plansza, OtherButtonsOnlyRecount) {
     imgPG_MouseDown(e, 300, SRODKOWY);
     EXPECT_EQ(e.lastCell, 300);
     EXPECT_EQ(e.okno.imgPG[300].znak, ZIEMIA);
-    EXPECT_EQ(e.okno.lblInfo[info::MASKI].liczba, 1);
+    EXPECT_EQ(e.okno.etapInfo.maski, 1);
 }
 
 } // namespace

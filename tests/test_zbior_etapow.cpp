@@ -122,7 +122,7 @@ TEST_F(ZbiorEtapow, ClearBuildsTheWalledField) {
         ASSERT_EQ(kod(cell(row, column)), expected) << i;
     }
     EXPECT_EQ(e.okno.hscMonet, 1);
-    EXPECT_EQ(e.okno.lblInfo[info::CEL_MASEK].liczba, 1);
+    EXPECT_EQ(e.okno.etapInfo.celMasek, 1);
     EXPECT_EQ(e.okno.txtNazwa.tekst, Tekst::spaces(32));
     EXPECT_EQ(readFile(etap(1)), sampleEtap(1));
     e.okno.optNN = 1;

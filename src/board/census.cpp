@@ -4,74 +4,78 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <cstdint>
+#include <string>
 
 namespace dorva {
 namespace {
 
-// How often each pair of codes (STD and INV together) stands on the board.
-using Liczby = std::array<int, ZNAKI_COUNT>;
-
-Liczby countPlansza(const Plansza& plansza) {
-    // Four tables in turn: long runs of one code would otherwise wait for each other's increments.
-    constexpr std::size_t TABLES = 4;
-    std::array<std::array<std::uint16_t, 256>, TABLES> byCode{};
-    for (std::size_t i = 0; i < plansza.size(); ++i)
-        ++byCode[i % TABLES][kod(plansza[i].znak)];
-    Liczby liczby{};
-    for (const auto& table : byCode)
-        for (std::size_t i = 0; i < liczby.size(); ++i)
-            liczby[i] += table[i] + table[i + INV];
-    return liczby;
+// Both forms of a tile count, STD and INV.
+EtapInfo countPlansza(const Plansza& plansza, int celMasek) {
+    std::array<int, 256> byCode{};
+    for (const PokazanyZnak& cell : plansza)
+        ++byCode[kod(cell.znak)];
+    const auto count = [&](Znak z) { return byCode[kod(z)] + byCode[kod(z) + INV]; };
+    return {
+        .jestDorva = count(DORVA) > 0,
+        .jestWyjscie = count(WYJSCIE) > 0,
+        .maski = count(MASKA),
+        .celMasek = celMasek,
+        .klucze = count(KLUCZ),
+        .drzwi = count(DRZWI),
+        .bomby = count(BOMBA),
+        .pulapki = count(PULAPKA),
+        .przedmioty = count(PRZEDMIOT),
+        .maszyny = count(MASZYNA),
+        .pochodnia = count(POCHODNIA) > 0,
+    };
 }
 
-// Tiles that the picker offers only while none stands on the board, in the order of their guard.
-constexpr std::array UNIKATY{info::MASZYNY, info::DORVA, info::WYJSCIE, info::POCHODNIA};
-
-// What is only there or not counts as one.
-constexpr bool isPresence(int figura) {
-    return figura == info::DORVA || figura == info::WYJSCIE || figura == info::POCHODNIA;
+InfoFigura presence(bool isThere) {
+    return {isThere ? "ok" : "!", !isThere};
 }
 
-void takeLiczby(EtapInfo& etapInfo, const Liczby& liczby) {
-    for (int figura = 0; figura < info::COUNT; ++figura) {
-        const int liczba = liczby[kod(ZNAKI_INFO[figura])];
-        if (figura != info::CEL_MASEK)
-            etapInfo[figura].liczba = isPresence(figura) ? std::min(liczba, 1) : liczba;
-    }
+InfoFigura number(int count, bool broken = false) {
+    return {std::to_string(count), broken};
 }
 
-void colourMaski(EtapInfo& etapInfo) {
-    const bool broken = etapInfo[info::MASKI].liczba < etapInfo[info::CEL_MASEK].liczba;
-    etapInfo[info::MASKI].czerwona = etapInfo[info::CEL_MASEK].czerwona = broken;
+void showMaski(Okno& okno) {
+    const EtapInfo& etap = okno.etapInfo;
+    const bool tooFew = etap.maski < etap.celMasek;
+    okno.lblInfo[info::MASKI] = number(etap.maski, tooFew);
+    okno.lblInfo[info::CEL_MASEK] = number(etap.celMasek, tooFew);
 }
 
-void colourFigures(EtapInfo& etapInfo) {
-    etapInfo[info::DORVA].czerwona = etapInfo[info::DORVA].liczba == 0;
-    etapInfo[info::WYJSCIE].czerwona = etapInfo[info::WYJSCIE].liczba == 0;
-    colourMaski(etapInfo);
-    const bool tooFewKeys = etapInfo[info::KLUCZE].liczba < etapInfo[info::DRZWI].liczba;
-    etapInfo[info::KLUCZE].czerwona = etapInfo[info::DRZWI].czerwona = tooFewKeys;
-    etapInfo[info::PRZEDMIOTY].czerwona = etapInfo[info::PRZEDMIOTY].liczba % 2 != 0;
+void showInfo(Okno& okno) {
+    const EtapInfo& etap = okno.etapInfo;
+    const bool tooFewKeys = etap.klucze < etap.drzwi;
+    okno.lblInfo[info::DORVA] = presence(etap.jestDorva);
+    okno.lblInfo[info::WYJSCIE] = presence(etap.jestWyjscie);
+    showMaski(okno);
+    okno.lblInfo[info::KLUCZE] = number(etap.klucze, tooFewKeys);
+    okno.lblInfo[info::DRZWI] = number(etap.drzwi, tooFewKeys);
+    okno.lblInfo[info::BOMBY] = number(etap.bomby);
+    okno.lblInfo[info::PULAPKI] = number(etap.pulapki);
+    okno.lblInfo[info::PRZEDMIOTY] = number(etap.przedmioty, etap.przedmioty % 2 != 0);
+    okno.lblInfo[info::MASZYNY] = number(etap.maszyny);
+    okno.lblInfo[info::POCHODNIA] = number(etap.pochodnia ? 1 : 0);
 }
 
-void guardUnikaty(Edytor& e) {
-    for (info::Figura figura : UNIKATY) {
-        const Znak unikat = ZNAKI_INFO[figura];
-        const bool stands = e.okno.lblInfo[figura].liczba > 0;
-        e.okno.imgZnak[kod(unikat)].enabled = !stands;
-        if (stands && e.okno.imgBufor.znak == unikat)
-            SetBufor(e, e.okno.imgZnak[kod(ZIEMIA)]);
-    }
+// A unique tile is offered by the picker only while none stands on the board.
+void guardUnikat(Edytor& e, Znak unikat, bool stands) {
+    e.okno.imgZnak[kod(unikat)].enabled = !stands;
+    if (stands && e.okno.imgBufor.znak == unikat)
+        SetBufor(e, e.okno.imgZnak[kod(ZIEMIA)]);
 }
 
 } // namespace
 
 void RefreshInfo(Edytor& e) {
-    takeLiczby(e.okno.lblInfo, countPlansza(e.okno.imgPG));
-    colourFigures(e.okno.lblInfo);
-    guardUnikaty(e);
+    e.okno.etapInfo = countPlansza(e.okno.imgPG, e.okno.hscMonet);
+    showInfo(e.okno);
+    guardUnikat(e, MASZYNA, e.okno.etapInfo.maszyny > 0);
+    guardUnikat(e, DORVA, e.okno.etapInfo.jestDorva);
+    guardUnikat(e, WYJSCIE, e.okno.etapInfo.jestWyjscie);
+    guardUnikat(e, POCHODNIA, e.okno.etapInfo.pochodnia);
 }
 
 bool SetMonet(Edytor& e, int value) {
@@ -85,16 +89,13 @@ bool SetMonet(Edytor& e, int value) {
 }
 
 void hscMonet_Change(Edytor& e) {
-    e.okno.lblInfo[info::CEL_MASEK].liczba = e.okno.hscMonet;
-    colourMaski(e.okno.lblInfo);
+    e.okno.etapInfo.celMasek = e.okno.hscMonet;
+    showMaski(e.okno);
 }
 
 void lblInfo_Click(Edytor& e, int index) {
-    if (index != info::MASKI && index != info::CEL_MASEK)
-        return;
-    const int cel = std::clamp(e.okno.lblInfo[info::MASKI].liczba, CEL_MIN, CEL_MAX);
-    e.okno.lblInfo[info::CEL_MASEK].liczba = cel;
-    (void)SetMonet(e, cel);
+    if (index == info::MASKI || index == info::CEL_MASEK)
+        (void)SetMonet(e, std::clamp(e.okno.etapInfo.maski, CEL_MIN, CEL_MAX));
 }
 
 } // namespace dorva

@@ -128,9 +128,9 @@ enum Figura : int {
 };
 } // namespace info
 
-// The tile that each figure is about and that its icon shows.
-inline constexpr std::array<Znak, info::COUNT> ZNAKI_INFO{DORVA, WYJSCIE, MASKA,     MASKA,   KLUCZ,    DRZWI,
-                                                          BOMBA, PULAPKA, PRZEDMIOT, MASZYNA, POCHODNIA};
+// The tile that each icon shows.
+inline constexpr std::array<Znak, info::IKONY_COUNT> ZNAKI_INFO{DORVA, WYJSCIE, MASKA,   MASKA,     KLUCZ,
+                                                                DRZWI, BOMBA,   PULAPKA, PRZEDMIOT, MASZYNA};
 
 // The two visible rows of the picker, left to right; all other slots are hidden.
 inline constexpr int WYBOR_COLUMNS = 22;

@@ -73,10 +73,8 @@ void PokazOkna::showOpcje(const Okno& okno) {
 }
 
 void PokazOkna::showFigury(const Okno& okno) {
-    for (int i = 0; i < info::COUNT; ++i) {
-        const InfoFigura& figura = okno.lblInfo[i];
-        lblInfo_[i]->showFigura(toQString(infoCaption(static_cast<info::Figura>(i), figura.liczba)), figura.czerwona);
-    }
+    for (std::size_t i = 0; i < lblInfo_.size(); ++i)
+        lblInfo_[i]->showFigura(toQString(okno.lblInfo[i].caption), okno.lblInfo[i].czerwona);
     for (std::size_t i = 0; i < lblKodBufor_.size(); ++i)
         lblKodBufor_[i]->setText(toQString(okno.lblKodBufor[i]));
     const QSignalBlocker quiet(hscMonet_);

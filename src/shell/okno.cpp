@@ -31,7 +31,8 @@ Okno defaultOkno() {
         okno.imgZnak[i].enabled = true;
     for (int k = 0; k < info::IKONY_COUNT; ++k)
         okno.imgInfo[k] = {ObrazRef::DOMYSLNY, ZNAKI_INFO[k]};
-    okno.lblInfo[info::CEL_MASEK].liczba = okno.hscMonet;
+    okno.lblInfo[info::DORVA].caption = okno.lblInfo[info::WYJSCIE].caption = "!";
+    okno.lblInfo[info::CEL_MASEK].caption = std::to_string(okno.hscMonet);
     okno.txtNazwa.tekst.znaki = NAZWA_DOMYSLNA;
     okno.txtAutor.tekst.znaki = AUTOR_DOMYSLNY;
     okno.txtAutorGry[0].tekst.znaki = LINIA_DOMYSLNA;

@@ -21,7 +21,8 @@ struct Okno {
     Bajt chkOstatni = 0; // 2 is shown as partially checked
     bool chkOstatniEnabled = true;
     int hscMonet = CEL_MIN; // celMasek
-    EtapInfo lblInfo{};
+    EtapInfo etapInfo;
+    std::array<InfoFigura, info::COUNT> lblInfo;
     std::array<ObrazRef, info::IKONY_COUNT> imgInfo{};
 
     // board, picker, buffer

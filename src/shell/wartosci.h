@@ -25,18 +25,20 @@ struct ZnakSlot : PokazanyZnak {
     bool enabled = true;
 };
 
-// A figure of the panel: a count, or 0 and 1 for what is only there or not.
-struct InfoFigura {
-    int liczba = 0;
-    bool czerwona = false;
-    bool operator==(const InfoFigura&) const = default;
+// What the last census counted on the board, and the goal.
+struct EtapInfo {
+    bool jestDorva = false, jestWyjscie = false;
+    int maski = 0;
+    int celMasek = CEL_MIN; // set by the user
+    int klucze = 0, drzwi = 0, bomby = 0, pulapki = 0, przedmioty = 0, maszyny = 0;
+    bool pochodnia = false;
 };
 
-// The census of the board, and the goal.
-using EtapInfo = std::array<InfoFigura, info::COUNT>;
-
-// What the panel writes for a figure: "!" and "ok", or the number.
-std::string infoCaption(info::Figura, int liczba);
+// A figure of the panel that shows it.
+struct InfoFigura {
+    std::string caption = "0";
+    bool czerwona = false;
+};
 
 // A text box. `zaznaczenia` counts the requests to select the whole text.
 struct PoleTekstu {

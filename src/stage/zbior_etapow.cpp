@@ -116,7 +116,6 @@ void ClearEtap(Edytor& e) {
     for (int i = 0; i < PLANSZA_CELLS; ++i)
         e.okno.imgPG[i].znak = clearedCell(i, krawedz);
     ShowZestaw(e, e.okno.optObiektyNR);
-    e.okno.lblInfo[info::CEL_MASEK].liczba = CEL_MIN;
     (void)SetMonet(e, CEL_MIN);
     RefreshInfo(e);
     SetTekst(e.okno, POLE_NAZWA, Tekst::spaces(NAZWA_WIDTH));
