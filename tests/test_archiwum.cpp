@@ -31,7 +31,7 @@ TEST_F(Archiwum, RoundTripRestoresEveryStageAndTheTitleLines) {
     cmdLoadArch_Click(e);
     EXPECT_EQ(e.NumerEtapu, 7);
     EXPECT_EQ(e.okno.hscMonet, 7);
-    EXPECT_EQ(e.okno.txtAutorGry[0].tekst.znaki[0], '\xA3');
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY].tekst.znaki[0], '\xA3');
     for (int number = 1; number <= ETAPY_COUNT; ++number)
         EXPECT_EQ(readFile(etap(number)), sampleEtap(number)) << number;
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), lines);
@@ -83,7 +83,7 @@ TEST_F(Archiwum, LoadMayBreakOffOrRefuseAField) {
     cmdLoadArch_Click(e);
     EXPECT_EQ(readFile(etap(7)), sampleEtap(26));
     EXPECT_EQ(e.image, sampleEtap(7)) << "the editor never came to the archive's stage";
-    EXPECT_EQ(e.okno.txtAutorGry[0].tekst.znaki, std::string(20, 'A')) << "the title lines did";
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY].tekst.znaki, std::string(20, 'A')) << "the title lines did";
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), sampleLinie());
 
     fs::remove(etap(20));

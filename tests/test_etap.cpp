@@ -47,7 +47,7 @@ TEST_F(Etap, RefusedFieldsLeaveTheRestAsItWas) {
     EXPECT_EQ(cell(5, 5), NIC);
     EXPECT_EQ(e.okno.imgPG[205].obraz, before.imgPG[205].obraz);
     EXPECT_EQ(e.okno.hscMonet, before.hscMonet);
-    EXPECT_EQ(e.okno.txtNazwa.tekst, before.txtNazwa.tekst);
+    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst, before.pola[TXT_NAZWA].tekst);
 
     e.image = sampleEtap(9);
     e.image[uklad::OSTATNI] = 3;
@@ -60,7 +60,7 @@ TEST_F(Etap, RefusedFieldsLeaveTheRestAsItWas) {
     EXPECT_FALSE(UnpackEtap(e));
     EXPECT_EQ(e.okno.chkOstatni, 2);
     EXPECT_EQ(e.okno.optObiektyNR, before.optObiektyNR);
-    EXPECT_EQ(e.okno.txtNazwa.tekst, before.txtNazwa.tekst);
+    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst, before.pola[TXT_NAZWA].tekst);
 }
 
 TEST_F(Etap, BlockedColoursStayAndTravelAlong) {

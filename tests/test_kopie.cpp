@@ -323,7 +323,7 @@ TEST_F(Slips, AWrongArchiveIsTakenBack) {
     chosen = archives.begin()->first;
     cmdLoadArch_Click(e);
     EXPECT_EQ(screen(), stage);
-    EXPECT_EQ(e.okno.txtAutorGry[1].tekst.znaki, "ALA" + std::string(17, ' '));
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY + 1].tekst.znaki, "ALA" + std::string(17, ' '));
     const Bajty empty = packed(defaultOkno());
     const std::map<int, Bajty> odd{{7, stage}, {8, empty}, {9, empty}, {10, Bajty(931, 1)}};
     for (int number = 1; number <= ETAPY_COUNT; ++number)
@@ -344,7 +344,7 @@ TEST_F(Slips, TitleLinesBeingTypedAreKeptAndTheBoxIsLeftAlone) {
     passes(minutes(1));
     keepWork(e);
     EXPECT_EQ(copiesWith(file, lines).size(), 1U);
-    EXPECT_EQ(e.okno.txtAutorGry[0].tekst, ascii("ala"));
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY].tekst, ascii("ala"));
 }
 
 TEST_F(Slips, KeepingLeavesTheScreenAloneAndOrdinaryWorkMakesNoCopies) {

@@ -19,7 +19,7 @@ TEST_F(Start, CompleteStartShowsStageOneAndChangesNoFile) {
     EXPECT_EQ(e.OstatniaSciezka, fs::canonical(root));
     EXPECT_EQ(e.okno.optObiektyNR, 1);
     EXPECT_EQ(e.okno.hscMonet, 1);
-    EXPECT_EQ(e.okno.txtAutorGry[2].tekst.znaki, std::string(20, 'Z'));
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY + 2].tekst.znaki, std::string(20, 'Z'));
     EXPECT_TRUE(e.okno.chkOstatniEnabled);
     Form_QueryUnload(e);
     for (int number = 1; number <= ETAPY_COUNT; ++number)
@@ -34,7 +34,7 @@ TEST_F(Start, DefaultStateHoldsWithoutStageOne) {
     EXPECT_EQ(cell(0, 7), MUREK_PIONOWY);
     EXPECT_EQ(cell(7, 7), ZIEMIA);
     EXPECT_EQ(e.okno.lblKolor[4].value, 180);
-    EXPECT_EQ(e.okno.txtAutorGry[0].tekst.znaki, "DORVA PLANSZOWNIK!  ") << "title lines aren't read then";
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY].tekst.znaki, "DORVA PLANSZOWNIK!  ") << "title lines aren't read then";
     EXPECT_EQ(fs::file_size(etap(1)), 0U);
     Form_QueryUnload(e);
     EXPECT_EQ(namesIn("PLIKI/KOPIE/DP1.DTA").size(), 1U);
@@ -57,7 +57,8 @@ TEST_F(Start, TitleLinesOfOtherLengths) {
         writeFile(base / "PLIKI/DP1.DTA", Bajty(size, 'Q'));
         restart();
         for (std::size_t i = 0; i < 3; ++i)
-            EXPECT_EQ(e.okno.txtAutorGry[i].tekst.znaki, std::string(20, size >= 20 * (i + 1) ? 'Q' : ' ')) << size;
+            EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY + i].tekst.znaki, std::string(20, size >= 20 * (i + 1) ? 'Q' : ' '))
+                << size;
         Form_QueryUnload(e);
         EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA").size(), 60U);
     }
@@ -71,7 +72,7 @@ TEST_F(Start, TitleLinesOfOtherLengths) {
     calls = &unopened;
     broken = true;
     restart();
-    EXPECT_EQ(e.okno.txtAutorGry[0].tekst.znaki, "DORVA PLANSZOWNIK!  ") << "the boxes stay as they were";
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY].tekst.znaki, "DORVA PLANSZOWNIK!  ") << "the boxes stay as they were";
 }
 
 TEST_F(Start, HooksThatThrowOrAreMissingAnswerLikeACancel) {
@@ -118,21 +119,21 @@ TEST_F(Start, OddFolderAndFileNames) {
 
 TEST_F(Start, EmptiedBoxIsRefilledAndLeavingFitsTheText) {
     start();
-    const unsigned before = e.okno.txtAutor.zaznaczenia;
+    const unsigned before = e.okno.pola[TXT_AUTOR].zaznaczenia;
     txt_Change(e, POLE_AUTOR, {});
-    EXPECT_EQ(e.okno.txtAutor.tekst, Tekst::spaces(64));
-    EXPECT_EQ(e.okno.txtAutor.zaznaczenia, before + 1);
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR].tekst, Tekst::spaces(64));
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR].zaznaczenia, before + 1);
     txt_Change(e, POLE_NAZWA, {std::string(33, 'A')});
-    EXPECT_EQ(e.okno.txtNazwa.tekst.size(), 32U);
+    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.size(), 32U);
     txt_Change(e, poleLinii(1), {"za\xBF\xF3\xB3\xE6"});
     txt_LostFocus(e, poleLinii(1));
     txt_Change(e, POLE_NAZWA, ascii("ala"));
     txt_LostFocus(e, POLE_NAZWA);
-    EXPECT_EQ(e.okno.txtNazwa.tekst.znaki, std::string(15, ' ') + "ALA" + std::string(14, ' '));
+    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.znaki, std::string(15, ' ') + "ALA" + std::string(14, ' '));
     txt_Change(e, POLE_AUTOR, ascii("ola"));
     txt_LostFocus(e, POLE_AUTOR);
-    EXPECT_EQ(e.okno.txtAutor.tekst.znaki, "OLA" + std::string(61, ' '));
-    EXPECT_EQ(e.okno.txtAutorGry[1].tekst.znaki, "ZA\xAF\xD3\xA3\xC6" + std::string(14, ' '));
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR].tekst.znaki, "OLA" + std::string(61, ' '));
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY + 1].tekst.znaki, "ZA\xAF\xD3\xA3\xC6" + std::string(14, ' '));
 }
 
 } // namespace

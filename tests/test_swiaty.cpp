@@ -86,7 +86,7 @@ TEST_F(Swiaty32, TheEditorFindsNoFaultAndKeepsEveryByte) {
     fs::copy(DANE, base, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     start();
     EXPECT_EQ(e.Paleta, PaletaWbudowana);
-    EXPECT_EQ(e.okno.txtAutorGry[0].tekst, ascii("DORVA PLANSZOWNIK!  "));
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY].tekst, ascii("DORVA PLANSZOWNIK!  "));
     for (int number = 1; number <= ETAPY_COUNT; ++number) {
         if (number > 1)
             SelectEtapNR(e, number - 1);

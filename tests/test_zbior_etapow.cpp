@@ -72,22 +72,22 @@ TEST_F(ZbiorEtapow, SaveAsksBeforeItReplaces) {
 
 TEST_F(ZbiorEtapow, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
     start();
-    e.okno.txtNazwa.tekst = ascii("ala");
-    e.okno.txtAutor.tekst = ascii(std::string(64, 'q'));
-    e.okno.txtAutorGry[1].tekst = ascii("ola");
+    e.okno.pola[TXT_NAZWA].tekst = ascii("ala");
+    e.okno.pola[TXT_AUTOR].tekst = ascii(std::string(64, 'q'));
+    e.okno.pola[TXT_AUTOR_GRY + 1].tekst = ascii("ola");
     Form_QueryUnload(e);
     EXPECT_EQ(readFile(etap(1))[uklad::NAZWA + 15], 33);
-    EXPECT_EQ(e.okno.txtAutor.tekst.znaki, std::string(64, 'q')) << "full texts stay as they are";
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR].tekst.znaki, std::string(64, 'q')) << "full texts stay as they are";
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA")[20], 'O');
 
     chosen = root / "plik";
-    e.okno.txtAutorGry[1].tekst = ascii(std::string(21, 'A'));
+    e.okno.pola[TXT_AUTOR_GRY + 1].tekst = ascii(std::string(21, 'A'));
     const Bajty lines = readFile(base / "PLIKI/DP1.DTA");
     cmdCreate_Click(e);
     cmdSaveArch_Click(e);
-    e.okno.txtAutorGry[0].tekst = ascii(std::string(21, 'A'));
+    e.okno.pola[TXT_AUTOR_GRY].tekst = ascii(std::string(21, 'A'));
     cmdTest_Click(e);
-    e.okno.txtNazwa.tekst = ascii(std::string(33, 'A'));
+    e.okno.pola[TXT_NAZWA].tekst = ascii(std::string(33, 'A'));
     cmdSave_Click(e);
     SelectEtapNR(e, 1);
     const std::string wrong = "Coś poszło źle...\n";
@@ -100,7 +100,7 @@ TEST_F(ZbiorEtapow, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
     EXPECT_EQ(readFile(etap(1)).size(), ETAP_SIZE_BYTES);
     EXPECT_FALSE(fs::exists(*chosen) || fs::exists(base / "PLIKI/TEST.XEX"));
     chosen = "";
-    e.okno.txtNazwa.tekst = ascii("");
+    e.okno.pola[TXT_NAZWA].tekst = ascii("");
     cmdSave_Click(e);
     EXPECT_EQ(shown.size(), 3U) << "a dialog that names no file is cancelled";
 }
@@ -123,7 +123,7 @@ TEST_F(ZbiorEtapow, ClearBuildsTheWalledField) {
     }
     EXPECT_EQ(e.okno.hscMonet, 1);
     EXPECT_EQ(e.okno.etapInfo.celMasek, 1);
-    EXPECT_EQ(e.okno.txtNazwa.tekst, Tekst::spaces(32));
+    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst, Tekst::spaces(32));
     EXPECT_EQ(readFile(etap(1)), sampleEtap(1));
     e.okno.optNN = 1;
     ClearEtap(e);

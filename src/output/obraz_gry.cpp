@@ -50,8 +50,8 @@ void cmdCreate_Click(Edytor& e) {
     const auto etapy = readOrCreateAllEtapy(e);
     if (!etapy)
         return;
-    const auto& linie = e.okno.txtAutorGry;
-    const ObrazGry gra = buildGra(*szablon, *etapy, {linie[0].tekst, linie[1].tekst, linie[2].tekst});
+    const auto linia = [&](int index) -> const Tekst& { return e.okno.pola[TXT_AUTOR_GRY + index].tekst; };
+    const ObrazGry gra = buildGra(*szablon, *etapy, {linia(0), linia(1), linia(2)});
     if (gra.size() != GRA_SIZE_BYTES) {
         askMessage(e.haki, komunikaty::NIE_MOZNA_GRY);
         return;
@@ -73,7 +73,7 @@ void cmdTest_Click(Edytor& e) {
     const auto szablon = readOrCreateSzablon(e);
     if (!szablon)
         return;
-    const Tekst& linia = e.okno.txtAutorGry[0].tekst;
+    const Tekst& linia = e.okno.pola[TXT_AUTOR_GRY].tekst;
     const ObrazGry gra =
         buildGra(*szablon, {&e.image, 1}, {linia, Tekst::spaces(LINIA_WIDTH), Tekst{std::string(LINIA_TESTU)}});
     if (gra.size() != GRA_SIZE_BYTES) {

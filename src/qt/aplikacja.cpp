@@ -1,7 +1,7 @@
 #include "qt/aplikacja.h"
 
 #include "qt/czcionki.h"
-#include "qt/przeklad.h"
+#include "qt/konwersje.h"
 #include "qt/rozmowy.h"
 #include "system/wzorzec.h"
 

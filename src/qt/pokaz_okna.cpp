@@ -90,7 +90,7 @@ void PokazOkna::showKolory(const Okno& okno) {
 
 void PokazOkna::showPola(const Okno& okno) {
     for (std::size_t i = 0; i < pola_.size(); ++i) {
-        const PoleTekstu& pole = POLA[i].box(okno);
+        const PoleTekstu& pole = okno.pola[i];
         pola_[i]->showText(toQString(pole.tekst), pole.zaznaczenia);
     }
     txtAutor_->setEnabled(okno.txtAutorEnabled);

@@ -33,10 +33,10 @@ Okno defaultOkno() {
         okno.imgInfo[k] = {ObrazRef::DOMYSLNY, ZNAKI_INFO[k]};
     okno.lblInfo[info::DORVA].caption = okno.lblInfo[info::WYJSCIE].caption = "!";
     okno.lblInfo[info::CEL_MASEK].caption = std::to_string(okno.hscMonet);
-    okno.txtNazwa.tekst.znaki = NAZWA_DOMYSLNA;
-    okno.txtAutor.tekst.znaki = AUTOR_DOMYSLNY;
-    okno.txtAutorGry[0].tekst.znaki = LINIA_DOMYSLNA;
-    okno.txtAutorGry[1].tekst = okno.txtAutorGry[2].tekst = Tekst::spaces(LINIA_WIDTH);
+    okno.pola[TXT_NAZWA].tekst.znaki = NAZWA_DOMYSLNA;
+    okno.pola[TXT_AUTOR].tekst.znaki = AUTOR_DOMYSLNY;
+    okno.pola[TXT_AUTOR_GRY].tekst.znaki = LINIA_DOMYSLNA;
+    okno.pola[TXT_AUTOR_GRY + 1].tekst = okno.pola[TXT_AUTOR_GRY + 2].tekst = Tekst::spaces(LINIA_WIDTH);
     return okno;
 }
 

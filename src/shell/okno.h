@@ -33,10 +33,8 @@ struct Okno {
     std::array<std::string, 2> lblKodBufor{"0", "$0"};
 
     // texts
-    PoleTekstu txtNazwa;
-    PoleTekstu txtAutor;
+    std::array<PoleTekstu, POLA_COUNT> pola; // by NumerPola
     bool txtAutorEnabled = true;
-    std::array<PoleTekstu, LINIE_COUNT> txtAutorGry;
 
     // colours
     std::array<KolorSlot, SLOTY_COUNT> lblKolor{};

@@ -40,7 +40,10 @@ struct InfoFigura {
     bool czerwona = false;
 };
 
-// A text box. `zaznaczenia` counts the requests to select the whole text.
+// The text boxes; the title lines come last.
+enum NumerPola { TXT_NAZWA, TXT_AUTOR, TXT_AUTOR_GRY, POLA_COUNT = TXT_AUTOR_GRY + LINIE_COUNT };
+
+// What a text box holds. `zaznaczenia` counts the requests to select the whole text.
 struct PoleTekstu {
     Tekst tekst;
     unsigned zaznaczenia = 0;

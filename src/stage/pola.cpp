@@ -10,7 +10,7 @@ Tekst formed(const Pole& pole, const Tekst& tekst) {
 } // namespace
 
 void SetTekst(Okno& okno, const Pole& pole, const Tekst& tekst) {
-    PoleTekstu& box = pole.box(okno);
+    PoleTekstu& box = okno.pola[pole.numer];
     box.tekst = tekst;
     if (!tekst.znaki.empty())
         return;
@@ -19,7 +19,7 @@ void SetTekst(Okno& okno, const Pole& pole, const Tekst& tekst) {
 }
 
 Tekst filled(const Okno& okno, const Pole& pole) {
-    const Tekst& tekst = pole.box(okno).tekst;
+    const Tekst& tekst = okno.pola[pole.numer].tekst;
     return tekst.size() < pole.width ? formed(pole, tekst) : tekst;
 }
 
@@ -32,11 +32,11 @@ void txt_Change(Edytor& e, const Pole& pole, const Tekst& tekst) {
 }
 
 void txt_GotFocus(Edytor& e, const Pole& pole) {
-    ++pole.box(e.okno).zaznaczenia;
+    ++e.okno.pola[pole.numer].zaznaczenia;
 }
 
 void txt_LostFocus(Edytor& e, const Pole& pole) {
-    SetTekst(e.okno, pole, formed(pole, pole.box(e.okno).tekst));
+    SetTekst(e.okno, pole, formed(pole, e.okno.pola[pole.numer].tekst));
 }
 
 } // namespace dorva

@@ -85,13 +85,13 @@ TEST_F(Kontrolki, ARightClickIntoABoxLeavesTheNextClickAlone) {
 }
 
 TEST_F(Kontrolki, WhatIsPastedHoldsNoControlCodesWhatAFileHeldStays) {
-    e.okno.txtNazwa.tekst.znaki = "A\nB";
+    e.okno.pola[TXT_NAZWA].tekst.znaki = "A\nB";
     okno->showRecord();
     nazwa->setFocus();
     nazwa->setCursorPosition(2);
     QApplication::clipboard()->setText(QString::fromUtf8("␊\n\x01\x7F😀"));
     nazwa->paste();
-    EXPECT_EQ(e.okno.txtNazwa.tekst.znaki, "A\n?   ?B");
+    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.znaki, "A\n?   ?B");
     EXPECT_EQ(nazwa->cursorPosition(), 7); // the last one counts as one
 }
 
@@ -100,7 +100,7 @@ TEST_F(Kontrolki, ACompositionInAnEmptiedBoxGoesOn) {
     compose(QString::fromUtf8("´"), {});
     EXPECT_EQ(nazwa->text(), "");
     compose({}, QString::fromUtf8("ó"));
-    EXPECT_EQ(e.okno.txtNazwa.tekst.znaki, "\xF3");
+    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.znaki, "\xF3");
     nazwa->selectAll();
     compose("x", {});
     compose({}, {}); // given up
@@ -109,7 +109,7 @@ TEST_F(Kontrolki, ACompositionInAnEmptiedBoxGoesOn) {
     nazwa->selectAll();
     compose("x", {});
     okno->close(); // ends it
-    EXPECT_EQ(e.okno.txtNazwa.tekst.znaki, std::string(32, ' '));
+    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.znaki, std::string(32, ' '));
 }
 
 TEST_F(Kontrolki, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {

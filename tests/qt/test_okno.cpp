@@ -27,7 +27,7 @@ TEST_F(OknoTest, TextsAreTypedSelectedAndBroughtToTheirForm) {
     EXPECT_EQ(box("txtAutor")->text(), QString::fromUtf8("żółć?"));
     click("txtAutorGry(0)");
     EXPECT_EQ(box("txtAutor")->text(), QString::fromUtf8("ŻÓŁĆ?") + QString(59, ' '));
-    EXPECT_EQ(e.okno.txtAutor.tekst.znaki.substr(0, 4), "\xAF\xD3\xA3\xC6");
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR].tekst.znaki.substr(0, 4), "\xAF\xD3\xA3\xC6");
     box("txtAutor")->setCursorPosition(2);
     QTest::keyClick(box("txtAutor"), Qt::Key_Delete);
     type(box("txtAutor"), QString::fromUtf8("日"));
