@@ -37,7 +37,7 @@ struct Edytor {
     TablicaKolorow KoloryDomyslne = KOLORY_STARTOWE;
     int WybranySlot = 0;
     int BiezacySwiat = 0;
-    Magazyn zestawy;
+    Magazyn frmZestawy;
 };
 
 } // namespace dorva

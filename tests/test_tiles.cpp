@@ -27,7 +27,7 @@ protected:
         }
     }
     std::uint32_t pixel(ObrazRef ref, std::size_t i = 0) {
-        const ZnakObraz* obraz = e.zestawy.find(ref);
+        const ZnakObraz* obraz = e.frmZestawy.find(ref);
         return obraz ? (*obraz)[i] : 1;
     }
 };
@@ -40,10 +40,10 @@ TEST_F(Tiles, EveryCodeShowsItsPartOfTheStrip) {
             EXPECT_EQ(pixel({swiat, znak(code)}, 1023),
                       0xFF000000U | static_cast<std::uint32_t>((swiat + 1) << 16 | position));
         }
-    EXPECT_EQ(e.zestawy.find({0, znak(64)}), nullptr);
-    EXPECT_EQ(e.zestawy.find({0, znak(255)}), nullptr);
-    EXPECT_EQ(e.zestawy.find({ObrazRef::DOMYSLNY, DORVA}), nullptr);
-    EXPECT_EQ(e.zestawy.find({3, DORVA}), nullptr);
+    EXPECT_EQ(e.frmZestawy.find({0, znak(64)}), nullptr);
+    EXPECT_EQ(e.frmZestawy.find({0, znak(255)}), nullptr);
+    EXPECT_EQ(e.frmZestawy.find({ObrazRef::DOMYSLNY, DORVA}), nullptr);
+    EXPECT_EQ(e.frmZestawy.find({3, DORVA}), nullptr);
 }
 
 TEST_F(Tiles, ChangeOfWorldChangesPicturesOnly) {
@@ -79,7 +79,7 @@ TEST_F(Tiles, StripsOfOtherSizes) {
     EXPECT_EQ(pixel({1, znak(2)}, 6), 0U) << "beyond the strip's width";
     EXPECT_EQ(pixel({1, znak(0)}, 10 * 32), 0U) << "below the strip";
     EXPECT_EQ(pixel({1, DORVA}), 0U);
-    EXPECT_EQ(e.zestawy.find({2, DORVA}), nullptr);
+    EXPECT_EQ(e.frmZestawy.find({2, DORVA}), nullptr);
     EXPECT_EQ(e.okno.optObiektyNR, 1) << "start-up goes on";
     strips["FNT11.ORN.ND.TILES.BMP"].piksele.pop_back();
     cmdReload_Click(e);

@@ -5,7 +5,7 @@
 
 namespace dorva {
 
-void SetBufor(Edytor& e, const PokazanyZnak& shown) {
+void SetBufor(Edytor& e, const Bufor& shown) {
     e.okno.imgBufor = shown;
     char hex[8];
     std::snprintf(hex, sizeof hex, "$%X", static_cast<unsigned>(kod(shown.znak)));

@@ -1,4 +1,4 @@
-// The buffer: the tile that the left button paints.
+// Filling the buffer.
 #pragma once
 
 #include "edytor.h"
@@ -6,6 +6,6 @@
 namespace dorva {
 
 // Code, picture and the two texts, always set together.
-void SetBufor(Edytor&, const PokazanyZnak&);
+void SetBufor(Edytor&, const Bufor&);
 
 } // namespace dorva

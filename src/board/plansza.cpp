@@ -61,7 +61,7 @@ void optNN_Click(Edytor& e, int index) {
     showWybor(e.okno, e.okno.optObiektyNR, index);
 }
 
-void showWybor(Okno& okno, int swiat, int half) {
+void showWybor(Okno& okno, Swiat swiat, int half) {
     const std::int8_t s = swiat;
     for (int i = 0; i < ZNAKI_COUNT; ++i) {
         ZnakSlot& slot = okno.imgZnak[i];

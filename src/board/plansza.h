@@ -17,6 +17,6 @@ void SelectNN(Edytor&, int index);
 void optNN_Click(Edytor&, int index);
 
 // Fills the picker with a world's STD (0) or INV (1) tiles.
-void showWybor(Okno&, int swiat, int half);
+void showWybor(Okno&, Swiat swiat, int half);
 
 } // namespace dorva

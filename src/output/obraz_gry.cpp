@@ -65,7 +65,7 @@ void cmdCreate_Click(Edytor& e) {
 }
 
 void cmdTest_Click(Edytor& e) {
-    const Bajt ostatni = e.okno.chkOstatni;
+    const Ostatni ostatni = e.okno.chkOstatni;
     e.okno.chkOstatni = 1;
     PackEtap(e);
     e.okno.chkOstatni = ostatni;

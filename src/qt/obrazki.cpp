@@ -42,12 +42,12 @@ QImage neutralny() {
     return image;
 }
 
-QImage imageOf(const Magazyn& zestawy, ObrazRef ref) {
+QImage imageOf(const Magazyn& frmZestawy, ObrazRef ref) {
     if (!isTile(ref.znak))
         return neutralny();
     if (ref.swiat == ObrazRef::DOMYSLNY)
         return domyslny(ref.znak);
-    const ZnakObraz* obraz = zestawy.find(ref);
+    const ZnakObraz* obraz = frmZestawy.find(ref);
     if (!obraz)
         return filled(Qt::transparent);
     return QImage(reinterpret_cast<const uchar*>(obraz->data()), OBRAZ_SIDE, OBRAZ_SIDE, QImage::Format_ARGB32)
@@ -57,14 +57,14 @@ QImage imageOf(const Magazyn& zestawy, ObrazRef ref) {
 } // namespace
 
 void Obrazki::followMagazyn() {
-    if (wersja_ == zestawy_.wersja)
+    if (wersja_ == frmZestawy_.wersja)
         return;
-    wersja_ = zestawy_.wersja;
+    wersja_ = frmZestawy_.wersja;
     gotowe_ = {};
 }
 
 ObrazekPtr Obrazki::prepare(ObrazRef ref) const {
-    const QImage image = imageOf(zestawy_, ref);
+    const QImage image = imageOf(frmZestawy_, ref);
     return std::make_shared<const Obrazek>(
         Obrazek{image, image.scaled(KRATKA_SIDE, KRATKA_SIDE, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)});
 }

@@ -23,7 +23,7 @@ using ObrazekPtr = std::shared_ptr<const Obrazek>;
 
 class Obrazki {
 public:
-    explicit Obrazki(const Magazyn& zestawy) : zestawy_(zestawy) {}
+    explicit Obrazki(const Magazyn& frmZestawy) : frmZestawy_(frmZestawy) {}
 
     // Forgets the pictures if a strip was loaded since they were made.
     void followMagazyn();
@@ -42,7 +42,7 @@ private:
 
     [[nodiscard]] ObrazekPtr prepare(ObrazRef) const;
 
-    const Magazyn& zestawy_;
+    const Magazyn& frmZestawy_;
     unsigned wersja_ = 0;
     std::array<ObrazekPtr, (SWIATY_COUNT + 1) * CODES> gotowe_; // the default state comes first
 };

@@ -12,7 +12,7 @@ namespace dorva {
 
 OknoGlowne::OknoGlowne(Edytor& e)
     : e_(e), kontrolki_(katalogOkna(), this), dlgPaleta_(new PaletaOkno(this)),
-      pokaz_(*this, kontrolki_, *dlgPaleta_, e.zestawy) {
+      pokaz_(*this, kontrolki_, *dlgPaleta_, e.frmZestawy) {
     setObjectName("frmDP");
     setFixedSize(OKNO_WIDTH, OKNO_HEIGHT);
     kontrolki_.setTabOrder(kolejnoscTab());

@@ -21,8 +21,8 @@ constexpr Qt::CheckState STANY[]{Qt::Unchecked, Qt::Checked, Qt::PartiallyChecke
 
 } // namespace
 
-PokazOkna::PokazOkna(QWidget& window, const KontrolkiOkna& kontrolki, PaletaOkno& dlgPaleta, const Magazyn& zestawy)
-    : obrazki_(zestawy), window_(window), dlgPaleta_(dlgPaleta), imgPG_(kontrolki.get<PlanszaWidget>("imgPG")),
+PokazOkna::PokazOkna(QWidget& window, const KontrolkiOkna& kontrolki, PaletaOkno& dlgPaleta, const Magazyn& frmZestawy)
+    : obrazki_(frmZestawy), window_(window), dlgPaleta_(dlgPaleta), imgPG_(kontrolki.get<PlanszaWidget>("imgPG")),
       imgZnak_(kontrolki.get<WyborWidget>("imgZnak")), imgBufor_(kontrolki.get<ObrazWidget>("imgBufor")),
       imgInfo_(kontrolki.getAll<ObrazWidget>("imgInfo")), lblInfo_(kontrolki.getAll<EtykietaFigury>("lblInfo")),
       lblKodBufor_(kontrolki.getAll<Etykieta>("lblKodBufor")), lblKolor_(kontrolki.getAll<ProbkaKoloru>("lblKolor")),

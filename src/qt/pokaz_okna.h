@@ -27,7 +27,7 @@ class WyborWidget;
 class PokazOkna {
 public:
     // The store has to outlive it.
-    PokazOkna(QWidget& window, const KontrolkiOkna&, PaletaOkno&, const Magazyn& zestawy);
+    PokazOkna(QWidget& window, const KontrolkiOkna&, PaletaOkno&, const Magazyn& frmZestawy);
 
     void show(const Okno&);
 

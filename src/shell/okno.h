@@ -18,7 +18,7 @@ struct Okno {
     int optNN = 0;  // 0 STD, 1 INV
 
     // stage figures
-    Bajt chkOstatni = 0; // 2 is shown as partially checked
+    Ostatni chkOstatni = 0;
     bool chkOstatniEnabled = true;
     int hscMonet = CEL_MIN; // celMasek
     EtapInfo etapInfo;
@@ -29,7 +29,7 @@ struct Okno {
     Plansza imgPG{};
     int obrys = -1; // the outlined cell, -1 for none
     std::array<ZnakSlot, ZNAKI_COUNT> imgZnak{};
-    PokazanyZnak imgBufor{};
+    Bufor imgBufor;
     std::array<std::string, 2> lblKodBufor{"0", "$0"};
 
     // texts

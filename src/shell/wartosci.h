@@ -18,6 +18,9 @@ struct PokazanyZnak {
     bool operator==(const PokazanyZnak&) const = default;
 };
 
+// The tile that the left button paints.
+using Bufor = PokazanyZnak;
+
 using Plansza = std::array<PokazanyZnak, PLANSZA_CELLS>;
 
 // A slot of the tile picker.
@@ -39,6 +42,9 @@ struct InfoFigura {
     std::string caption = "0";
     bool czerwona = false;
 };
+
+// Whether a stage is the game's last one: 0 or 1; 2, which only a file can hold, is shown as partially checked.
+using Ostatni = Bajt;
 
 // The text boxes; the title lines come last.
 enum NumerPola { TXT_NAZWA, TXT_AUTOR, TXT_AUTOR_GRY, POLA_COUNT = TXT_AUTOR_GRY + LINIE_COUNT };

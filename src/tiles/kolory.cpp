@@ -10,11 +10,11 @@
 namespace dorva {
 namespace {
 
-std::filesystem::path kolorPath(const Edytor& e, int swiat) {
+std::filesystem::path kolorPath(const Edytor& e, Swiat swiat) {
     return e.KatalogBazowy / sciezki::KOLORY[swiat];
 }
 
-void takeKolory(Edytor& e, int swiat, const Bajty& bytes) {
+void takeKolory(Edytor& e, Swiat swiat, const Bajty& bytes) {
     std::copy(bytes.begin(), bytes.end(), e.KoloryDomyslne[swiat].begin() + KOLORY_FIRST_SLOT);
 }
 
@@ -25,12 +25,12 @@ void LoadPaleta(Edytor& e) {
     e.Paleta = bytes ? parsePaleta(*bytes).value_or(PaletaWbudowana) : PaletaWbudowana;
 }
 
-void LoadKolory(Edytor& e, int swiat) {
+void LoadKolory(Edytor& e, Swiat swiat) {
     if (const auto bytes = readFirst(*e.system, kolorPath(e, swiat), KOLORY_SIZE_BYTES))
         takeKolory(e, swiat, *bytes);
 }
 
-bool readOrCreateKolory(Edytor& e, int swiat) {
+bool readOrCreateKolory(Edytor& e, Swiat swiat) {
     const auto bytes = readOrCreate(*e.system, kolorPath(e, swiat), KOLORY_SIZE_BYTES);
     if (bytes)
         takeKolory(e, swiat, *bytes);
@@ -43,7 +43,7 @@ void ShowKolor(Edytor& e, int slot, Bajt value) {
     kolor.tlo = e.Paleta[value];
 }
 
-void showDomyslne(Edytor& e, int swiat, int first, int last) {
+void showDomyslne(Edytor& e, Swiat swiat, int first, int last) {
     for (int slot = first; slot <= last; ++slot)
         ShowKolor(e, slot, e.KoloryDomyslne[swiat][slot]);
 }

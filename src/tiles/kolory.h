@@ -9,16 +9,16 @@ namespace dorva {
 void LoadPaleta(Edytor&);
 
 // A world's colour file into its row of KoloryDomyslne; left alone where the file is missing or short.
-void LoadKolory(Edytor&, int swiat);
+void LoadKolory(Edytor&, Swiat swiat);
 
 // Likewise, but without asking first whether the file is there. False where nothing was read.
-[[nodiscard]] bool readOrCreateKolory(Edytor&, int swiat);
+[[nodiscard]] bool readOrCreateKolory(Edytor&, Swiat swiat);
 
 // The one way to write a slot.
 void ShowKolor(Edytor&, int slot, Bajt value);
 
 // The world's default colours into slots first..last of the stage.
-void showDomyslne(Edytor&, int swiat, int first, int last);
+void showDomyslne(Edytor&, Swiat swiat, int first, int last);
 
 void cmdResetKolory_Click(Edytor&);
 

@@ -4,7 +4,7 @@
 
 namespace dorva {
 
-ZnakObraz cutTile(const Bitmapa& strip, int position) {
+ZnakObraz cutTile(const Bitmapa& strip, StripPosition position) {
     ZnakObraz obraz{};
     const int left = position * OBRAZ_SIDE;
     const int width = std::clamp(strip.width - left, 0, OBRAZ_SIDE);

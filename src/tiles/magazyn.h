@@ -10,15 +10,17 @@
 
 namespace dorva {
 
-// Entries stand at `swiat` * 192 + code, so that a code needs no translation; codes without a picture
-// leave gaps.
-inline constexpr int MAGAZYN_STRIDE = 192;
-inline constexpr int PASEK_TILES = 128;
+// The place of a tile in a strip: 0..63 are the STD half, 64..127 the INV half.
+using StripPosition = int;
+inline constexpr StripPosition PASEK_TILES = 128;
 inline constexpr int PASEK_WIDTH = PASEK_TILES * OBRAZ_SIDE;
 
+// The pictures of one world by code, so that a code needs no translation; those of the codes without a picture stay
+// empty, as all do before a strip has filled them.
+using Zestaw = std::array<std::shared_ptr<const ZnakObraz>, 192>;
+
 struct Magazyn {
-    // Empty where no strip has filled the entry.
-    std::array<std::shared_ptr<const ZnakObraz>, SWIATY_COUNT * MAGAZYN_STRIDE> obrazy;
+    std::array<Zestaw, SWIATY_COUNT> imgZnak;
     // Counts the loaded strips, so that a window knows when to prepare its pictures anew.
     unsigned wersja = 0;
 
@@ -27,16 +29,16 @@ struct Magazyn {
     [[nodiscard]] const ZnakObraz* find(ObrazRef ref) const {
         if (ref.swiat < 0 || ref.swiat >= SWIATY_COUNT || !isTile(ref.znak))
             return nullptr;
-        return obrazy[ref.swiat * MAGAZYN_STRIDE + kod(ref.znak)].get();
+        return imgZnak[ref.swiat][kod(ref.znak)].get();
     }
 };
 
-// The code of a strip's tile: positions 0..63 are the STD half, 64..127 the INV half.
-constexpr int kodOfPosition(int position) {
+// The code of a strip's tile.
+constexpr int kodOfPosition(StripPosition position) {
     return position < ZNAKI_COUNT ? position : position + (INV - ZNAKI_COUNT);
 }
 
 // The tile at a position of a strip: 32 x 32 pixels, transparent where the strip is too small.
-ZnakObraz cutTile(const Bitmapa& strip, int position);
+ZnakObraz cutTile(const Bitmapa& strip, StripPosition position);
 
 } // namespace dorva

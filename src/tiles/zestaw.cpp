@@ -19,12 +19,11 @@ std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& p
     return strip && strip->isWhole() ? std::move(strip) : std::nullopt;
 }
 
-void cutStrip(Magazyn& zestawy, const Bitmapa& strip, int swiat) {
-    for (int position = 0; position < PASEK_TILES; ++position) {
-        zestawy.obrazy[swiat * MAGAZYN_STRIDE + kodOfPosition(position)] =
-            std::make_shared<const ZnakObraz>(cutTile(strip, position));
-    }
-    ++zestawy.wersja;
+void cutStrip(Magazyn& frmZestawy, const Bitmapa& picTiles, Swiat swiat) {
+    for (StripPosition position = 0; position < PASEK_TILES; ++position)
+        frmZestawy.imgZnak[swiat][kodOfPosition(position)] =
+            std::make_shared<const ZnakObraz>(cutTile(picTiles, position));
+    ++frmZestawy.wersja;
 }
 
 } // namespace
@@ -33,7 +32,7 @@ bool ScanZestawy(Edytor& e) {
     const auto folder = e.KatalogBazowy / sciezki::EKSPORT;
     const auto names = listNames(*e.system, folder, ".ND");
     const int count = names.size();
-    for (int swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
+    for (Swiat swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
         // The listing says once that it is at its end; asking it again is a failure.
         if (swiat > count)
             return false;
@@ -43,13 +42,13 @@ bool ScanZestawy(Edytor& e) {
     return true;
 }
 
-void LoadZestaw(Edytor& e, const std::filesystem::path& path, int swiat) {
+void LoadZestaw(Edytor& e, const std::filesystem::path& path, Swiat swiat) {
     auto stripPath = path;
     stripPath += ".TILES.BMP";
-    const auto strip = loadStrip(e, stripPath);
-    if (!strip)
+    const auto picTiles = loadStrip(e, stripPath);
+    if (!picTiles)
         return;
-    cutStrip(e.zestawy, *strip, swiat);
+    cutStrip(e.frmZestawy, *picTiles, swiat);
 
     if (!readOrCreateKolory(e, swiat))
         return;
@@ -58,7 +57,7 @@ void LoadZestaw(Edytor& e, const std::filesystem::path& path, int swiat) {
     showDomyslne(e, swiat, KOLORY_FIRST_SLOT, KOLORY_FIRST_SLOT + KOLORY_SIZE_BYTES - 1);
 }
 
-void ShowZestaw(Edytor& e, int swiat) {
+void ShowZestaw(Edytor& e, Swiat swiat) {
     Okno& okno = e.okno;
     const std::int8_t s = swiat;
     showWybor(okno, swiat, okno.optNN);
@@ -70,7 +69,7 @@ void ShowZestaw(Edytor& e, int swiat) {
     e.BiezacySwiat = swiat;
 }
 
-bool SelectObiektyNR(Edytor& e, int swiat) {
+bool SelectObiektyNR(Edytor& e, Swiat swiat) {
     if (swiat < 0 || swiat >= SWIATY_COUNT)
         return false;
     if (swiat == e.okno.optObiektyNR)
@@ -87,7 +86,7 @@ void optObiektyNR_Click(Edytor& e, int index) {
 void cmdReload_Click(Edytor& e) {
     if (!ScanZestawy(e))
         return;
-    for (int swiat = 0; swiat < SWIATY_COUNT; ++swiat)
+    for (Swiat swiat = 0; swiat < SWIATY_COUNT; ++swiat)
         LoadKolory(e, swiat);
     ShowZestaw(e, e.okno.optObiektyNR);
 }

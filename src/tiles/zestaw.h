@@ -12,13 +12,13 @@ namespace dorva {
 [[nodiscard]] bool ScanZestawy(Edytor&);
 
 // Loads one world's strip and colour file; ends silently at the step that fails.
-void LoadZestaw(Edytor&, const std::filesystem::path&, int swiat);
+void LoadZestaw(Edytor&, const std::filesystem::path&, Swiat swiat);
 
 // Shows everything that shows a tile in the tile set of a world. Changes no code.
-void ShowZestaw(Edytor&, int swiat);
+void ShowZestaw(Edytor&, Swiat swiat);
 
 // Selects a world and shows it if that is a change; false above 2.
-[[nodiscard]] bool SelectObiektyNR(Edytor&, int swiat);
+[[nodiscard]] bool SelectObiektyNR(Edytor&, Swiat swiat);
 void optObiektyNR_Click(Edytor&, int index);
 
 void cmdReload_Click(Edytor&);
