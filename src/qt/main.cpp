@@ -11,6 +11,7 @@
 #include <QPixmap>
 #include <QScreen>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -65,6 +66,7 @@ void centre(QWidget& window) {
 } // namespace
 
 int main(int argc, char** argv) {
+    argc = std::min(argc, 1); // there is no command line; Qt would find options of its own on it
     const QtMessageHandler usual = installStartHandler();
     QApplication application(argc, argv);
     qInstallMessageHandler(usual);
