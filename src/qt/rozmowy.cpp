@@ -87,7 +87,7 @@ bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
 
 std::optional<fs::path> showOpenDialog(QWidget* parent, const DialogPliku& question) {
     const Dialog dialog(new QFileDialog(parent, "Otwieranie"));
-    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setFileMode(QFileDialog::AnyFile); // a missing one is the operation's affair
     return ask(*dialog, question, "&Otwórz");
 }
 

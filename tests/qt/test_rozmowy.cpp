@@ -56,6 +56,26 @@ TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
         QFile::exists(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/QtProject.conf"));
 }
 
+TEST_F(Rozmowy, AMissingNameEndsTheOperationWithoutAWord) {
+    open();
+    const fs::path before = e.OstatniaSciezka, missing = root / "brak";
+    QTimer stuck; // where the dialog stays open, or asks
+    QObject::connect(&stuck, &QTimer::timeout, [] {
+        ADD_FAILURE() << "a dialog is still there";
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            dialog->reject();
+    });
+    stuck.start(2000);
+    whenAskedChoose(missing);
+    click("cmdLoadArch");
+    EXPECT_EQ(e.OstatniaSciezka, before);
+    whenAskedChoose(missing);
+    click("cmdLoad");
+    EXPECT_EQ(e.OstatniaSciezka, missing);
+    EXPECT_EQ(said, QStringList());
+    EXPECT_FALSE(fs::exists(missing));
+}
+
 TEST_F(Rozmowy, FilesAreListedByNumberAndAlphabetInPolish) {
     open();
     e.OstatniaSciezka = base / "ETAPY";
