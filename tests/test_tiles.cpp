@@ -92,6 +92,23 @@ TEST_F(Tiles, StripsOfOtherSizes) {
     EXPECT_EQ(pixel({1, znak(2)}, 5), 0xFF080002U) << "a picture that is not whole changes nothing";
 }
 
+TEST_F(Tiles, OnlyVisibleFilesTakeAWorldsTurn) {
+    const fs::path folder = base / "OBIEKTY/ORN_EXPORT";
+    fs::create_directory(folder / "AAA.ND");
+    for (const char* name : {".AAA.ND", "._FNT01.ORN.ND", "fnt02.orn.nd"})
+        writeFile(folder / name, {});
+    strips["fnt02.orn.nd.TILES.BMP"] = sampleStrip(9);
+    if (POSIX) {
+        fs::create_symlink("brak", folder / "BBB.ND");
+        fs::rename(folder / "FNT11.ORN.ND", base / "inny");
+        fs::create_symlink(base / "inny", folder / "FNT11.ORN.ND");
+    }
+    start();
+    EXPECT_EQ(pixel({0, NIC}), 0xFF010000U);
+    EXPECT_EQ(pixel({1, NIC}), POSIX ? 0xFF020000U : 0xFF090000U) << "Windows doesn't mind the case";
+    EXPECT_EQ(pixel({2, NIC}), POSIX ? 0xFF030000U : 0xFF020000U);
+}
+
 TEST_F(Tiles, ReloadTakesNewColoursOfTheWorldOnShow) {
     start(); // stage 1 stands in world 1
     e.okno.chkZachowajKolory = true;

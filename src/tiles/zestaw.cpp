@@ -5,14 +5,40 @@
 #include "system/pliki.h"
 #include "tiles/kolory.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace dorva {
 namespace {
+
+// Windows doesn't mind the case of a name, neither where one is matched nor where names are put in order.
+constexpr bool IGNORES_CASE = std::filesystem::path::preferred_separator != '/';
+
+std::filesystem::path::string_type comparable(const std::filesystem::path& name) {
+    auto text = name.native();
+    if (IGNORES_CASE)
+        for (auto& c : text)
+            c -= c >= 'a' && c <= 'z' ? 'a' - 'A' : 0;
+    return text;
+}
+
+// The files "*.ND" of a folder in order. Hidden ones don't count: some systems leave a "._NAME" beside each file on a
+// stick.
+std::vector<std::filesystem::path> listZestawy(const Edytor& e, const std::filesystem::path& folder) {
+    static const auto end = std::filesystem::path(".ND").native();
+    auto names = listNames(*e.system, folder, "");
+    std::erase_if(names, [&](const std::filesystem::path& name) {
+        return name.native().starts_with('.') || !comparable(name).ends_with(end) ||
+               !lengthOf(*e.system, folder / name);
+    });
+    std::ranges::sort(names, {}, comparable);
+    return names;
+}
 
 std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& path) {
     auto strip = askPicture(e.haki, path, PASEK_WIDTH, OBRAZ_SIDE);
@@ -30,7 +56,7 @@ void cutStrip(Magazyn& frmZestawy, const Bitmapa& picTiles, Swiat swiat) {
 
 bool ScanZestawy(Edytor& e) {
     const auto folder = e.KatalogBazowy / sciezki::EKSPORT;
-    const auto names = listNames(*e.system, folder, ".ND");
+    const auto names = listZestawy(e, folder);
     const int count = names.size();
     for (Swiat swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
         // The listing says once that it is at its end; asking it again is a failure.
