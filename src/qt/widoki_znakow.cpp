@@ -11,8 +11,6 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <numeric>
 #include <utility>
 #include <vector>
@@ -34,32 +32,20 @@ int buttonsOf(Qt::MouseButtons buttons) {
     return sum;
 }
 
-QPoint cellAt(const QPointF& position) {
-    return {static_cast<int>(std::floor(position.x() / KRATKA_SIDE)),
-            static_cast<int>(std::floor(position.y() / KRATKA_SIDE))};
+Polozenie polozenieOf(const QMouseEvent* event) {
+    return {event->position().x() / KRATKA_SIDE, event->position().y() / KRATKA_SIDE};
 }
 
-bool onBoard(QPoint cell) {
-    return cell.x() >= 0 && cell.x() < PLANSZA_COLUMNS && cell.y() >= 0 && cell.y() < PLANSZA_ROWS;
+bool onBoard(Kratka cell) {
+    return cell.column >= 0 && cell.column < PLANSZA_COLUMNS && cell.row >= 0 && cell.row < PLANSZA_ROWS;
 }
 
-int indexOf(QPoint cell) {
-    return cell.y() * PLANSZA_COLUMNS + cell.x();
+int indexOf(Kratka cell) {
+    return cell.row * PLANSZA_COLUMNS + cell.column;
 }
 
 QRect cellRect(int cell, int side) {
     return {cell % PLANSZA_COLUMNS * side, cell / PLANSZA_COLUMNS * side, side, side};
-}
-
-// The cells of the straight line behind `from` up to `to`.
-std::vector<QPoint> lineOf(QPoint from, QPoint to) {
-    const QPoint way = to - from;
-    const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
-    std::vector<QPoint> cells;
-    for (int i = 1; i <= steps; ++i)
-        cells.emplace_back(from.x() + static_cast<int>(std::lround(double(way.x()) * i / steps)),
-                           from.y() + static_cast<int>(std::lround(double(way.y()) * i / steps)));
-    return cells;
 }
 
 // A line that is seen on light and dark alike.
@@ -147,24 +133,17 @@ void PlanszaWidget::paintEvent(QPaintEvent* event) {
 }
 
 void PlanszaWidget::mousePressEvent(QMouseEvent* event) {
-    pointer_ = cellAt(event->position());
+    pointer_ = polozenieOf(event);
     const int button = buttonsOf(event->button());
-    if (onBoard(pointer_) && button != 0 && onPress)
-        onPress(indexOf(pointer_), button);
+    if (const Kratka cell = kratkaAt(pointer_); onBoard(cell) && button != 0 && onPress)
+        onPress(indexOf(cell), button);
 }
 
 void PlanszaWidget::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint from = std::exchange(pointer_, cellAt(event->position()));
-    if (from == pointer_ || !onMove)
-        return;
+    const Polozenie from = std::exchange(pointer_, polozenieOf(event));
     const int buttons = buttonsOf(event->buttons());
-    if (buttons == 0) {
-        if (onBoard(pointer_))
-            onMove(indexOf(pointer_), buttons);
-        return;
-    }
-    for (QPoint cell : lineOf(from, pointer_))
-        if (onBoard(cell))
+    for (Kratka cell : cutKratki(from, pointer_))
+        if (onBoard(cell) && onMove && (buttons != 0 || cell == kratkaAt(pointer_)))
             onMove(indexOf(cell), buttons);
 }
 

@@ -1,6 +1,7 @@
 // The widgets that show tiles: board, picker, and single pictures.
 #pragma once
 
+#include "board/droga.h"
 #include "qt/obrazki.h"
 #include "shell/okno.h"
 
@@ -39,8 +40,8 @@ private:
 
     std::array<ObrazekPtr, PLANSZA_CELLS> obrazki_;
     int obrys_ = -1;
-    QImage image_;   // composed of them when first painted
-    QPoint pointer_; // in cells; may lie outside the board during a drag
+    QImage image_;      // composed of them when first painted
+    Polozenie pointer_; // may lie beside the board during a drag
 };
 
 // The two visible rows of the tile picker in one widget. A frame tells the slot under the pointer, another one the slot

@@ -7,6 +7,8 @@
 #include <QPaintEvent>
 #include <QToolTip>
 
+#include <set>
+
 namespace dorva::test {
 namespace {
 
@@ -54,6 +56,36 @@ TEST_F(Malowanie, AFastDragLeavesNoGapsAndMayLeaveTheBoard) {
     moveTo(centreOf(2 * 40 + 36), Qt::LeftButton);
     EXPECT_EQ(cellOf(2 * 40 + 36), BOMBA);
     EXPECT_EQ(cellOf(2 * 40 + 39), BOMBA);
+}
+
+// From corner to corner of cells, in pixels within a board that is otherwise earth.
+TEST_F(Malowanie, ADragPaintsTheCellsThatItsStraightWayCuts) {
+    struct {
+        QPoint from, to;
+        std::set<std::pair<int, int>> painted; // column, row
+    } const rows[] = {
+        {{49, 95}, {111, 98}, {{3, 5}, {4, 5}, {4, 6}, {5, 6}, {6, 6}}},
+        {{63, 80}, {48, 112}, {{3, 5}, {3, 6}, {3, 7}}},
+        {{56, 88}, {72, 104}, {{3, 5}, {4, 6}}}, // through a corner
+        {{72, 88}, {56, 104}, {{4, 5}, {3, 6}}},
+        {{64, 96}, {32, 64}, {{4, 6}, {3, 5}, {2, 4}}},
+        {{50, 81}, {52, 94}, {{3, 5}}},
+        {{620, 40}, {652, 73}, {{38, 2}, {39, 2}, {39, 3}}}, // out over the edge
+    };
+    for (const auto& row : rows)
+        for (bool back : {false, true}) {
+            if (back && row.to.x() >= 640)
+                continue;
+            ClearEtap(e);
+            clickSlot(14);
+            pointer(board, QEvent::MouseButtonPress, back ? row.to : row.from, Qt::LeftButton, Qt::LeftButton);
+            moveTo(back ? row.from : row.to, Qt::LeftButton);
+            std::set<std::pair<int, int>> painted;
+            for (int cell = 0; cell < PLANSZA_CELLS; ++cell)
+                if (cellOf(cell) == BOMBA)
+                    painted.insert({cell % PLANSZA_COLUMNS, cell / PLANSZA_COLUMNS});
+            EXPECT_EQ(painted, row.painted) << row.from.x() << "," << row.from.y() << (back ? " back" : "");
+        }
 }
 
 TEST_F(Malowanie, ButtonsAndTools) {
