@@ -6,9 +6,9 @@
 namespace dorva {
 namespace {
 
-// The description is a credit line.
+// In the texts' code page: \xD3 is Ó. The description is a credit line.
 constexpr std::string_view NAZWA_DOMYSLNA = "           POWODZENIA!          ";
-constexpr std::string_view AUTOR_DOMYSLNY = "DORVA PLANSZOWNIK - EDYTOR ETAPOW                               ";
+constexpr std::string_view AUTOR_DOMYSLNY = "DORVA PLANSZOWNIK - EDYTOR ETAP\xD3W                               ";
 constexpr std::string_view LINIA_DOMYSLNA = "DORVA PLANSZOWNIK!  ";
 static_assert(NAZWA_DOMYSLNA.size() == NAZWA_WIDTH && AUTOR_DOMYSLNY.size() == AUTOR_WIDTH &&
               LINIA_DOMYSLNA.size() == LINIA_WIDTH);
