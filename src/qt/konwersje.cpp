@@ -20,6 +20,14 @@ QChar signOf(char c) {
     return code == KOD_DEL ? SYMBOL_DEL : toUnicode(code);
 }
 
+Bajt byteOf(char32_t sign) {
+    if (sign >= SYMBOLE_STEROWANIA && sign < SYMBOLE_STEROWANIA + U' ')
+        return static_cast<Bajt>(sign - SYMBOLE_STEROWANIA);
+    if (sign == SYMBOL_DEL)
+        return KOD_DEL;
+    return sign < ' ' || sign == KOD_DEL ? Bajt{' '} : fromUnicode(sign);
+}
+
 } // namespace
 
 QString toQString(std::string_view utf8) {
@@ -32,17 +40,11 @@ QString toQString(const Tekst& tekst) {
     return result;
 }
 
-Tekst fromEdited(const QString& edited, const Tekst& before) {
-    const QString shown = toQString(before);
-    const auto common = std::min(edited.size(), shown.size());
-    const auto prefix = std::mismatch(edited.begin(), edited.begin() + common, shown.begin()).first - edited.begin();
-    const auto rest = common - prefix;
-    const auto suffix = std::mismatch(edited.rbegin(), edited.rbegin() + rest, shown.rbegin()).first - edited.rbegin();
-    Tekst result{before.znaki.substr(0, prefix)};
-    for (char32_t c : edited.mid(prefix, edited.size() - prefix - suffix).toUcs4())
-        result.znaki += static_cast<char>(c < ' ' || c == KOD_DEL ? Bajt{' '} : fromUnicode(c));
-    result.znaki += before.znaki.substr(before.size() - suffix);
-    return result;
+Tekst fromShown(const QString& shown) {
+    Tekst tekst;
+    for (char32_t c : shown.toUcs4())
+        tekst.znaki += static_cast<char>(byteOf(c));
+    return tekst;
 }
 
 QString nameOfPath(const std::filesystem::path& path) {

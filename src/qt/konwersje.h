@@ -22,9 +22,9 @@ QString toQString(std::string_view utf8);
 // that a box always holds as many characters as the text.
 QString toQString(const Tekst&);
 
-// The text for what a box shows after the user has changed it: what was there already keeps its bytes; what was typed
-// or pasted has no control codes, they become spaces.
-Tekst fromEdited(const QString& edited, const Tekst& before);
+// The text for what a box shows. A symbol stands for its control code wherever it comes from, so that undo, cut and
+// paste keep what a file held; a control code that was pasted as such becomes a space.
+Tekst fromShown(const QString&);
 
 // Paths as the file system spells them.
 QString nameOfPath(const std::filesystem::path&);

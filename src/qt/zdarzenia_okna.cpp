@@ -79,8 +79,8 @@ void bindPola(const KontrolkiOkna& kontrolki, const Wykonanie& run) {
         box->setMaxLength(pole.width);
         box->onEnter = [run, &pole] { run([&](Edytor& e) { txt_GotFocus(e, pole); }); };
         box->onLeave = [run, &pole] { run([&](Edytor& e) { txt_LostFocus(e, pole); }); };
-        box->onEdit = [run, &pole](const QString& edited) {
-            run([&](Edytor& e) { txt_Change(e, pole, fromEdited(edited, e.okno.pola[pole.numer].tekst)); });
+        box->onEdit = [run, &pole](const QString& shown) {
+            run([&](Edytor& e) { txt_Change(e, pole, fromShown(shown)); });
         };
     }
 }

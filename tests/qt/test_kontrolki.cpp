@@ -84,15 +84,27 @@ TEST_F(Kontrolki, ARightClickIntoABoxLeavesTheNextClickAlone) {
     EXPECT_EQ(nazwa->text(), text);
 }
 
-TEST_F(Kontrolki, WhatIsPastedHoldsNoControlCodesWhatAFileHeldStays) {
-    e.okno.pola[TXT_NAZWA].tekst.znaki = "A\nB";
+TEST_F(Kontrolki, ControlCodesAreNotPastedAndThoseOfAFileSurviveEveryEdit) {
+    const std::string& znaki = e.okno.pola[TXT_NAZWA].tekst.znaki;
+    const std::string held{'A', '\0', '\n', '\x1F', '\x7F', '\x81', 'B'};
+    e.okno.pola[TXT_NAZWA].tekst.znaki = held;
     okno->showRecord();
     nazwa->setFocus();
-    nazwa->setCursorPosition(2);
-    QApplication::clipboard()->setText(QString::fromUtf8("␊\n\x01\x7F😀"));
+    nazwa->setSelection(1, 3);
+    nazwa->del();
+    EXPECT_EQ(znaki, held.substr(0, 1) + held.substr(4));
+    nazwa->undo();
+    EXPECT_EQ(znaki, held);
+    nazwa->setSelection(1, 5);
+    nazwa->cut();
+    EXPECT_EQ(znaki, "AB");
     nazwa->paste();
-    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.znaki, "A\n?   ?B");
-    EXPECT_EQ(nazwa->cursorPosition(), 7); // the last one counts as one
+    EXPECT_EQ(znaki, held);
+    nazwa->end(false);
+    QApplication::clipboard()->setText(QString::fromUtf8("\n\x01\x7F😀"));
+    nazwa->paste();
+    EXPECT_EQ(znaki, held + "   ?");
+    EXPECT_EQ(nazwa->cursorPosition(), 11); // the last one counts as one
 }
 
 TEST_F(Kontrolki, ACompositionInAnEmptiedBoxGoesOn) {

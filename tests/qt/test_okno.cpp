@@ -1,7 +1,5 @@
 #include "stanowisko.h"
 
-#include "qt/konwersje.h"
-
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
@@ -33,7 +31,6 @@ TEST_F(OknoTest, TextsAreTypedSelectedAndBroughtToTheirForm) {
     type(box("txtAutor"), QString::fromUtf8("日"));
     EXPECT_EQ(box("txtAutor")->text().left(4), QString::fromUtf8("ŻÓ?Ć"));
     EXPECT_EQ(box("txtAutor")->cursorPosition(), 3);
-    EXPECT_EQ(fromEdited("ab", {"aab"}).znaki, "ab"); // either letter may be the one that went
 
     QTest::keyClick(box("txtAutorGry(0)"), Qt::Key_Delete);
     EXPECT_EQ(box("txtAutorGry(0)")->selectedText(), QString(20, ' '));
