@@ -1,4 +1,5 @@
 #include "qt/aplikacja.h"
+#include "qt/ekran.h"
 #include "qt/konwersje.h"
 #include "qt/okno_glowne.h"
 #include "qt/sesja.h"
@@ -9,7 +10,6 @@
 #include <QIcon>
 #include <QImageReader>
 #include <QPixmap>
-#include <QScreen>
 
 #include <algorithm>
 #include <cstdio>
@@ -58,11 +58,6 @@ QIcon ownIcon() {
     return icon;
 }
 
-void centre(QWidget& window) {
-    if (const QScreen* screen = window.screen())
-        window.move(screen->availableGeometry().center() - window.rect().center());
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -81,7 +76,6 @@ int main(int argc, char** argv) {
     dorva::Form_Load(edytor, folder, DORVA_VERSION);
     okno.showRecord();
     dorva::storeAtSessionEnd(okno);
-    centre(okno);
-    okno.show();
+    dorva::showCentred(okno);
     return QApplication::exec();
 }

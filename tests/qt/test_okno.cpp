@@ -1,5 +1,7 @@
 #include "stanowisko.h"
 
+#include "qt/ekran.h"
+
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
@@ -114,6 +116,17 @@ TEST_F(OknoTest, ThePaletteWritesIntoTheSlotThatWasPicked) {
     okno->close();
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(readFile(etap(1))[uklad::KOLORY + 4], 180);
+}
+
+TEST_F(OknoTest, ItOpensInTheMiddleOfTheScreenAndNeverAboveOrLeftOfIt) {
+    const QRect area = okno->screen()->availableGeometry();
+    showCentred(*okno);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(okno.get()));
+    QTest::qWait(50);
+    const QRect frame = okno->frameGeometry();
+    EXPECT_GT(frame.height(), okno->height()) << "no frame";
+    EXPECT_EQ(frame.left(), std::max(area.left(), area.center().x() - frame.width() / 2));
+    EXPECT_NEAR(frame.center().y(), area.center().y(), 1);
 }
 
 } // namespace
