@@ -16,6 +16,6 @@ odmow() { # a message that is seen, also where no terminal is open; in letters t
 [ -x planszownik ] || odmow "Folder $PWD jest bez prawa wykonywania (noexec). Skopiuj go do swojego folderu domowego."
 [ -w . ] || odmow "Brak prawa do zapisu w folderze $PWD. Skopiuj go do swojego folderu domowego."
 brak=$(ldd ./planszownik 2>/dev/null | grep 'not found')
-[ -z "$brak" ] || odmow "Brakuje bibliotek Qt 6. W Debianie: sudo apt install libqt6widgets6 qt6-translations-l10n
+[ -z "$brak" ] || odmow "Brakuje bibliotek Qt 6. W Debianie: sudo apt install libqt6widgets6
 $brak"
 exec ./planszownik

@@ -1,7 +1,6 @@
 # The program's libraries, and what they want to be known.
 install(FILES $<TARGET_FILE:Qt6::Core> $<TARGET_FILE:Qt6::Gui> $<TARGET_FILE:Qt6::Widgets> DESTINATION ${FOLDER})
 install(FILES ${QT_WINDOWS}/plugins/platforms/qwindows.dll DESTINATION ${FOLDER}/platforms)
-install(FILES /usr/share/qt6/translations/qtbase_pl.qm DESTINATION ${FOLDER}/translations)
 install(FILES qt.conf DESTINATION ${FOLDER})
 foreach(biblioteka libgcc_s_seh-1 libstdc++-6 libwinpthread-1) # the compiler's own
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${biblioteka}.dll

@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QLibraryInfo>
 #include <QLockFile>
 #include <QSettings>
 #include <QTranslator>
@@ -16,6 +15,7 @@
 
 static void initResources() {
     Q_INIT_RESOURCE(czcionki); // they lie in a static library
+    Q_INIT_RESOURCE(slowa);
 }
 
 namespace dorva {
@@ -28,7 +28,7 @@ void setUpApplication(QApplication& application) {
     // Qt's own file dialog would remember its columns and folders in a file. Nothing but the work outlives a run.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     auto* polish = new QTranslator(&application);
-    if (polish->load("qtbase_pl", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (polish->load(":/slowa/qtbase_pl.qm"))
         QApplication::installTranslator(polish);
 }
 
