@@ -57,12 +57,6 @@ void drawObrys(QPainter& painter, QRect rect) {
     painter.drawRect(rect);
 }
 
-// A frame of a slot, with a dark line within, so that it is seen on any tile.
-void drawFrame(QPainter& painter, QRect rect, const QColor& colour, int thickness) {
-    drawBorder(painter, rect, colour, thickness);
-    drawBorder(painter, rect.adjusted(thickness, thickness, -thickness, -thickness), Qt::black);
-}
-
 } // namespace
 
 PlanszaWidget::PlanszaWidget(QWidget* parent) : QWidget(parent) {
@@ -203,6 +197,16 @@ QRect WyborWidget::slotRect(int slot) {
     return {place % WYBOR_COLUMNS * SLOT_PITCH, place / WYBOR_COLUMNS * SLOT_PITCH, SLOT_SIDE, SLOT_SIDE};
 }
 
+// What is seen of them: its own at left and top; at right and below the neighbours', where it has any.
+QRect WyborWidget::linesAround(int slot) const {
+    QRect lines = slotRect(slot);
+    if (lines.right() < rect().right())
+        lines.setRight(lines.right() - 1);
+    if (lines.bottom() < rect().bottom())
+        lines.setBottom(lines.bottom() - 1);
+    return lines;
+}
+
 // Where two slots overlap, the later one is on top.
 int WyborWidget::slotAt(QPoint position) {
     if (position.x() < 0 || position.y() < 0)
@@ -230,10 +234,10 @@ void WyborWidget::paintEvent(QPaintEvent*) {
     constexpr QColor IN_BUFOR(255, 224, 64), UNDER_POINTER(255, 255, 255);
     QPainter painter(this);
     painter.drawImage(rect(), image_);
-    if (inBufor_ >= 0)
-        drawFrame(painter, slotRect(inBufor_), IN_BUFOR, 2);
     if (underPointer_ >= 0 && imgZnak_[underPointer_].enabled)
-        drawFrame(painter, slotRect(underPointer_), UNDER_POINTER, 1);
+        drawBorder(painter, linesAround(underPointer_), UNDER_POINTER);
+    if (inBufor_ >= 0)
+        drawBorder(painter, linesAround(inBufor_), IN_BUFOR); // on top, so that a click is seen
 }
 
 void WyborWidget::mouseMoveEvent(QMouseEvent* event) {

@@ -44,8 +44,8 @@ private:
     Polozenie pointer_; // may lie beside the board during a drag
 };
 
-// The two visible rows of the tile picker in one widget. A frame tells the slot under the pointer, another one the slot
-// whose tile is in the buffer; a disabled slot has none.
+// The two visible rows of the tile picker in one widget. The black lines around the slot under the pointer are
+// coloured, in another colour those around the slot whose tile is in the buffer; a disabled slot has none.
 class WyborWidget : public QWidget {
 public:
     explicit WyborWidget(QWidget* parent);
@@ -69,6 +69,7 @@ protected:
 
 private:
     [[nodiscard]] static int slotAt(QPoint); // -1 for none
+    [[nodiscard]] QRect linesAround(int slot) const;
     void moveFrame(int& slot, int to);
     void updateFrame(int slot);
 

@@ -170,6 +170,34 @@ TEST_F(Malowanie, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
     EXPECT_EQ(frameOf(0), IN_BUFOR);
 }
 
+TEST_F(Malowanie, AFrameLiesOnTheBlackLinesAroundATile) {
+    QWidget* picker = find("imgZnak");
+    const auto shot = [&] { return picker->grab().toImage(); };
+    const auto emptyBufor = [&] {
+        e.okno.imgBufor.znak = znak(62); // a hidden tile
+        okno->showRecord();
+    };
+    emptyBufor();
+    const QImage before = shot();
+    const std::map<int, QSize> rows{{0, {33, 33}}, {14, {33, 33}}, {22, {34, 33}}, {12, {33, 34}}, {57, {33, 34}}};
+    for (auto [slot, size] : rows)
+        for (bool inBufor : {false, true}) {
+            emptyBufor();
+            inBufor ? clickSlot(slot) : moveOver(slot);
+            const QImage after = shot();
+            const QRect frame(rectOf(slot).topLeft(), size), picture = frame.adjusted(1, 1, -1, -1);
+            const QRgb colour = inBufor ? qRgb(255, 224, 64) : qRgb(255, 255, 255), line = qRgb(0, 0, 0);
+            int wrong = 0;
+            for (int y = 0; y < before.height(); ++y)
+                for (int x = 0; x < before.width(); ++x) {
+                    const bool coloured = frame.contains(x, y) && !picture.contains(x, y);
+                    wrong += after.pixel(x, y) != (coloured ? colour : before.pixel(x, y));
+                    wrong += coloured && before.pixel(x, y) != line;
+                }
+            EXPECT_EQ(wrong, 0) << slot << (inBufor ? " in the buffer" : " under the pointer");
+        }
+}
+
 // Runs once more on a screen of a fractional scale.
 TEST_F(Malowanie, TheOutlineLeavesNoTrail) {
     moveTo(centreOf(45), Qt::NoButton);
