@@ -78,6 +78,11 @@ void Przycisk::keyPressEvent(QKeyEvent* event) {
     QCoreApplication::sendEvent(selected, event);
 }
 
+void Znacznik::initStyleOption(QStyleOptionButton* option) const {
+    QCheckBox::initStyleOption(option);
+    lightenOutline(option->palette);
+}
+
 void Etykieta::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->button() == Qt::LeftButton;
 }

@@ -1,6 +1,7 @@
-// The small widgets of the window that Qt does not have just so: frame, button, labels, goal bar.
+// The small widgets of the window that Qt does not have just so: frame, buttons, labels, goal bar.
 #pragma once
 
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -28,6 +29,15 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+};
+
+// A check box that is seen in a dark palette, too.
+class Znacznik : public QCheckBox {
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void initStyleOption(QStyleOptionButton*) const override;
 };
 
 // A label with plain text that can be clicked: pressed and released within itself.

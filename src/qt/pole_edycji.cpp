@@ -1,9 +1,12 @@
 #include "qt/pole_edycji.h"
 
+#include "qt/obramowanie.h"
+
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QMouseEvent>
+#include <QStyleOption>
 
 #include <utility>
 
@@ -55,6 +58,11 @@ void PoleEdycji::endComposition() {
     QGuiApplication::inputMethod()->commit();
     if (std::exchange(composing_, false))
         reportEdit(); // it had nothing to add
+}
+
+void PoleEdycji::initStyleOption(QStyleOptionFrame* option) const {
+    QLineEdit::initStyleOption(option);
+    lightenOutline(option->palette);
 }
 
 void PoleEdycji::focusInEvent(QFocusEvent* event) {

@@ -28,6 +28,7 @@ public:
     void endComposition();
 
 protected:
+    void initStyleOption(QStyleOptionFrame*) const override;
     void focusInEvent(QFocusEvent*) override;
     void focusOutEvent(QFocusEvent*) override;
     void inputMethodEvent(QInputMethodEvent*) override;

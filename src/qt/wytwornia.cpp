@@ -7,8 +7,6 @@
 #include "qt/pole_edycji.h"
 #include "qt/widoki_znakow.h"
 
-#include <QCheckBox>
-
 namespace dorva::wytwornia {
 namespace {
 
@@ -45,7 +43,7 @@ QWidget* opcja(const Kontrolka& k, QWidget* parent) {
 }
 
 QWidget* znacznik(const Kontrolka& k, QWidget* parent) {
-    return new QCheckBox(toQString(k.caption), parent);
+    return new Znacznik(toQString(k.caption), parent);
 }
 
 QWidget* etykieta(const Kontrolka& k, QWidget* parent) {

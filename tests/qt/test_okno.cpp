@@ -118,6 +118,25 @@ TEST_F(OknoTest, ThePaletteWritesIntoTheSlotThatWasPicked) {
     EXPECT_EQ(readFile(etap(1))[uklad::KOLORY + 4], 180);
 }
 
+TEST_F(OknoTest, BoxesAreSeenInADarkPaletteToo) {
+    QPalette dark(QColor(49, 54, 59), QColor(49, 54, 59));
+    dark.setColor(QPalette::Base, QColor(35, 38, 41));
+    const QList<QWidget*> boxes{find("chkOstatni"), find("txtNazwa")};
+    for (const QPalette& palette : {okno->palette(), dark}) {
+        okno->setPalette(palette);
+        open();
+        for (const QWidget* box : boxes) {
+            const QImage shot = okno->grab().toImage();
+            const QRect place(box->mapTo(okno.get(), QPoint(0, 0)), box->size());
+            const int ground = palette.color(QPalette::Window).lightness();
+            int contrast = 0;
+            for (int y = place.top(); y <= place.bottom(); ++y)
+                contrast = std::max(contrast, std::abs(shot.pixelColor(place.left() + 6, y).lightness() - ground));
+            EXPECT_GT(contrast, 40) << box->objectName().toStdString() << " on " << ground;
+        }
+    }
+}
+
 TEST_F(OknoTest, ItOpensInTheMiddleOfTheScreenAndNeverAboveOrLeftOfIt) {
     const QRect area = okno->screen()->availableGeometry();
     showCentred(*okno);
