@@ -1,5 +1,7 @@
 #include "stanowisko.h"
 
+#include "stage/zbior_etapow.h"
+
 #include "tiles/zestaw.h"
 
 #include <QHelpEvent>
