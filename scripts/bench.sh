@@ -8,9 +8,7 @@ cmake --preset release >/dev/null
 cmake --build --preset release >/dev/null
 scripts/lay.sh build/release
 export QT_LOGGING_RULES='*=false' TMPDIR=${TMPDIR:-/var/tmp} # a disk, where flushing counts
-bench=build/release/bench
-results=$(mktemp)
-trap 'rm "$results"' EXIT
+bench=build/release/bench results=build/release/wyniki.json
 
 compare() { # compare PROGRAM [FIGURE=AIM...]
     "$1" --benchmark_repetitions=15 --benchmark_min_time=0.05 --benchmark_enable_random_interleaving=true \
