@@ -13,25 +13,26 @@ namespace {
 
 constexpr qint64 PIXELS_MAX = 16 << 20;
 
-// Offsets and values of the bitmap file header and of the info header behind it.
-constexpr int PIXELS_OFFSET = 10, DEPTH_OFFSET = 28, COMPRESSION_OFFSET = 30, HEADERS_SIZE_BYTES = 54;
-constexpr int UNCOMPRESSED = 0;
+// A file in memory. Notes whether the reader asked for more than there is: it shows what was cut short as if it were
+// whole.
+class PlikWPamieci : public QBuffer {
+public:
+    using QBuffer::QBuffer;
 
-std::uint32_t little(const QByteArray& bytes, int offset, int count) {
-    std::uint32_t value = 0;
-    for (int i = count; i-- > 0;)
-        value = value << 8U | static_cast<std::uint8_t>(bytes[offset + i]);
-    return value;
-}
+    bool cutShort = false;
 
-// The reader would fill up a file that was cut short.
-bool isWhole(const QByteArray& bytes, QSize size) {
-    if (bytes.size() < HEADERS_SIZE_BYTES)
-        return false;
-    if (little(bytes, COMPRESSION_OFFSET, 4) != UNCOMPRESSED)
-        return true;
-    const qint64 rowBytes = (qint64(size.width()) * little(bytes, DEPTH_OFFSET, 2) + 31) / 32 * 4;
-    return little(bytes, PIXELS_OFFSET, 4) + rowBytes * size.height() <= bytes.size();
+protected:
+    qint64 readData(char* bytes, qint64 count) override {
+        cutShort |= count > size() - pos();
+        return QBuffer::readData(bytes, count);
+    }
+};
+
+bool isTransparent(const QImage& image) {
+    const QImage alpha = image.convertToFormat(QImage::Format_Alpha8);
+    QImage none(alpha.size(), alpha.format());
+    none.fill(0);
+    return alpha == none;
 }
 
 } // namespace
@@ -42,17 +43,19 @@ std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width,
         return std::nullopt;
     QByteArray bytes =
         QByteArray::fromRawData(reinterpret_cast<const char*>(file->data()), static_cast<qsizetype>(file->size()));
-    QBuffer buffer(&bytes);
+    PlikWPamieci buffer(&bytes);
     QImageReader reader(&buffer, "bmp");
     reader.setAutoDetectImageFormat(false);
-    const QSize told = reader.size();
-    const QSize size(told.width(), std::abs(told.height())); // a height below 0: the rows run from the top down
-    if (size.isEmpty() || qint64(size.width()) * size.height() > PIXELS_MAX || !isWhole(bytes, size))
+    const QSize stored = reader.size();
+    const QSize size(stored.width(), std::abs(stored.height())); // a height below 0: the rows run from the top down
+    if (size.isEmpty() || qint64(size.width()) * size.height() > PIXELS_MAX)
         return std::nullopt;
-    const QImage image = reader.read();
-    if (image.isNull())
+    QImage image(size, reader.imageFormat());
+    image.fill(0); // runs may leave pixels out
+    if (!reader.read(&image) || buffer.cutShort)
         return std::nullopt;
-
+    if (image.format() == QImage::Format_ARGB32 && isTransparent(image))
+        image.reinterpretAsFormat(QImage::Format_RGB32); // the channel was left empty
     const QImage part = image.copy(image.rect() & QRect(0, 0, width, height)).convertToFormat(QImage::Format_ARGB32);
     const auto* pixels = reinterpret_cast<const std::uint32_t*>(part.constBits());
     return Bitmapa{part.width(), part.height(), {pixels, pixels + part.width() * part.height()}};
