@@ -35,8 +35,8 @@ void KontrolkiOkna::setTabOrder(const std::vector<std::string_view>& names) cons
         }
 }
 
-QWidget* KontrolkiOkna::find(std::string_view name, int index) const {
-    return window_->findChild<QWidget*>(nameOf(name, index));
+QWidget* KontrolkiOkna::find(const QWidget* within, std::string_view name, int index) {
+    return within->findChild<QWidget*>(nameOf(name, index));
 }
 
 void KontrolkiOkna::endWithoutControl(std::string_view name, int index) {

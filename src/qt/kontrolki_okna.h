@@ -19,14 +19,17 @@ public:
 
     // The widget of a control.
     template <typename Widget> Widget* get(std::string_view name, int index = -1) const {
-        return checked<Widget>(find(name, index), name, index);
+        return checked<Widget>(find(window_, name, index), name, index);
     }
 
     // The widgets of a control array, in order; of a single control that alone.
     template <typename Widget> std::vector<Widget*> getAll(std::string_view name) const {
         std::vector<Widget*> all;
-        for (int index = 0; QWidget* widget = find(name, index); ++index)
+        const QWidget* container = window_;
+        for (int index = 0; QWidget* widget = find(container, name, index); ++index) {
             all.push_back(checked<Widget>(widget, name, index));
+            container = widget->parentWidget(); // of the whole array
+        }
         return all.empty() ? std::vector{get<Widget>(name)} : all;
     }
 
@@ -34,7 +37,7 @@ public:
     void setTabOrder(const std::vector<std::string_view>& names) const;
 
 private:
-    [[nodiscard]] QWidget* find(std::string_view name, int index) const;
+    [[nodiscard]] static QWidget* find(const QWidget* within, std::string_view name, int index);
 
     template <typename Widget> static Widget* checked(QWidget* found, std::string_view name, int index) {
         auto* widget = dynamic_cast<Widget*>(found);
