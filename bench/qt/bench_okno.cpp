@@ -25,8 +25,8 @@ namespace fs = std::filesystem;
 constexpr QSize BOARD(dorva::PLANSZA_COLUMNS* dorva::KRATKA_SIDE, dorva::PLANSZA_ROWS* dorva::KRATKA_SIDE);
 
 // A window on a copy of the built working folder.
-struct Stanowisko {
-    Stanowisko() {
+struct OknoPomiaru {
+    OknoPomiaru() {
         std::string pattern = (fs::temp_directory_path() / "dorva-XXXXXX").string();
         folder = ::mkdtemp(pattern.data());
         fs::copy(DORVA_DATA, folder, fs::copy_options::recursive);
@@ -35,7 +35,7 @@ struct Stanowisko {
         okno.show();
         QApplication::processEvents();
     }
-    ~Stanowisko() { fs::remove_all(folder); }
+    ~OknoPomiaru() { fs::remove_all(folder); }
 
     fs::path folder;
     dorva::Edytor edytor;
@@ -100,7 +100,7 @@ void BM_OknoStrokePlain(benchmark::State& state) {
 BENCHMARK(BM_OknoStrokePlain)->UseManualTime();
 
 void BM_OknoStroke(benchmark::State& state) {
-    Stanowisko s;
+    OknoPomiaru s;
     auto* board = s.okno.findChild<QWidget*>("imgPG");
     measure(state, [&](int n) {
         s.edytor.okno.imgBufor = s.edytor.okno.imgZnak[n % 8];
@@ -126,7 +126,7 @@ void BM_OknoSwiatPlain(benchmark::State& state) {
 BENCHMARK(BM_OknoSwiatPlain)->UseManualTime();
 
 void BM_OknoSwiat(benchmark::State& state) {
-    Stanowisko s;
+    OknoPomiaru s;
     measure(state, [&](int n) {
         (void)dorva::SelectObiektyNR(s.edytor, (s.edytor.okno.optObiektyNR + 1 + n % 2) % dorva::SWIATY_COUNT);
         s.okno.showRecord();
