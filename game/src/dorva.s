@@ -2,14 +2,15 @@
 ; steps at it stands in wejscia.s.
 .include "reguly.inc"
 .export dorva_takt, podstaw_dorve, rysuj_dorve, policz_wspolrzedne, dorva_inv
-.export na_pole, na_to, wejdz, zapadnij, zostaw_zapach
+.export na_pole, na_to, wejdz, mur, zapadnij, zostaw_zapach
 .exportzp dorva, dorva_x, dorva_y, zegar, kier, cel_kod, opor, naczynia, krzyk, ochrona
 .importzp drazek, spust, wsk, wpod, wstan, wzap, kolej, wynik, komunikat, energia, bomby
 .import plansza, zapach, sasiad, delta_lo, delta_hi, wskaz_pole, wejscia_lo, wejscia_hi
 .import zran, zabierz, zglos_efekt
 
 KIERUNKI_DRAZKA = 4
-PIERWSZY_KROK = 10                      ; ticks from the step of a press to the first one of holding on
+PIERWSZY_KROK = 10                      ; ticks from the step of a press to the first one of holding on, after a rest
+ODPOCZYNEK = 6                          ; idle ticks that make a rest
 GLEBOKO   = 4                           ; so deep in the swamp she drowns
 
 .segment "ZEROPAGE"
@@ -30,12 +31,13 @@ byl_spust: .res 1       ; the trigger was pressed in the tick before
 byl_drazek: .res 1      ; directions pressed in the tick before
 wybrany: .res 1         ; the newest of those that are held
 nowy:    .res 1         ; a direction pressed since the last step
-chce:    .res 1         ; the direction that she is to go
+chce:    .res 1         ; the directions of which one is looked for
+zagrodzona: .res 1      ; not 0: there was no getting on in the direction just tried
 glebokosc: .res 1       ; 0 on firm ground, 1 knees, 2 armpits, 3 eyes
 tonie:   .res 1         ; ticks since she sank deeper
 po_bagnie: .res 1       ; she has just come out of the swamp
 brodzi:  .res 1         ; ticks that she has stood in this water
-opor:    .res 1         ; tugs at a thicket
+opor:    .res 1         ; tugs at thickets since she came here
 naczynia: .res 1        ; jars broken so far
 wsk_dorvy: .res 2
 
@@ -78,6 +80,22 @@ podstaw_dorve:
         sta bezruch
         rts
 
+; Points at her own surroundings.
+wskaz_dorve:
+        lda dorva
+        ldx dorva+1
+        jmp wskaz_pole
+
+; X := one of the directions A, bits of the stick. Z is clear. Keeps Y.
+wez_kierunek:
+        sta chce
+        ldx #KIERUNKI_DRAZKA
+@nie:   dex
+        lda chce
+        and bity_drazka,x
+        beq @nie
+        rts
+
 ; Her part of a tick.
 dorva_takt:
         lda ochrona
@@ -92,37 +110,48 @@ dorva_takt:
 :       lda powtorka
         beq :+
         dec powtorka
-:       lda dorva
-        ldx dorva+1
-        jsr wskaz_pole
+:       jsr wskaz_dorve
         jsr otoczenie
         jsr sprawdz_spust
         jsr sprawdz_drazek
         lda odstep
         bne @rysuj
-        ldy #PIERWSZY_KROK
+        ldy #KROK
         lda nowy
-        bne @chce                       ; each press is a step
+        bne @nacisniety                 ; each press is a step
         lda powtorka
         bne @stoi
-        ldy #KROK
         lda wybrany
-@chce:  sta chce
-        ldx #KIERUNKI_DRAZKA - 1
-@kierunek:
-        lda chce
-        and bity_drazka,x
+        beq @stoi
+        jsr wez_kierunek
         bne @krok
-        dex
-        bpl @kierunek
 @stoi:  lda bezruch
         cmp #BEZRUCH
         bcs @rysuj
         inc bezruch
         bne @rysuj
+@nacisniety:
+        jsr wez_kierunek
+        cpx kier
+        beq @od_nowa
+        lda bezruch                     ; a turn on the way doesn't slow her
+        cmp #ODPOCZYNEK
+        bcc @krok
+@od_nowa:
+        ldy #PIERWSZY_KROK
 @krok:  sty powtorka
         lda #0
         sta nowy
+        jsr zrob_krok
+        lda zagrodzona
+        beq @rysuj
+        jsr wskaz_dorve                 ; she goes on in another direction that is held
+        ldx kier
+        lda bity_drazka,x
+        eor #15
+        and byl_drazek
+        beq @rysuj
+        jsr wez_kierunek
         jsr zrob_krok
 @rysuj:
 ; Shows her as she is now.
@@ -266,6 +295,7 @@ zrob_krok:
         sta odstep
         lda #0
         sta bezruch
+        sta zagrodzona
         ldy sasiad,x
         lda (wstan),y
         and #S_BRZEG
@@ -276,17 +306,15 @@ zrob_krok:
         bne mur
         lda cel_kod
         and #$3F
-        cmp #ZAROSLA
-        beq :+
-        ldx #0
-        stx opor
-:       tax
+        tax
         lda wejscia_lo,x
         sta co_robi
         lda wejscia_hi,x
         sta co_robi+1
         jmp (co_robi)                   ; Y: where to
-mur:    rts
+; What bars her way altogether.
+mur:    inc zagrodzona
+        rts
 
 ; She goes on a tile that stays beneath her.
 na_pole:
@@ -320,6 +348,7 @@ wejdz:  sta na_plansze
         lda #0
         sta po_bagnie
         sta brodzi
+        sta opor
         lda na_plansze
         and #$7F
         cmp #BAGNO

@@ -5,7 +5,7 @@
 .importzp wsk, wpod, wstan, dorva, kier, cel_kod, opor, naczynia
 .importzp klucze, maszyna_stoi, pochodnia, otwarte, brak_masek, wynik, komunikat, po_przeskoku
 .import plansza, sasiad, wskaz_pole, przejdz, przesun, zapal
-.import na_pole, na_to, wejdz, zapadnij, zostaw_zapach, policz_wspolrzedne
+.import na_pole, na_to, wejdz, mur, zapadnij, zostaw_zapach, policz_wspolrzedne
 .import zran, zabierz, dodaj_punkty, dodaj_energie, dodaj_bombe, dodaj_klucz, dodaj_monete, otworz, zglos_efekt
 
 SZARPNIECIA = 3                         ; tugs until a thicket lets her through
@@ -34,8 +34,6 @@ wejscia_hi: .hibytes WEJSCIA
         .assert wejscia_hi - wejscia_lo = 64 && * - wejscia_hi = 64, error, "one entry a tile"
 
 .segment "CODE"
-
-mur:    rts
 
 ; earth: dug, and a trace is left
 kop:    dzwiek EF_KOPIE
@@ -80,9 +78,7 @@ zarosla:
         lda opor
         cmp #SZARPNIECIA
         bcc stoi
-        lda #0
-        sta opor
-        beq na_puste
+        bcs na_puste
 @pal:   jsr zapal
         dzwiek EF_STRZAL
 stoi:   rts
@@ -95,7 +91,7 @@ wyjscie:
         jmp na_to
 @za_malo:
         powiedz KOM_MASKI
-        rts
+        jmp mur
 
 drzwi:  lda klucze
         beq @nie
@@ -104,7 +100,7 @@ drzwi:  lda klucze
         powiedz KOM_DRZWI
         jmp na_puste
 @nie:   powiedz KOM_KLUCZ
-        rts
+        jmp mur
 
 ; Water costs strength; it wounds nobody, so a fresh wound is no shelter.
 w_wode: lda #RANA_WODA
@@ -116,12 +112,12 @@ w_wode: lda #RANA_WODA
 w_ogien:
         lda (wstan),y
         and #S_LICZNIK
-        bne pali_sie
+        bne @pali_sie
         lda #RANA_OGIEN
         jsr zran
         jmp na_to
-pali_sie:
-        rts
+@pali_sie:
+        jmp mur
 
 maska:  lda #$00                        ; 100
         ldx #$01
@@ -180,7 +176,7 @@ skrzynia:
         ldy sasiad,x
         lda (wstan),y
         and #S_BRZEG
-        bne @stoi
+        bne @nie
         lda (wsk),y
         and #$7F
         beq @dalej                      ; nothing
@@ -193,7 +189,7 @@ skrzynia:
         cmp #WODA
         beq @zasyp
         cmp #BAGNO
-        bne @stoi
+        bne @nie
 @zasyp: lda #NIC                        ; the crate is gone, the cell is ground
         sta (wsk),y
         ldy #TU
@@ -214,7 +210,7 @@ skrzynia:
         tax
         jsr przejdz
         jmp na_to
-@stoi:  rts
+@nie:   jmp mur
 
 ; The swamp: every step into it is one deeper.
 w_bagno:
@@ -313,7 +309,7 @@ przenies:
 duch:   lda #RANA_DUCH
         ldx pochodnia
         beq rani
-        rts
+        jmp mur
 stwor:  lda #RANA_STWOR
         bne rani
 straznik:

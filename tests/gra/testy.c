@@ -201,8 +201,19 @@ static const struct wiersz chodzenie[] = {
     {0, "12", "    D"},
     {0, ". 2 r 10", "     D"},                /* a second press waits for no more than the pace of steps */
     {"D    /     /     ", "r 6 d 6", " /#D"}, /* the newest direction wins */
-    {0, ".r 6 d 2 .r 12", "//##D"},           /* a tap between two steps counts */
-    {"D.~.? ", "RRRR", "##D? "},              /* INV partners and codes that are no tiles */
+    {0, ".r 2 d 2 .r 6", "//##D"},            /* a tap between two steps counts */
+    {"D     ", "r 18 . 5 r 7", "    D"},      /* the same direction anew: held, it waits as at first */
+    {0, "4", "     D"},
+    {"D   ", "rd 10", " D"}, /* where the newest is barred she goes on in another one */
+    {0, "7", "   D"},
+    {"D   /|| ", "r 3 d 9", "  D"},
+    {0, "1", "/##D"},
+    {"D    /|+ESz", "r 3 d 18", "    D", "g2"}, /* a door, an exit, a crate may bar her; at a thicket she tugs */
+    {0, "15", "    D"},
+    {0, "1", "/####D"},
+    {"D/z", "d 2 r 10", "D"},
+    {0, "1", "/D"},
+    {"D.~.? ", "RRRR", "##D? "}, /* INV partners and codes that are no tiles */
     {0, "L", "#D~,?"},
     {"  ", "", 0, "j0"},
     {" DD ", "RRR", " DD ", "j1 h2"}, /* the second is a statue */
@@ -366,6 +377,34 @@ static void brzeg(void) {
     CHECK(tu(1, 2) && pole(1, 0) == NIC);
 }
 
+/* Held and turned, the stick makes her as fast as on a straight way, wherever the corners are; pressed early, both ways
+   are held up to the corner. A tracker takes 6.75 ticks a cell. */
+static void zakrety(void) {
+    static const byte bity[2] = {KIJ_PRAWO, KIJ_DOL};
+    byte prosto, wczesniej, odcinek, krok, czeka;
+    unsigned ile, pola, i;
+    for (prosto = 1; prosto <= 5; ++prosto)
+        for (wczesniej = 0; wczesniej <= 4; ++wczesniej) {
+            const byte odcinki = 17 / prosto * 2;
+            memset(plansza, MUR_V, POLA);
+            plansza[i = KOLUMNY + 1] = DORVA;
+            for (odcinek = 0; odcinek < odcinki; ++odcinek)
+                for (krok = 0; krok < prosto; ++krok)
+                    plansza[i += odcinek & 1 ? KOLUMNY : 1] = NIC;
+            start();
+            ile = pola = 0;
+            for (odcinek = 0; odcinek < odcinki; ++odcinek)
+                for (krok = 0; krok < prosto; ++krok, ++pola)
+                    for (i = dorva_x + dorva_y, czeka = KROK; dorva_x + dorva_y == i && ile < 2000; ++ile, --czeka) {
+                        drazek = 15 - bity[odcinek & 1];
+                        if (pola && krok == prosto - 1 && czeka <= wczesniej)
+                            drazek -= bity[~odcinek & 1];
+                        takt();
+                    }
+            CHECK(ile * 100 < pola * 620);
+        }
+}
+
 /* A trail is 128 steps long, however old the one before is. */
 static void trop(void) {
     byte i;
@@ -440,7 +479,7 @@ static const struct {
 } grupy[] = {TABELA("chodzenie", chodzenie), TABELA("branie", branie),     TABELA("pchanie", pchanie),
              TABELA("bomby", bomby_i_mury),  TABELA("wedrowcy", wedrowcy), TABELA("strzelanie", strzelanie),
              TABELA("zywioly", zywioly),     TABELA("inv", inv),           {"brzeg", 0, 0, brzeg},
-             {"trop", 0, 0, trop},           {"losowe", 0, 0, losowe}};
+             {"zakrety", 0, 0, zakrety},     {"trop", 0, 0, trop},         {"losowe", 0, 0, losowe}};
 
 int main(int argc, char* argv[]) {
     byte i;
