@@ -431,6 +431,7 @@ static byte sprobuj(byte proba) {
     powroty = POWROTY;
     los_stan = 1 + proba * 7919u;
     spust = 1;
+    nowy_etap();
     if (!start())
         return 0;
     for (n = 0; n < proba * 5; ++n)
@@ -501,6 +502,7 @@ static byte badz_smialy(void) {
 static byte graj(const char* p) {
     unsigned n;
     nowa_gra();
+    nowy_etap();
     memcpy(plansza, rekord + ETAP_PLANSZA, POLA);
     cel_masek = rekord[ETAP_CEL];
     spust = 1;

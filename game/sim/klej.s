@@ -19,6 +19,7 @@
         daj nowa_gra
         daj nowy_etap
         daj cofnij_probe
+        daj powtorz_probe
         daj_zp drazek
         daj_zp spust
         daj_zp wynik

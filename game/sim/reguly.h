@@ -39,6 +39,7 @@ extern byte* const bss_koniec;
 void nowa_gra(void);
 void nowy_etap(void);
 void cofnij_probe(void);
+void powtorz_probe(void);
 byte start(void); /* 1: there is a heroine */
 void takt(void);
 

@@ -3,7 +3,7 @@
 .include "reguly.inc"
 .export graj, pierwszy_etap
 .importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
-.import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, reguly_start, takt, rysuj_dorve
+.import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe, reguly_start, takt, rysuj_dorve
 .import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
 .import linia_info, dwie_cyfry
 .import zacznij_panel, rysuj_panel, info_powitanie, info_takt
@@ -14,11 +14,17 @@ PREMIA_KOLUMNA = 26                     ; 17 letters in the middle of 40, the fi
 ETAPY     = 32
 CH_ESC    = 28
 CH_BRAK   = $FF
-KLAWISZE  = %111                        ; START, SELECT, OPTION
+CZAS_PYTANIA = 50                       ; frames in which START or ESC may be pressed again
+
+; the keys of the game, a bit each
+KONSOLA   = %0111                       ; START, SELECT, OPTION as CONSOL has them, but 1 is down
+ESC       = %1000
+W_GORZE   = %0100                       ; a bit of SKSTAT: no key of the keyboard is down
 
 ; what wynik says beside the rules' own results, once graj_etap has returned
 PODDANA   = 0
 NOWA_GRA  = 3
+OD_NOWA   = 4
 
 .segment "ZEROPAGE"
 klatka:  .res 1         ; the frame that the tick began in
@@ -29,7 +35,10 @@ pierwszy_etap: .res 1   ; the stage that the player has chosen
 do_panelu: .res 1       ; frames until the panel is written again
 powitanie_trwa: .res 1
 pauza:   .res 1
-byly_klawisze: .res 1   ; console keys that were down in the frame before
+klawisze: .res 1        ; the keys that are down
+byly_klawisze: .res 1   ; those that were in the frame before
+pytanie: .res 1         ; the message that asks for a second press, KOM_BRAK for none
+czas_pytania: .res 1
 
 .segment "CODE"
 
@@ -53,13 +62,20 @@ graj:   lda #0
         bcc @koniec
         beq @przeszla
         cmp #NOWA_GRA
-        beq @od_nowa
+        beq @nowa_gra
+        bcs @od_nowa
         jsr pokaz_strate
         dec zycia
         beq @koniec
         jsr cofnij_probe
         jmp @proba
 @od_nowa:
+        jsr cisza
+        lda powitanie_trwa              ; nothing has happened yet
+        bne @proba
+        jsr powtorz_probe
+        jmp @proba
+@nowa_gra:
         jsr cisza
         lda pierwszy_etap
         sta numer_etapu
@@ -83,13 +99,15 @@ graj:   lda #0
 graj_etap:
         lda #CH_BRAK
         sta CH
-        lda #KLAWISZE
+        lda #KONSOLA | ESC
         sta byly_klawisze               ; what is held already is no press
         lda #1
         sta do_panelu
         sta powitanie_trwa
         lda #0
         sta pauza
+        sta pytanie
+        sta czas_pytania
 @klatka:
         jsr czekaj_klatke
         lda RTCLOK+2
@@ -134,50 +152,83 @@ graj_etap:
 @koniec:
         jmp rysuj_panel
 
-; The keys mean the same in the greeting, in play and in a pause. C: one of them has ended the try, wynik tells how.
+; The keys mean the same in the greeting, in play and in a pause. START and ESC want a second press, since the first may
+; be a slip. C: one of them has ended the try, wynik tells how.
 sprawdz_klawisze:
-        lda CH
-        ldx #CH_BRAK
-        stx CH
-        cmp #CH_ESC
-        beq @poddana
-        lda CONSOL
-        eor #$FF
-        and #KLAWISZE
-        tax
-        eor byly_klawisze               ; down now and not before
-        stx byly_klawisze
-        and byly_klawisze
+        jsr czytaj_klawisze
+        ldx #KOM_NOWA_GRA
+        ldy #NOWA_GRA
         lsr
-        bcs @nowa_gra
+        bcs @zapytaj
+        ldy #OD_NOWA
         lsr
-        bcs @od_nowa
+        bcs @koniec
         lsr
-        bcc @nic
+        bcs @pauza
+        ldx #KOM_KONIEC
+        ldy #PODDANA
+        lsr
+        bcs @zapytaj
+        lda czas_pytania
+        beq @nic
+        dec czas_pytania
+        bne @nic
+        lda #KOM_BRAK                   ; it has not been pressed again
+        sta pytanie
         lda pauza
+        bne @slowo_pauzy
+@gramy: jsr info_powitanie
+@nic:   clc
+        rts
+@zapytaj:
+        cpx pytanie
+        beq @koniec
+        stx pytanie
+        lda #CZAS_PYTANIA
+        sta czas_pytania
+        bne @powiedz
+@pauza: lda pauza
         eor #1
         sta pauza
         beq @gramy
         jsr cisza
-        lda #KOM_PAUZA
-        sta komunikat
+@slowo_pauzy:
+        ldx #KOM_PAUZA
+@powiedz:
+        stx komunikat
         jsr info_takt
         clc
         rts
-@gramy: jsr info_powitanie
-        clc
-@nic:   rts
-@poddana:
-        lda #PODDANA
-        beq @koniec
-@nowa_gra:
-        lda #NOWA_GRA
-        bne @koniec
-@od_nowa:
-        lda #DORVA_GINIE
 @koniec:
-        sta wynik
+        sty wynik
         sec
+        rts
+
+; A := the keys that have been pressed in this frame. A key that is held repeats, but that is no press.
+czytaj_klawisze:
+        lda CONSOL
+        eor #$FF
+        and #KONSOLA
+        sta klawisze
+        ldx CH
+        lda #CH_BRAK
+        sta CH
+        cpx #CH_ESC
+        beq @esc
+        lda SKSTAT
+        and #W_GORZE
+        bne @jest
+        lda byly_klawisze               ; a key is down: ESC, if it was
+        and #ESC
+        beq @jest
+@esc:   lda #ESC
+        ora klawisze
+        sta klawisze
+@jest:  lda byly_klawisze
+        eor #$FF
+        and klawisze
+        ldx klawisze
+        stx byly_klawisze
         rts
 
 ; A life is lost: a flash, her last cry, a word.

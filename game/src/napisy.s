@@ -49,10 +49,12 @@ k_pauza:     tekst "PAUZA - OPTION: GRAMY DALEJ"
 k_stracila:  tekst "STRACIlA zYCIE"
 k_premia:    tekst "PREMIA ZA CZAS 00"
 k_drzwi:     tekst "DRZWI STOJa OTWOREM"
+k_nowa_gra:  tekst "START JESZCZE RAZ - NOWA GRA"
+k_koniec:    tekst "ESC JESZCZE RAZ - KONIEC GRY"
 
 .linecont +
 .define KOMUNIKATY k_klucz, k_klucz, k_maski, k_otwarte, k_bomba, k_stoi, k_rusza, k_ogien, k_zycie, k_pauza, \
-        k_stracila, k_premia, k_drzwi
+        k_stracila, k_premia, k_drzwi, k_nowa_gra, k_koniec
 komunikaty_lo: .lobytes KOMUNIKATY
 komunikaty_hi: .hibytes KOMUNIKATY
 

@@ -3,7 +3,7 @@
 ; In: plansza and cel_masek before reguly_start; drazek (as STICK0: 0 bits are pressed) and spust (as STRIG0:
 ; 0 is pressed) before takt. Out: wynik, efekt, komunikat and the figures of the panel.
 .include "reguly.inc"
-.export reguly_start, takt, nowa_gra, nowy_etap, cofnij_probe
+.export reguly_start, takt, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .export cel_masek, monety, zycia_za_monety, zycia_w_probie, premia
 .exportzp drazek, spust, wynik, efekt, komunikat, energia, zycia, klucze, bomby, brak_masek
 .exportzp maszyna_stoi, pochodnia, otwarte, po_przeskoku
@@ -66,10 +66,24 @@ nowy_etap:
         sta na_starcie + 3
         lda #0
         sta zycia_za_monety
+        beq nowe_sily
+
+; A lost try is forgotten, with its points and coins; the next one begins in full strength.
+cofnij_probe:
+        jsr bez_zdobyczy
+nowe_sily:
+        lda #ENERGIA_PELNA
+        sta energia
+        lda #PREMIA_PELNA
+        sta premia
         rts
 
-; A lost try is forgotten, with its points and coins.
-cofnij_probe:
+; A try that the player begins anew is forgotten in the same way, but she keeps the energy that she has, and the next try
+; earns no bonus for time.
+powtorz_probe:
+        lda #0
+        sta premia
+bez_zdobyczy:
         ldx #2
 :       lda na_starcie,x
         sta punkty,x
@@ -79,7 +93,8 @@ cofnij_probe:
         sta monety
         rts
 
-; Sets the rules up on the board for a try. C: there is no heroine on it.
+; Sets the rules up on the board for a try; her energy and the bonus for time are set already. C: there is no heroine on
+; it.
 reguly_start:
         ldx #0
         txa
@@ -104,10 +119,6 @@ reguly_start:
         sta kolej
         sta dorva
         sta dorva+1
-        lda #ENERGIA_PELNA
-        sta energia
-        lda #PREMIA_PELNA
-        sta premia
         lda #TAKTY_PREMII
         sta do_premii
         lda #$5A                        ; the same chances in every try

@@ -6,8 +6,8 @@
    `2:` in front is the goal, else 1. A row without a board goes on where the last one ended.
 
    Moves: L R U D a tap of the stick, so one step; B a tap of the trigger; - a step's time; a number: ticks. l r u d b
-   hold the stick or the trigger on; `.` lets all go. `=e50` sets a figure. `:` a new stage begins; `!` the try is lost
-   and the board laid anew.
+   hold the stick or the trigger on; `.` lets all go. `=e50` sets a figure. `:` a new stage begins; `!` the try is lost,
+   `?` begun anew at the player's wish, and the board laid anew.
 
    Board after: what must stand where, `#` anything; D is the heroine in any form.
 
@@ -107,8 +107,8 @@ static void rusz(const char* p, const char* uklad) {
             *gdzie[i] = liczba(&p);
         } else if (c == ':')
             nowy_etap();
-        else if (c == '!') {
-            cofnij_probe();
+        else if (c == '!' || c == '?') {
+            c == '!' ? cofnij_probe() : powtorz_probe();
             uloz(uklad);
         } else if (c != ' ') {
             if (isupper(c) || c == '.')
@@ -241,6 +241,9 @@ static const struct wiersz branie[] = {
     {0, "RRRRRRRRRRRRRRRRRRRR", 0, "z4 x4"}, /* the life comes once a stage, not once a try */
     {"D$ ", "=c19 : R", 0, "z4"},
     {0, "!", 0, "c19"},
+    {"D$^$", "RRR", 0, "c2 e79 p99"},
+    {0, "?", "D$^$", "c0 e79 p0 z3 x0"}, /* begun anew, a try costs no life, but gives no strength and no bonus */
+    {0, "RRR !", "D$^$", "c0 e99 p99"},
     {"Dz  ", "RR", "Dz"}, /* a thicket holds back for a while */
     {0, "R", " D"},
     {"Dizzz ", "r 23", " Df"},    /* not with a torch: it burns before she may enter, */
@@ -483,6 +486,8 @@ static const struct {
 
 int main(int argc, char* argv[]) {
     byte i;
+    nowa_gra();
+    nowy_etap();
     for (i = 0; i < sizeof(grupy) / sizeof(*grupy); ++i)
         if (argc < 2 || !strcmp(argv[1], grupy[i].nazwa)) {
             sprawdz(grupy[i].wiersze, grupy[i].ile);
