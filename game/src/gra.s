@@ -31,7 +31,7 @@ klatka:  .res 1         ; the frame that the tick began in
 spoznione: .res 1       ; ticks that took longer than their frame: none, and scripts/play-check.py looks
 
 .segment "BSS"
-pierwszy_etap: .res 1   ; the stage that the player has chosen
+pierwszy_etap: .res 1   ; the stage that the title offers and START begins at: chosen there, or reached in the last game
 do_panelu: .res 1       ; frames until the panel is written again
 powitanie_trwa: .res 1
 pauza:   .res 1
@@ -90,9 +90,13 @@ graj:   lda #0
         bcc @etap
 @wygrana:
         jsr cisza
+        lda #1
+        sta pierwszy_etap
         jmp ekran_wygranej
 @koniec:
         jsr cisza
+        lda numer_etapu
+        sta pierwszy_etap
         jmp ekran_konca
 
 ; Plays the stage on the board, which stands still until her first move and in a pause. wynik tells how it ends.
