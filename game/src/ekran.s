@@ -5,7 +5,7 @@
 ; changes the colours while the beam draws an empty line.
 .include "atari.inc"
 .include "reguly.inc"
-.export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, blysnij, czekaj_klatke, czekaj_klatki, czysc_tekst
+.export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, wez_kolory, blysnij, czekaj_klatke, czekaj_klatki, czysc_tekst
 .export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, kolory
 .import barwa_tekstu
 .import pokaz_nakladke, schowaj_nakladke, plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
@@ -118,11 +118,7 @@ pokaz_tekst:
         lda #<dli_tekst
         ldx #>dli_tekst
         jsr ustaw_dli
-        ldx #4
-@kolor: lda kolory + 4,x
-        sta COLOR0,x
-        dex
-        bpl @kolor
+        jsr wez_kolory
         lda #OBRAZ
         sta obraz
         ldx #>zestaw
@@ -134,6 +130,15 @@ pokaz:  stx CHBAS
         lda obraz
         sta SDMCTL
         jmp czekaj_klatke
+
+; The tiles of a text screen wear the stage's colours.
+wez_kolory:
+        ldx #4
+@kolor: lda kolory + 4,x
+        sta COLOR0,x
+        dex
+        bpl @kolor
+        rts
 
 ; The interrupts of the next list begin at A (low), X (high).
 ustaw_dli:

@@ -2,12 +2,13 @@
 .include "atari.inc"
 .include "rekord.inc"
 .include "reguly.inc"
-.export wczytaj_etap, ostatni, powitanie
+.export wczytaj_etap, wez_etap, ostatni, powitanie
 .exportzp numer_etapu
 .import plansza, cel_masek, kolory, wez_zestaw, zgas_ekran
 
 ETAPY_W_BANKU = 16
 SWIATY    = 3
+ZADEN     = $FF
 
 .segment "ZEROPAGE"
 numer_etapu: .res 1     ; 1..32
@@ -17,13 +18,20 @@ gdzie:   .res 2
 .segment "BSS"
 ostatni: .res 1
 swiat:   .res 1
+swiat_zestawu: .res 1   ; whose tiles are at hand
 powitanie: .res 32
 
 .segment "CODE"
 
-; Takes stage numer_etapu: its board, colours, goal, flag, world, greeting. The description stays where it is.
+; Takes stage numer_etapu to be played: with the picture off, since the board on show is the one that changes, and with
+; the tiles as they were drawn, the exit closed.
 wczytaj_etap:
-        jsr zgas_ekran                  ; the board on show is the one that changes
+        jsr zgas_ekran
+        lda #ZADEN
+        sta swiat_zestawu
+; Takes stage numer_etapu: its board, colours, goal, flag, world, greeting, and the tiles if its world is another one than
+; before. The description stays where it is.
+wez_etap:
         ldx #BANK0
         lda numer_etapu
         sec
@@ -91,4 +99,9 @@ wczytaj_etap:
         lda #GLOWNA
         sta PORTB
         lda swiat
+        cmp swiat_zestawu
+        beq @te_same
+        sta swiat_zestawu
         jmp wez_zestaw
+@te_same:
+        rts

@@ -8,7 +8,7 @@
 .export tytul, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
 .import pierwszy_etap, zacznij_muzyke, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
-.import czysc_tekst, pokaz_tekst, czekaj_klatke, wczytaj_etap
+.import czysc_tekst, pokaz_tekst, wez_kolory, czekaj_klatke, wczytaj_etap, wez_etap, ostatni, powitanie
 .import t_cel, t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
 .import t_dalej, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 
@@ -75,7 +75,6 @@ tytul:  lda pierwszy_etap
         lda #PROSTO
         sta drazek_tytulu
         jsr zacznij_muzyke
-@od_nowa:
         jsr rysuj_tytul
 @czekaj:
         jsr czekaj_klatke
@@ -84,6 +83,8 @@ tytul:  lda pierwszy_etap
         bne @drazek
         jmp czekaj_na_puszczenie
 @drazek:
+        jsr bez_wyboru
+        bcs @czekaj
         lda STICK0
         and #PROSTO
         ldx #PIERWSZE_POWTORZENIE
@@ -112,7 +113,22 @@ tytul:  lda pierwszy_etap
         ldx #ETAPY
 @etap:  stx numer_etapu
         stx pierwszy_etap
-        jmp @od_nowa
+        jsr wez_etap
+        jsr wez_kolory
+        jsr nazwij_etap
+        jmp @czekaj
+
+; C: the first stage is the last one too, as in a test game, so there is nothing to choose.
+bez_wyboru:
+        lda numer_etapu
+        cmp #1
+        bne @jest
+        lda ostatni
+        beq @jest
+        sec
+        rts
+@jest:  clc
+        rts
 
 ; Shows the title for stage numer_etapu: the logo wears its world and colours.
 rysuj_tytul:
@@ -122,16 +138,31 @@ rysuj_tytul:
         jsr rysuj_logo
         jsr pisz_linie
         pisz_w 7, t_nowy
+        jsr bez_wyboru
+        bcc :+
+        lda #0
+        sta ekran + 7 * 40 + 14         ; no arrows
+        sta ekran + 7 * 40 + 24
+:       jsr nazwij_etap
+        pisz_w 9, t_grasz
+        pisz_w 11, t_cel
+        pisz_w 12, t_klawisze1
+        pisz_w 13, t_klawisze2
+        pisz_w 14, t_klawisze3
+        jmp pokaz_tekst
+
+; Writes the number of the chosen stage and its greeting.
+nazwij_etap:
         lda numer_etapu
         jsr dwie_cyfry
         stx ekran + 7 * 40 + 21
         sta ekran + 7 * 40 + 22
-        pisz_w 8, t_cel
-        pisz_w 9, t_grasz
-        pisz_w 11, t_klawisze1
-        pisz_w 12, t_klawisze2
-        pisz_w 13, t_klawisze3
-        jmp pokaz_tekst
+        ldx #31
+@znak:  lda powitanie,x
+        sta ekran + 8 * 40 + 4,x
+        dex
+        bpl @znak
+        rts
 
 ; Game over.
 ekran_konca:
