@@ -14,6 +14,10 @@ ZRANIONA  = $5A                         ; the dress while she flickers
 BIEL      = $0E                         ; all of her, as she blinks before her first move
 WYS       = 8
 
+.segment "ZEROPAGE"
+wsk_nakladki: .res 2    ; her cell on the board
+wiersze: .res 1         ; rows of her shape still to be drawn
+
 ; Players at single-line resolution. ANTIC would find the missiles at the end of the board; none are on show.
 .segment "GRACZE"
 gracz0: .res 256
@@ -163,7 +167,3 @@ rysuj_nakladke:
         dec wiersze
         bne @rysuj
         rts
-
-.segment "ZEROPAGE"
-wsk_nakladki:     .res 2
-wiersze: .res 1
