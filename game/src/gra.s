@@ -3,7 +3,8 @@
 .include "reguly.inc"
 .export graj, pierwszy_etap
 .importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
-.import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe, reguly_start, takt, rysuj_dorve
+.import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
+.import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
 .import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
 .import linia_info, dwie_cyfry
 .import zacznij_panel, rysuj_panel, info_powitanie, info_takt
@@ -134,8 +135,9 @@ graj_etap:
         sta drazek
         lda STRIG0
         sta spust
-        jsr takt
-        jsr rysuj_nakladke
+        jsr takt_dorvy
+        jsr rysuj_nakladke              ; before the beam comes to the board; the others may take longer
+        jsr takt_innych
         lda otwarte
         beq :+
         jsr otworz_wyjscie

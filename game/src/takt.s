@@ -1,9 +1,10 @@
-; A stage from start to end: reguly_start sets the rules up on the board, takt is one tick of play.
+; A stage from start to end: reguly_start sets the rules up on the board, takt is one tick of play. The game runs its two
+; halves by themselves and shows her in between.
 ;
 ; In: plansza and cel_masek before reguly_start; drazek (as STICK0: 0 bits are pressed) and spust (as STRIG0:
 ; 0 is pressed) before takt. Out: wynik, efekt, komunikat and the figures of the panel.
 .include "reguly.inc"
-.export reguly_start, takt, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
+.export reguly_start, takt, takt_dorvy, takt_innych, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .export cel_masek, monety, zycia_za_monety, zycia_w_probie, premia
 .exportzp drazek, spust, wynik, efekt, komunikat, energia, zycia, klucze, bomby, brak_masek
 .exportzp maszyna_stoi, pochodnia, otwarte, po_przeskoku
@@ -228,9 +229,9 @@ spisz_plansze:
         bcs @dalej
 
 ; One tick.
-takt:   lda #EF_BRAK
-        sta efekt
-        jsr dorva_takt
+takt:   jsr takt_dorvy
+; What follows her part: all other tiles.
+takt_innych:
         lda wynik
         bne @koniec
         lda po_przeskoku                ; a leap looks through the board; the others wait
@@ -247,3 +248,9 @@ takt:   lda #EF_BRAK
         dec premia
 @koniec:
         rts
+
+; Her part, the first of a tick.
+takt_dorvy:
+        lda #EF_BRAK
+        sta efekt
+        jmp dorva_takt
