@@ -20,6 +20,9 @@
         daj nowy_etap
         daj cofnij_probe
         daj powtorz_probe
+        daj zagraj
+        daj graj_dzwiek
+        daj cisza
         daj_zp drazek
         daj_zp spust
         daj_zp wynik

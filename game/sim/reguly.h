@@ -43,4 +43,8 @@ void powtorz_probe(void);
 byte start(void); /* 1: there is a heroine */
 void takt(void);
 
+void zagraj(byte ktory);
+void graj_dzwiek(void); /* one frame */
+void cisza(void);
+
 #endif

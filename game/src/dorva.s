@@ -214,7 +214,7 @@ otoczenie:
         bcc @nic
         lda #0
         sta brodzi
-        dzwiek EF_BAGNO
+        dzwiek EF_WODA
         lda #RANA_WODA
         jmp zabierz
 @pali:  lda #RANA_OGIEN

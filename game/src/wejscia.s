@@ -105,7 +105,7 @@ drzwi:  lda klucze
 ; Water costs strength; it wounds nobody, so a fresh wound is no shelter.
 w_wode: lda #RANA_WODA
         jsr zabierz
-        dzwiek EF_BAGNO
+        dzwiek EF_WODA
         jmp na_to
 
 ; A burning thicket lets nobody in before it has burnt down; a fire that burns for ever does, and wounds.

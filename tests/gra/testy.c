@@ -408,6 +408,41 @@ static void zakrety(void) {
         }
 }
 
+/* Two effects sound at a time, and none of them on the voices of the tune. */
+static void dzwieki(void) {
+    byte* const pokey = (byte*)0xD200; /* pitch and loudness of four voices; plain memory here */
+    byte i;
+    memset(pokey, 0xC3, 8);
+    cisza();
+    zagraj(EF_WYBUCH);
+    zagraj(EF_KROK);
+    graj_dzwiek();
+    CHECK((pokey[1] & 15) == 15 && (pokey[3] & 15));
+    zagraj(EF_MONETA); /* in the place of the step */
+    zagraj(EF_KROK);
+    graj_dzwiek();
+    CHECK((pokey[1] & 15) == 15 && (pokey[3] & 15) == 8);
+    for (i = 0; i < 8; ++i)
+        graj_dzwiek();
+    CHECK((pokey[1] & 15) == 15 && !pokey[3]);
+    zagraj(EF_MASKA);
+    zagraj(EF_OTWARTE); /* the greater ones stay */
+    zagraj(EF_MASKA);
+    graj_dzwiek();
+    CHECK((pokey[1] & 15) == 15 && (pokey[3] & 15) == 12);
+    for (i = 0; i < 40; ++i)
+        graj_dzwiek();
+    CHECK(!pokey[1] && !pokey[3]);
+    for (i = 4; i < 8; ++i)
+        CHECK(pokey[i] == 0xC3);
+    uloz("Dw");
+    rusz("r 1", "");
+    CHECK(efekt == EF_WODA);
+    uloz("Db");
+    rusz("r 1", "");
+    CHECK(efekt == EF_BAGNO);
+}
+
 /* A trail is 128 steps long, however old the one before is. */
 static void trop(void) {
     byte i;
@@ -482,7 +517,8 @@ static const struct {
 } grupy[] = {TABELA("chodzenie", chodzenie), TABELA("branie", branie),     TABELA("pchanie", pchanie),
              TABELA("bomby", bomby_i_mury),  TABELA("wedrowcy", wedrowcy), TABELA("strzelanie", strzelanie),
              TABELA("zywioly", zywioly),     TABELA("inv", inv),           {"brzeg", 0, 0, brzeg},
-             {"zakrety", 0, 0, zakrety},     {"trop", 0, 0, trop},         {"losowe", 0, 0, losowe}};
+             {"zakrety", 0, 0, zakrety},     {"dzwieki", 0, 0, dzwieki},   {"trop", 0, 0, trop},
+             {"losowe", 0, 0, losowe}};
 
 int main(int argc, char* argv[]) {
     byte i;
