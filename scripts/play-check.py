@@ -40,7 +40,7 @@ def patched(record, offset, new):
 # Input: a token is letters and a number of frames: L R U D stick, F trigger, T START, S SELECT, O OPTION, E the key
 # ESC, - nothing.
 TO_GAME = "-400 F10 -60"
-HASTE = f"{TO_GAME} R50 D50 L90 U50 F3 R200 D60 F3 L60 U300 F10 R60 E5"  # to and fro, and out
+HASTE = f"{TO_GAME} R50 D50 L90 U50 F3 R200 D60 F3 L60 U300 F10 R60 E5 L9 E5"  # to and fro, and out
 
 def frames(token):
     keys, count = re.fullmatch(r"(\D+)(\d+)", token).groups()
@@ -137,24 +137,45 @@ def dying():
     yield "a life is lost each time", [*map(played.dumps.get, ("zycia3", "zycia2", "zycia1"))], [b"\3", b"\2", b"\1"]
 
 def keys():
-    """Each key means the same in the greeting, in play and in a pause."""
+    """Each key means the same in the greeting, in play and in a pause; START and ESC when pressed again in a second."""
     for phase, before in ("greeting", "-60"), ("play", "R7 -20"), ("pause", "R7 O5 -20"):
-        for key, effect in ("E", "ekran_konca"), ("T", "nowa_gra"), ("S", "pokaz_strate"):
-            played = play(game, f"{TO_GAME} {before} {key}5 -30", ["graj_etap", effect])
-            yield f"key {key} in the {phase}", played.stops, ["graj_etap", effect]
+        for presses, effect in ("E5 -40 E5", "ekran_konca"), ("T5 -40 T5", "nowa_gra"), ("S5", "wczytaj_etap"):
+            played = play(game, f"{TO_GAME} {before} {presses} -60", ["graj_etap", effect])
+            yield f"{presses} in the {phase}", played.stops, ["graj_etap", effect]
+        played = play(game, f"{TO_GAME} {before} E200 -60 E5 -70 E5 -70 T5 -70 T5 -70 T5 E5 -30 S5 -60",
+                      ["graj_etap", "wczytaj_etap", dump("wynik"), "graj_etap", dump("zycia"), dump("premia")])
+        yield (f"ESC held, presses far apart or of two keys in the {phase} end nothing, SELECT begins anew",
+               (played.stops, played.dumps["wynik"]), (["graj_etap", "wczytaj_etap", "graj_etap"], bytes([4])))
+        yield ("that costs no life, but the bonus of a try begun", (played.dumps["zycia"], played.dumps["premia"]),
+               (bytes([3]), bytes([99 if phase == "greeting" else 0])))
         played = play(game, f"{TO_GAME} {before} O5 -200 O5 R60 -100", ["graj_etap", "info_powitanie", dump("pauza")])
         yield (f"OPTION in the {phase}: a pause ends, and its word goes at once",
                (played.stops, played.dumps["pauza"]), (["graj_etap", "info_powitanie"], bytes([0])))
-    played = play(game, f"{TO_GAME} R7 -20 S5 -150", ["graj_etap", "graj_etap", dump("zycia")])
-    yield "SELECT costs a life", played.dumps["zycia"], bytes([2])
 
 def choice():
-    """The stage chosen on the title: held, the stick goes on choosing; the choice outlives a game."""
-    played = play(game, "-400 R120 -20 F10 -60 E5 -60 F10 -100",
-                  ["graj_etap", dump("numer_etapu"), "ekran_konca", "tytul", "wcisniete", dump("numer_etapu", 1, "2")])
+    """The stage that the title offers, and where START in play goes."""
+    offered = ["tytul", "wcisniete", dump("numer_etapu", 1, "offered")]
+    played = play(game, "-400 R120 -20 F10 -60 E5 -9 E5 -60 F10 -100",
+                  ["wcisniete", "wez_etap", "WRITE 22F 22F picture1", "wez_etap", "WRITE 22F 22F picture2",
+                   "nazwij_etap", "wcisniete", dump("ekran", 600), "graj_etap", dump("numer_etapu"), "ekran_konca",
+                   *offered])
+    yield ("the title stays on the screen while a stage is chosen",
+           [played.dumps["picture1"], played.dumps["picture2"]], [bytes([34])] * 2)
+    yield "and names it by its greeting", played.dumps["ekran"][8 * 40 + 4:][:32], part(stages[3], "NAZWA", 32)
     chosen = played.dumps["numer_etapu"]
-    yield "the held stick chooses on, from stage to stage", 3 < chosen[0] < 25, True
-    yield "the chosen stage stays chosen", played.dumps["numer_etapu2"], chosen
+    yield "the held stick chooses on, from stage to stage", bytes([3]) < chosen < bytes([25]), True
+    yield "the title offers it again", played.dumps["numer_etapuoffered"], chosen
+
+    entries = [command for entry in range(4) for command in ("graj_etap", dump("numer_etapu", 1, entry))]
+    dumps = play(game, f"{TO_GAME} {run_of(1)} -300 T5 -9 T5 -60 {run_of(1)} -300 E5 -9 E5 -60 F10 -100",
+                 [*entries, "ekran_konca", *offered]).dumps
+    yield ("START goes back to the stage chosen; after the end of a game the title offers the stage that was reached",
+           [*b"".join(dumps[f"numer_etapu{which}"] for which in (0, 1, 2, 3, "offered"))], [1, 2, 1, 2, 2])
+
+    dumps = play(game, f"-400 L5 -30 F10 -60 {run_of(32)} -900 F10 -60",
+                 ["graj_etap", dump("numer_etapu"), "ekran_wygranej", *offered]).dumps
+    yield ("after the victory it offers the first one", (dumps["numer_etapu"], dumps["numer_etapuoffered"]),
+           (bytes([32]), bytes([1])))
 
 def overlay():
     """In each world the two players lie over the heroine's cell and nowhere else."""
@@ -181,12 +202,16 @@ def overlay():
         yield "and in its column", places[world], (f"{48 + 4 * x:02X}",) * 2  # the board begins at colour clock 48
     yield ("players are fetched, on each line, from their page",
            {*re.findall(r"GRACTL=..|DMACTL=..|PMBASE=..", played.log)}, {"DMACTL=3A", "GRACTL=02", "PMBASE=B0"})
+    played = play(game, f"{TO_GAME} R7 -60", ["graj_etap", "takt_innych", "GTIA", dump("dorva_x")])
+    yield ("it is there before the others' part of a tick", (played.stops, re.findall("HPOSP0=(..)", played.log)),
+           (["graj_etap", "takt_innych"], [f"{48 + 4 * x:02X}" for x in played.dumps["dorva_x"]]))
 
 def only_stage():
     file = test_build(stages[2])
-    played = play(file, f"{TO_GAME} {run_of(2)} -300", ["wcisniete", dump("ekran", 600), "ekran_wygranej"])
+    played = play(file, f"-400 R60 F10 -60 {run_of(2)} -300", ["wcisniete", dump("ekran", 600), "ekran_wygranej"])
     yield "a test build shows its title lines", shown_lines(played), title_lines(file)
-    yield "its only stage is the last one", played.stops, ["wcisniete", "ekran_wygranej"]
+    yield ("its only stage is the last one, whatever the stick does on the title", played.stops,
+           ["wcisniete", "ekran_wygranej"])
 
 def all_stages():
     commands = ["wcisniete", f"BPC {address['graj_etap']:X}"]
@@ -224,7 +249,7 @@ def pace(system):
         board = bytearray(full[(i * i + i * 7) % 31 % len(full)] for i in range(BOARD))
         board[420] = DORVA
         record = patched(patched(stages[1], field["PLANSZA"], board), field["CEL"], [99])
-        played = play(test_build(record), f"{HASTE} L200 E5 L200 E5 -300", ["ekran_konca", dump("spoznione")], system)
+        played = play(test_build(record), f"{HASTE} L200 E5 L9 E5 -300", ["ekran_konca", dump("spoznione")], system)
         yield (f"full frame rate on a board of tiles {full} ({system})", (played.stops, played.dumps["spoznione"]),
                (["ekran_konca"], bytes([0])))
 
@@ -277,7 +302,7 @@ def renew_pictures():
          ["ekran_wygranej", look("wygrana"), "rysuj_tytul"], *machine, shown=True)
     commands = ["wcisniete"]
     for stage in stages:
-        commands += [f"BPC {address['graj_etap']:X}", enter(stage), look(f"etap{stage}"), "takt"]
+        commands += [f"BPC {address['graj_etap']:X}", enter(stage), look(f"etap{stage}"), "takt_dorvy"]
     play(game, "R1 -99 " * 60, commands, *machine, shown=True)  # a move every two seconds ends each greeting
     display.terminate()
     keep("tytul", "wyjscie", "wygrana", "etap8", "etap14", "etap24")
