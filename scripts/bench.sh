@@ -37,7 +37,7 @@ count_start() {
             $bench/qt/dorva_bench_start $mode planszownik 2>&1 |
             awk -v mode=$mode '/Collected/ { printf " %s %.1f", mode, $4 / 1e6 }'
     done
-    echo
+    echo '; aim: editor at most 1.82 of text'
 }
 
 printf '%-28s %12s %12s %7s  %s\n' figure median baseline ratio aim
