@@ -36,6 +36,11 @@ void makeEtapy(const Argumenty& a) {
     for (std::size_t i = 0; i < swiaty.size(); ++i)
         swiaty[i] = parseRysunki(Zrodlo::fromFile(a[0] / ("swiat" + std::to_string(i + 1) + ".txt")));
     const Legenda legenda = parseLegenda(Zrodlo::fromFile(a[1] / "legenda.txt"));
+    const auto isSource = [](const fs::directory_entry& entry) {
+        return entry.path().extension() == ".txt" && entry.path().stem().string().starts_with("etap");
+    };
+    if (std::ranges::count_if(fs::directory_iterator(a[1]), fs::directory_iterator(), isSource) > ETAPY_COUNT)
+        throw BladZrodla(a[1].string() + ": more stages than the 32 that a game has");
     for (int number = 1; number <= ETAPY_COUNT; ++number) {
         const std::string two = (number < 10 ? "0" : "") + std::to_string(number);
         writePlik(a[2] / sciezki::nazwaEtapu(number),
