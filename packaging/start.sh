@@ -13,6 +13,8 @@ odmow() { # a message that is seen, also where no terminal is open; in letters t
     exit 1
 }
 
+[ -f planszownik ] || odmow "W folderze $PWD brakuje pliku planszownik. Rozpakuj archiwum jeszcze raz."
+[ -x planszownik ] || chmod +x planszownik 2>/dev/null # a copy from a stick may have lost the right
 [ -x planszownik ] || odmow "Folder $PWD jest bez prawa wykonywania (noexec). Skopiuj go do swojego folderu domowego."
 [ -w . ] || odmow "Brak prawa do zapisu w folderze $PWD. Skopiuj go do swojego folderu domowego."
 brak=$(ldd ./planszownik 2>/dev/null | grep 'not found')

@@ -11,7 +11,8 @@ namespace dorva::test {
 
 // A path on the disk in memory.
 inline std::string at(const std::string& name) {
-    return (fs::temp_directory_path() / "dorva-w-pamieci" / name).generic_string();
+    static const fs::path folder = makeFolder(); // of this run alone
+    return (folder / name).generic_string();
 }
 
 // Its folder is a real one too, empty, since operations make it the current one.
@@ -29,7 +30,8 @@ protected:
     }
     void TearDown() override {
         fs::current_path(fs::temp_directory_path());
-        fs::remove_all(root);
+        std::error_code error;
+        fs::remove_all(root, error);
     }
 };
 

@@ -129,7 +129,7 @@ inline Result statPath(const Path& path, FileInfo& info) {
     if (!file && !disk.folders.contains(path.generic_string()))
         return Result::Missing;
     info = {};
-    info.type = file ? FileType::Regular : FileType::Folder;
+    info.isRegular = file != nullptr;
     if (file) {
         info.length = file->bytes.size();
         info.modified = file->modified;

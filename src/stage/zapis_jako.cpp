@@ -18,13 +18,9 @@ std::optional<std::filesystem::path> askSavePath(Edytor& e, const DialogPliku& d
 }
 
 bool writeChosen(const Edytor& e, const std::filesystem::path& path, std::span<const Bajt> bytes) {
-    for (const auto& file : sciezki::zestawRoboczy(e.KatalogBazowy)) {
-        const auto same = isSameFile(*e.system, path, file);
-        if (!same)
-            return false;
-        if (*same)
-            return writeKeeping(*e.system, file, bytes);
-    }
+    for (const auto& file : sciezki::zestawRoboczy(e.KatalogBazowy))
+        if (isSameFile(*e.system, path, file))
+            return writeKeeping(*e.system, path, bytes, file);
     return writeWhole(*e.system, path, bytes);
 }
 

@@ -61,9 +61,11 @@ std::optional<int> numberOf(const fs::path& file, const fs::path& copy, std::str
     return std::stoi(digits);
 }
 
+// Two editors at once may take one number; their copies then stand in the order of their names.
 struct Copy {
     int number = 0;
     fs::path name;
+    auto operator<=>(const Copy&) const = default;
 };
 
 // The copies of a file, the oldest first. Nothing where the folder can't be read.
@@ -75,7 +77,7 @@ std::optional<std::vector<Copy>> copiesOf(const SystemCalls& system, const fs::p
     for (const fs::path& name : names)
         if (const auto number = numberOf(file, name, ending))
             copies.push_back({*number, name});
-    std::ranges::sort(copies, {}, &Copy::number);
+    std::ranges::sort(copies);
     return copies;
 }
 
@@ -129,11 +131,16 @@ bool keepCopy(const SystemCalls& system, const fs::path& file, std::span<const B
     return result == Result::Ok;
 }
 
-bool writeKeeping(const SystemCalls& system, const fs::path& file, std::span<const Bajt> bytes) {
+bool writeKeeping(const SystemCalls& system, const fs::path& file, std::span<const Bajt> bytes,
+                  const fs::path& keptAs) {
     const auto old = readWhole(system, file);
     if (old && std::ranges::equal(*old, bytes) && isWritable(system, file))
         return true;
-    return writeWhole(system, file, bytes, [&](const fs::path& target) { return keepContent(system, file, target); });
+    return writeWhole(system, file, bytes, [&](const fs::path& target) { return keepContent(system, keptAs, target); });
+}
+
+bool writeKeeping(const SystemCalls& system, const fs::path& file, std::span<const Bajt> bytes) {
+    return writeKeeping(system, file, bytes, file);
 }
 
 void trimCopies(const SystemCalls& system, const fs::path& file, std::string_view ending) {

@@ -17,7 +17,10 @@ namespace dorva {
                             Time made, std::string_view ending = "");
 
 // Replaces a file by `bytes` once a copy of its old content is made; an empty file needs none. A file that holds these
-// bytes already is left as it is. False where it can't be written, or can't be kept: then it is untouched.
+// bytes already is left as it is. False where it can't be written, or can't be kept: then it is untouched. The copy is
+// made as one of `keptAs`, another name of the same file.
+[[nodiscard]] bool writeKeeping(const SystemCalls&, const std::filesystem::path& file, std::span<const Bajt> bytes,
+                                const std::filesystem::path& keptAs);
 [[nodiscard]] bool writeKeeping(const SystemCalls&, const std::filesystem::path& file, std::span<const Bajt> bytes);
 
 // Removes all copies of a file but the newest 200. Names of another form are left alone.

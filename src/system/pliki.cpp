@@ -89,7 +89,7 @@ std::optional<Target> findTarget(const SystemCalls& system, const fs::path& path
     const Result result = system.stat(*file, info);
     if (result != Result::Ok)
         return result == Result::Missing ? std::optional(Target{*file, std::nullopt}) : std::nullopt;
-    if (info.type != FileType::Regular || OpenFile(system, *file, OpenMode::Write).result() != Result::Ok)
+    if (!info.isRegular || OpenFile(system, *file, OpenMode::Write).result() != Result::Ok)
         return std::nullopt;
     return Target{*file, info.mode};
 }
@@ -123,9 +123,10 @@ bool isLeftover(const SystemCalls& system, const fs::path& path) {
 } // namespace
 
 std::optional<Bajty> readOrCreate(const SystemCalls& system, const fs::path& path, std::size_t count) {
-    if (!fileExists(system, path))
+    auto bytes = readFirst(system, path, count);
+    if (!bytes && !fileExists(system, path))
         const OpenFile created(system, path, OpenMode::Create);
-    return readFirst(system, path, count);
+    return bytes;
 }
 
 std::optional<Bajty> readFirst(const SystemCalls& system, const fs::path& path, std::size_t count) {
@@ -148,8 +149,8 @@ std::optional<Bajty> readWhole(const SystemCalls& system, const fs::path& path) 
 
 std::optional<std::uintmax_t> lengthOf(const SystemCalls& system, const fs::path& path) {
     FileInfo info;
-    const bool isRegular = system.stat(path, info) == Result::Ok && info.type == FileType::Regular;
-    return isRegular ? std::optional(info.length) : std::nullopt;
+    const bool isFile = system.stat(path, info) == Result::Ok && info.isRegular;
+    return isFile ? std::optional(info.length) : std::nullopt;
 }
 
 bool fileExists(const SystemCalls& system, const fs::path& path) {
@@ -157,12 +158,9 @@ bool fileExists(const SystemCalls& system, const fs::path& path) {
     return system.stat(path, info) != Result::Missing;
 }
 
-std::optional<bool> isSameFile(const SystemCalls& system, const fs::path& one, const fs::path& other) {
+bool isSameFile(const SystemCalls& system, const fs::path& one, const fs::path& other) {
     bool same = false;
-    const Result result = system.isSame(one, other, same);
-    if (result == Result::Ok || result == Result::Missing)
-        return same;
-    return std::nullopt;
+    return system.isSame(one, other, same) == Result::Ok && same;
 }
 
 bool isWritable(const SystemCalls& system, const fs::path& path) {

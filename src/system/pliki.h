@@ -34,8 +34,8 @@ std::optional<std::uintmax_t> lengthOf(const SystemCalls&, const std::filesystem
 // Whether something stands at the path; also true where the system can't say.
 bool fileExists(const SystemCalls&, const std::filesystem::path&);
 
-// Whether two paths lead to one file; nothing where the system can't say.
-std::optional<bool> isSameFile(const SystemCalls&, const std::filesystem::path&, const std::filesystem::path&);
+// Whether two paths lead to one file; also false where the system can't say.
+bool isSameFile(const SystemCalls&, const std::filesystem::path&, const std::filesystem::path&);
 
 // Whether a regular file stands at the path and may be written.
 bool isWritable(const SystemCalls&, const std::filesystem::path&);

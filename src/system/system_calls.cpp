@@ -46,19 +46,13 @@ template <auto call, typename Bytes> Result transfer(Handle file, Bytes bytes, s
     });
 }
 
-constexpr FileType typeOf(fs::file_type type) {
-    return type == fs::file_type::regular     ? FileType::Regular
-           : type == fs::file_type::directory ? FileType::Folder
-                                              : FileType::Other;
-}
-
 Result stat(const fs::path& path, FileInfo& info) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (error)
         return resultOf(error);
-    info = {typeOf(status.type()), status.permissions()};
-    if (info.type != FileType::Regular)
+    info = {fs::is_regular_file(status), status.permissions()};
+    if (!info.isRegular)
         return Result::Ok;
     info.length = fs::file_size(path, error);
     if (error)

@@ -22,12 +22,10 @@ enum class Result {
     Error,
 };
 
-enum class FileType { Regular, Folder, Other };
-
 struct FileInfo {
-    FileType type = FileType::Other;
+    bool isRegular = false; // no folder, pipe or device; only then are length and time known
     std::filesystem::perms mode{};
-    std::uintmax_t length = 0; // in bytes; this and the time only of a regular file
+    std::uintmax_t length = 0; // in bytes
     Time modified{};           // when the content last changed
 };
 
