@@ -46,22 +46,6 @@ template <auto call, typename Bytes> Result transfer(Handle file, Bytes bytes, s
     });
 }
 
-Result stat(const fs::path& path, FileInfo& info) {
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (error)
-        return resultOf(error);
-    info = {fs::is_regular_file(status), status.permissions()};
-    if (!info.isRegular)
-        return Result::Ok;
-    info.length = fs::file_size(path, error);
-    if (error)
-        return resultOf(error);
-    const auto modified = fs::last_write_time(path, error);
-    info.modified = std::chrono::time_point_cast<Time::duration>(std::chrono::file_clock::to_sys(modified));
-    return resultOf(error);
-}
-
 Result readLink(const fs::path& path, fs::path& target) {
     std::error_code error;
     const fs::file_status status = fs::symlink_status(path, error);
@@ -105,7 +89,7 @@ const SystemCalls SYSTEM_CALLS{
     .write = transfer<own::write, std::span<const Bajt>>,
     .flush = [](Handle file) { return done([=] { return own::flush(file); }); },
     .close = [](Handle file) { return own::close(file) == 0 || errno == EINTR ? Result::Ok : Result::Error; },
-    .stat = stat,
+    .stat = [](const fs::path& path, FileInfo& info) { return done([&] { return own::stat(path, info); }); },
     .readLink = readLink,
     .isSame = isSame,
     .setMode = setMode,

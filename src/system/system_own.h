@@ -15,6 +15,7 @@ std::ptrdiff_t read(Handle, std::span<Bajt>);
 std::ptrdiff_t write(Handle, std::span<const Bajt>);
 int flush(Handle);
 int close(Handle);
+int stat(const std::filesystem::path&, FileInfo&);
 int rename(const std::filesystem::path& from, const std::filesystem::path& to);
 int remove(const std::filesystem::path&);
 int flushFolder(const std::filesystem::path&);

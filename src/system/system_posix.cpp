@@ -1,11 +1,14 @@
 #include "system/proces.h"
 #include "system/system_own.h"
 
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <span>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -51,6 +54,14 @@ int flush(Handle file) {
 
 int close(Handle file) {
     return ::close(file);
+}
+
+int stat(const fs::path& path, FileInfo& info) {
+    struct ::stat entry {};
+    const int answer = ::stat(path.c_str(), &entry);
+    info = {S_ISREG(entry.st_mode), fs::perms(entry.st_mode) & fs::perms::mask,
+            static_cast<std::uintmax_t>(entry.st_size), std::chrono::system_clock::from_time_t(entry.st_mtime)};
+    return answer;
 }
 
 int rename(const fs::path& from, const fs::path& to) {

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <fcntl.h>
 #include <filesystem>
 #include <io.h>
@@ -85,6 +87,14 @@ int flush(Handle file) {
 
 int close(Handle file) {
     return ::_close(file);
+}
+
+int stat(const fs::path& path, FileInfo& info) {
+    struct ::_stat64 entry {};
+    const int answer = ::_wstat64(path.c_str(), &entry);
+    info = {(entry.st_mode & _S_IFMT) == _S_IFREG, fs::perms(entry.st_mode) & fs::perms::mask,
+            static_cast<std::uintmax_t>(entry.st_size), std::chrono::system_clock::from_time_t(entry.st_mtime)};
+    return answer;
 }
 
 int rename(const fs::path& from, const fs::path& to) {
