@@ -24,7 +24,7 @@ struct Edytor {
     // the stage
     EtapImage image = EtapImage(ETAP_SIZE_BYTES, 0); // last packed or read; goes stale as the user edits
     int NumerEtapu = 1;                              // 1..32
-    int lastCell = 0;                                // the board cell that the mouse rules handled last
+    int lastCell = 0;                                // the board cell of the last mouse event
 
     std::optional<Time> ostatniaKopia; // when keepWork last looked at the screen
 

@@ -14,6 +14,6 @@ inline constexpr int SWIATY_COUNT = 3;
 using Swiat = int;                     // one of the three worlds of the game, 0..2
 inline constexpr int SLOTY_COUNT = 12; // colour registers
 
-inline constexpr int CEL_MIN = 1, CEL_MAX = 99; // of the mask goal
+inline constexpr int CEL_MIN = 1, CEL_MAX = 99; // limits of the mask goal
 
 } // namespace dorva

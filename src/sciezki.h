@@ -12,7 +12,7 @@
 namespace dorva::sciezki {
 
 inline constexpr std::string_view AUTOR_GRY = "PLIKI/DP1.DTA";
-inline constexpr std::string_view ARCHIWUM = "ETAPY/DPArchiwum"; // never written; its copies are whole games
+inline constexpr std::string_view ARCHIWUM = "ETAPY/DPArchiwum"; // never written itself; names copies of whole games
 inline constexpr std::string_view ARCHIWUM_ENDING = ".dpa";
 inline constexpr std::string_view SZABLON_GRY = "PLIKI/DP2.DTA";
 inline constexpr std::string_view EMULATOR = "PLIKI/DP3.BAT"; // the launcher
@@ -21,7 +21,7 @@ inline constexpr std::string_view PALETA = "PLIKI/PALETY/Bitwor.act";
 inline constexpr std::string_view ORN = "OBIEKTY/ORN.exe";
 inline constexpr std::string_view EKSPORT = "OBIEKTY/ORN_EXPORT";
 
-// Fixed names: a world's colour file does not follow the listing of the tile sets.
+// The colour files, by world. Their names are fixed, whatever the tile sets are called.
 inline constexpr std::array<std::string_view, SWIATY_COUNT> KOLORY{"OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY",
                                                                    "OBIEKTY/ORN_EXPORT/FNT11.ORN.ND.KOLORY",
                                                                    "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND.KOLORY"};

@@ -5,7 +5,7 @@
 
 namespace dorva {
 
-// Code, picture and the two texts, always set together.
+// Sets code, picture and the two texts together.
 void SetBufor(Edytor&, const Bufor&);
 
 } // namespace dorva

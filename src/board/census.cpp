@@ -9,7 +9,7 @@
 namespace dorva {
 namespace {
 
-// Both forms of a tile count, STD and INV.
+// A tile counts in both its forms, STD and INV.
 EtapInfo countPlansza(const Plansza& plansza, int celMasek) {
     std::array<int, 256> byCode{};
     for (const PokazanyZnak& cell : plansza)
@@ -60,7 +60,7 @@ void showInfo(Okno& okno) {
     okno.lblInfo[info::POCHODNIA] = number(etap.pochodnia ? 1 : 0);
 }
 
-// A unique tile is offered by the picker only while none stands on the board.
+// A tile that may be on the board once can't be picked while it is there, nor stay in the buffer.
 void guardUnikat(Edytor& e, Znak unikat, bool stands) {
     e.okno.imgZnak[kod(unikat)].enabled = !stands;
     if (stands && e.okno.imgBufor.znak == unikat)

@@ -5,15 +5,15 @@
 
 namespace dorva {
 
-// Recounts the whole board, colours the figures, guards the unique tiles of the picker. May move the
-// buffer to earth.
+// Counts the board anew and shows the figures. A unique tile that is on the board is disabled in the picker, and earth
+// takes its place in the buffer.
 void RefreshInfo(Edytor&);
 
-// Sets the goal's scroll bar and runs its change if the value really changes; false outside 1..99.
+// Sets the mask goal; false, and nothing changed, outside 1..99.
 [[nodiscard]] bool SetMonet(Edytor&, int value);
 void hscMonet_Change(Edytor&);
 
-// A click on a mask figure (2 or 3) sets the goal to the masks on the board.
+// A click on either figure of the masks makes their number on the board the goal, within 1..99.
 void lblInfo_Click(Edytor&, int index);
 
 } // namespace dorva

@@ -15,8 +15,8 @@ std::vector<Kratka> cutKratki(Polozenie from, Polozenie to) {
     std::vector<Kratka> cut;
     Kratka cell = kratkaAt(from);
     while (cell != last) {
-        // The way leaves the cell by the nearer of two sides. Distances are multiplied by width and height rather than
-        // divided by them, so that a way through a corner has exactly the same distance to both.
+        // The way leaves the cell by the nearer of two sides. Distances are multiplied by height and width instead of
+        // being divided by width and height, so that for a way through a corner both are exactly equal.
         const double toColumn = std::abs(cell.column + right - from.column) * height;
         const double toRow = std::abs(cell.row + down - from.row) * width;
         const bool sameColumn = cell.column == last.column, sameRow = cell.row == last.row;

@@ -5,7 +5,7 @@
 
 namespace dorva {
 
-// A position in cells, from the top left corner of the board; a cell lies between two whole numbers.
+// A position in cells, from the top left corner of the board: column 2 reaches from 2 to 3.
 struct Polozenie {
     double column = 0, row = 0;
 };
@@ -17,8 +17,8 @@ struct Kratka {
 
 Kratka kratkaAt(Polozenie);
 
-// The cells that the straight way between two positions cuts, in order, without the one that it begins in. A corner
-// that is merely touched isn't cut. Positions may lie beside the board.
+// The cells on the straight way between two positions, in order, without the one where it begins. A cell of which it
+// touches just a corner isn't among them. Positions may lie outside the board.
 std::vector<Kratka> cutKratki(Polozenie from, Polozenie to);
 
 } // namespace dorva

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int PIPETA = 0; // in optPPM
 
-// The eraser's tile, earth under STD, is whatever the picker's slot 1 holds.
+// The eraser paints what slot 1 of the picker holds; under STD that is earth.
 const ZnakSlot& slotZiemi(const Okno& okno) {
     return okno.imgZnak[kod(ZIEMIA)];
 }

@@ -7,7 +7,7 @@
 
 namespace dorva {
 
-// A tile code, one unsigned byte. 0..63 are the STD forms, +128 their INV partners; the rest is no tile.
+// The code of a tile. 0..63 are the STD forms, 128..191 the INV forms of the same tiles; the others are no tiles.
 enum class Znak : std::uint8_t {};
 
 constexpr Znak znak(int code) {
@@ -41,7 +41,7 @@ constexpr bool isEdge(int cell) {
     return row == 0 || row == PLANSZA_ROWS - 1 || column == 0 || column == PLANSZA_COLUMNS - 1;
 }
 
-// Names by STD code: the tooltips of the picker.
+// The tooltips of the picker, by STD code.
 inline constexpr std::array<std::string_view, ZNAKI_COUNT> NAZWY_ZNAKOW{
     "NIC",
     "ZIEMIA",
@@ -109,7 +109,7 @@ inline constexpr std::array<std::string_view, ZNAKI_COUNT> NAZWY_ZNAKOW{
     "DORVA",
 };
 
-// The figures of the census panel: lblInfo(0) to lblInfo(10), and how many of them have an icon.
+// Indexes of `lblInfo`, the figures of the panel. The first IKONY_COUNT have an icon.
 namespace info {
 enum Figura : int {
     DORVA,

@@ -5,7 +5,7 @@
 
 namespace dorva {
 
-// Starts the emulator launcher, hidden; nothing waits for it.
+// Starts the launcher of the emulator, hidden, and doesn't wait for it.
 void RunEmulator(Edytor&);
 
 // Starts the companion tile editor.

@@ -30,7 +30,7 @@ bool writeTestXex(const Edytor& e, const ObrazGry& gra) {
     return writeWhole(*e.system, e.KatalogBazowy / sciezki::TEST_XEX, gra);
 }
 
-// The launcher names its files relative to the base folder.
+// The launcher's paths are relative to the base folder.
 void offerRun(Edytor& e, const Komunikat& question) {
     std::error_code error;
     std::filesystem::current_path(e.KatalogBazowy, error);

@@ -1,4 +1,4 @@
-// The two builds: the whole game, and the stage on the board alone.
+// Builds the whole game, or a game of the current stage alone.
 #pragma once
 
 #include "edytor.h"

@@ -5,7 +5,7 @@
 namespace dorva {
 namespace {
 
-// Lays `bytes` over `length` bytes at `offset`; what does not fit exactly shifts all behind it.
+// Replaces `length` bytes at `offset` by `bytes`; if these are more or fewer, all behind them moves.
 void splice(ObrazGry& gra, std::size_t offset, std::size_t length, std::span<const Bajt> bytes) {
     const auto first = gra.begin() + offset;
     if (bytes.size() == length) {
@@ -38,7 +38,7 @@ ObrazGry buildGra(const SzablonGry& szablon, std::span<const EtapImage> etapy,
     }
     ObrazGry gra = szablon;
     splice(gra, LINIE_TYTULU_OFFSET, LINIE_COUNT * LINIA_TYTULU_SIZE_BYTES, tytul);
-    for (std::size_t i = etapy.size(); i-- > 0;) // from the last, so that no offset has shifted
+    for (std::size_t i = etapy.size(); i-- > 0;) // from the last, so that no offset has moved
         splice(gra, rekordOffset(i), ETAP_SIZE_BYTES, etapy[i]);
     return gra;
 }

@@ -6,7 +6,7 @@
 namespace dorva {
 namespace {
 
-// In the texts' code page: \xD3 is Ó. The description is a credit line.
+// The first texts, in Windows-1250: \xD3 is Ó.
 constexpr std::string_view NAZWA_DOMYSLNA = "           POWODZENIA!          ";
 constexpr std::string_view AUTOR_DOMYSLNY = "DORVA PLANSZOWNIK - EDYTOR ETAP\xD3W                               ";
 constexpr std::string_view LINIA_DOMYSLNA = "DORVA PLANSZOWNIK!  ";

@@ -42,8 +42,7 @@ struct Okno {
     OknoPalety dlgPaleta;
 };
 
-// The window as it stands before anything was loaded: a walled field of earth, texts and figures as
-// captioned, pictures of the default state.
+// The window before anything is loaded: earth within walls, the first texts, placeholders for pictures.
 Okno defaultOkno();
 
 } // namespace dorva

@@ -31,7 +31,7 @@ void setFolders(Edytor& e, const std::filesystem::path& folder) {
     e.OstatniaSciezka = std::filesystem::current_path(error);
 }
 
-// What a killed run left beside the files that the editor writes.
+// Removes what a killed run left beside the files that the editor writes.
 void sweepLeftovers(const Edytor& e) {
     for (const auto& file : {sciezki::etap(e.KatalogBazowy, 1), e.KatalogBazowy / sciezki::AUTOR_GRY})
         sweepTemporary(*e.system, file.parent_path());
@@ -45,7 +45,7 @@ void loadColours(Edytor& e) {
     showDomyslne(e, 0, 0, SLOTY_COUNT - 1);
 }
 
-// The part of start-up that ends silently at its first failure.
+// The part of start-up that ends without a message at its first failure.
 void loadWork(Edytor& e) {
     if (!ScanZestawy(e))
         return;

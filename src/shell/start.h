@@ -8,14 +8,14 @@
 
 namespace dorva {
 
-// Loads everything, in order, before the window is shown. `folder` is where the executable stands,
-// `version` reads "1.0.2". The first failure from the tile sets on ends it silently.
+// Loads everything before the window is shown. `folder` is where the executable is, `version` reads "1.0.2". From the
+// tile sets on, the first failure ends it without a message.
 void Form_Load(Edytor&, const std::filesystem::path& folder, std::string_view version);
 
-// Writes the current stage and the title lines back. Never refuses to close.
+// Stores the current stage and the title lines. A failure doesn't keep the window open.
 void Form_QueryUnload(Edytor&);
 
-// Closes the palette dialog and removes the oldest of many copies.
+// Closes the palette dialog and removes surplus copies.
 void Form_Unload(Edytor&);
 
 } // namespace dorva

@@ -1,4 +1,4 @@
-// What single controls hold: a tile on show, a figure, a text box, a swatch, the palette dialog.
+// What single controls hold: a tile, a figure, a text box, a swatch, the palette dialog.
 #pragma once
 
 #include "board/znak.h"
@@ -18,7 +18,7 @@ struct PokazanyZnak {
     bool operator==(const PokazanyZnak&) const = default;
 };
 
-// The tile that the left button paints.
+// What the left mouse button paints.
 using Bufor = PokazanyZnak;
 
 using Plansza = std::array<PokazanyZnak, PLANSZA_CELLS>;
@@ -37,7 +37,7 @@ struct EtapInfo {
     bool pochodnia = false;
 };
 
-// A figure of the panel that shows it.
+// A figure of the panel that shows the census.
 struct InfoFigura {
     std::string caption = "0";
     bool czerwona = false;
@@ -63,10 +63,10 @@ struct KolorSlot {
     bool operator==(const KolorSlot&) const = default;
 };
 
-// The cells of the palette dialog, the even colour values: a row a hue, a column a luminance.
+// The cells of the palette dialog: a row for each hue, a column for each even luminance.
 inline constexpr int PALETA_COLUMNS = 8, PALETA_ROWS = 16, PALETA_CELLS = PALETA_COLUMNS * PALETA_ROWS;
 
-// The palette dialog: its cells and the preview. `otwarcia` counts how often it was asked for.
+// The palette dialog: its cells and the preview. `otwarcia` counts the requests to open it.
 struct OknoPalety {
     bool otwarte = false;
     unsigned otwarcia = 0;

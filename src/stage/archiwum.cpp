@@ -34,8 +34,8 @@ std::span<const Bajt> etapOf(std::span<const Bajt> archiwum, int number) {
     return archiwum.subspan(AUTOR_GRY_SIZE_BYTES + (number - 1) * ETAP_SIZE_BYTES, ETAP_SIZE_BYTES);
 }
 
-// Copies the whole game as it is, the current stage and the title lines as the screen holds them. A stage without a
-// whole file stands in it as the window's first one.
+// Makes a copy of the whole game, with the current stage and the title lines as they are on the screen. A stage whose
+// file is missing or too short goes in as the one that a new window holds.
 void keepGra(const Edytor& e) {
     std::array<EtapImage, ETAPY_COUNT> etapy;
     for (int number = 1; number <= ETAPY_COUNT; ++number) {

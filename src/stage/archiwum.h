@@ -1,4 +1,4 @@
-// The archive: a whole game in the making in one file.
+// The archive: the title lines and all stages in one file.
 #pragma once
 
 #include "edytor.h"

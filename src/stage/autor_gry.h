@@ -10,20 +10,20 @@ namespace dorva {
 
 inline constexpr std::size_t AUTOR_GRY_SIZE_BYTES = LINIE_COUNT * LINIA_WIDTH;
 
-// The three lines as they are stored, 60 bytes unless one is too long; the window stays as it is.
+// The three lines as they are stored, 60 bytes unless one is too long. Changes nothing in the window.
 Bajty packedAutorGry(const Okno&);
 
-// The same, once boxes shorter than their width are brought to it.
+// The same, but first fills up boxes whose text is too short.
 Bajty fillAutorGry(Edytor&);
 
 // Sets the three boxes from the first 60 bytes of a title file or an archive.
 void takeAutorGry(Edytor&, std::span<const Bajt> bytes);
 
-// Reads DP1.DTA into the boxes. A file of another length than 60 first blanks them; whole lines that it holds are then
-// read; it may end early, or be none that can be read.
+// Reads DP1.DTA into the boxes. If it isn't 60 bytes long, they are blanked first and get the whole lines that it
+// holds. Without the file they stay as they are.
 void readAutorGry(Edytor&);
 
-// Writes DP1.DTA, what fillAutorGry makes of the boxes, once a copy of the old one is made.
+// Fills up the boxes and writes DP1.DTA, after making a copy of the old file.
 [[nodiscard]] bool writeAutorGry(Edytor&);
 
 } // namespace dorva

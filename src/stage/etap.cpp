@@ -11,12 +11,12 @@
 namespace dorva {
 namespace {
 
-// What a cell of the edge is stored as.
+// The edge rule: only walls and empty cells may stand there, anything else becomes a wall.
 Znak ruled(Znak z, Znak krawedz) {
     return z == NIC || z == MUREK_PIONOWY || z == MUREK_POZIOMY ? z : krawedz;
 }
 
-// What any other cell is stored as.
+// Dorva is only ever stored in her STD form.
 Znak heroine(Znak z) {
     return z == DORVA_INV ? DORVA : z;
 }

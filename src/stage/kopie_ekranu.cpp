@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::chrono::minutes PERIOD{5};
 
-// `size` is that of a whole file: a text that is too long would make another.
+// `size` is that of a whole file; a text that is too long would make it longer.
 void keepUnlessStored(const Edytor& e, const std::filesystem::path& file, const Bajty& bytes, std::size_t size) {
     if (bytes.size() == size && readWhole(*e.system, file) != bytes)
         (void)keepCopy(*e.system, file, bytes, e.system->now());

@@ -1,4 +1,4 @@
-// The text boxes: how wide each is, what form its text takes.
+// The text boxes: their widths, and how their texts are brought into form.
 #pragma once
 
 #include "edytor.h"
@@ -11,7 +11,6 @@ namespace dorva {
 
 enum class Forma { Centred, Left };
 
-// A text box.
 struct Pole {
     int numer;             // in `Okno::pola`
     std::string_view name; // of its control
@@ -37,18 +36,17 @@ constexpr const Pole& poleLinii(int index) {
 // Sets a box from code; an empty text becomes spaces, all selected.
 void SetTekst(Okno&, const Pole&, const Tekst&);
 
-// The text of a box as it is stored: one that is too short, since it is still being edited, is brought to its form.
+// What is stored of a box: a text that is too short, because it is still being edited, is brought into its form.
 Tekst filled(const Okno&, const Pole&);
 
 // Does the same to the box itself.
 void fillShort(Okno&, const Pole&);
 
-// The user has changed the text. What is longer than the box is cut off; an emptied box is refilled with spaces, all
-// selected.
+// The user has changed the text. It is cut off at the width of the box; an emptied box gets spaces, all selected.
 void txt_Change(Edytor&, const Pole&, const Tekst&);
 void txt_GotFocus(Edytor&, const Pole&);
 
-// Validation and loss of focus alike: the text is brought to its form.
+// The user leaves the box: its text is brought into its form.
 void txt_LostFocus(Edytor&, const Pole&);
 
 } // namespace dorva

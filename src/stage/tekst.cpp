@@ -6,7 +6,7 @@
 namespace dorva {
 namespace {
 
-// The nine Polish capitals in Windows-1250 and the lower-case letters on whose codes they are stored.
+// The Polish capitals, in Windows-1250, and the codes of lower-case letters under which they are stored.
 struct PolskaLitera {
     Bajt wielka;
     Bajt zapis;

@@ -1,4 +1,4 @@
-// Window text (Windows-1250, one byte a character) and stored text (Atari screen codes).
+// Window text (Windows-1250) and stored text (Atari screen codes).
 #pragma once
 
 #include "podstawy.h"
@@ -14,8 +14,8 @@ inline constexpr std::size_t AUTOR_WIDTH = 64;
 inline constexpr std::size_t LINIA_WIDTH = 20; // of a title line
 inline constexpr int LINIE_COUNT = 3;
 
-// Text as the window holds it: one Windows-1250 byte a character. A type of its own, so that it can't
-// be mixed up with the UTF-8 of captions and messages.
+// Text as the window holds it, one byte per character. A type of its own, so that it can't be mixed up with the UTF-8
+// of captions and messages.
 struct Tekst {
     std::string znaki;
 
@@ -26,24 +26,24 @@ struct Tekst {
     bool operator==(const Tekst&) const = default;
 };
 
-// Window text to stored text and back; the length stays, one character is one byte.
+// Window text to stored text and back. The length stays the same.
 Bajty EncodeTekst(const Tekst& tekst);
 Tekst DecodeTekst(std::span<const Bajt> bytes);
 
 // Upper case over the whole of Windows-1250.
 Tekst upperCase(Tekst tekst);
 
-// Upper case, centred by its length (the odd space to the right), filled up to `width` characters.
+// Upper case, centred in `width` characters; of an odd number of spaces, one more goes in front.
 Tekst FitNazwa(const Tekst& tekst, std::size_t width = NAZWA_WIDTH);
 
-// Upper case, filled up with spaces on the right to `width` characters.
+// Upper case, with spaces added at the end up to `width` characters.
 Tekst NormalizeBox(const Tekst& tekst, std::size_t width);
 
 // Without the spaces (code 32 only) at both ends.
 Tekst trimmed(const Tekst& tekst);
 
-// Windows-1250 to Unicode and back. The five codes that the code page leaves open stand for U+0081,
-// U+0083, U+0088, U+0090 and U+0098; a character that the page lacks becomes '?'.
+// Windows-1250 to Unicode and back. The five codes that the page leaves open stand for U+0081, U+0083, U+0088, U+0090
+// and U+0098. A character that the page lacks becomes '?'.
 char16_t toUnicode(Bajt code);
 Bajt fromUnicode(char32_t character);
 

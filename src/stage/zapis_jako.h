@@ -12,7 +12,7 @@ namespace dorva {
 // Asks for a file to save to and, if it exists, whether to replace it. Sets OstatniaSciezka.
 std::optional<std::filesystem::path> askSavePath(Edytor&, const DialogPliku&);
 
-// Writes a file that the user has named. A copy of its old content is made first where it is one of the working set.
+// Writes a file that the user has named. A file of the working set is copied first.
 [[nodiscard]] bool writeChosen(const Edytor&, const std::filesystem::path&, std::span<const Bajt> bytes);
 
 } // namespace dorva

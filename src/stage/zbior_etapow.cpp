@@ -23,15 +23,15 @@ constexpr std::string_view FILTR_ZAPISU = "Etap gry|DETAP.*|Wszystkie pliki (*.*
 
 constexpr int OSTATNI_INDEX = ETAPY_COUNT - 1;
 
-// Stage 32 is always the last one of the game.
+// No stage follows stage 32, so its box is checked and can't be changed.
 void applyLastStageRule(Edytor& e, int index) {
     if (index == OSTATNI_INDEX)
         (void)SetOstatni(e, 1);
     e.okno.chkOstatniEnabled = index != OSTATNI_INDEX;
 }
 
-// The walled field of a cleared stage. The corners follow from the order: row 0 ends up with the side
-// walls at its ends, row 19 with the bottom wall.
+// A cell of a cleared stage: earth within walls. The upper corners belong to the side walls, the lower ones to the
+// bottom wall.
 Znak clearedCell(int cell, Znak krawedz) {
     const int row = cell / PLANSZA_COLUMNS, column = cell % PLANSZA_COLUMNS;
     const bool side = column == 0 || column == PLANSZA_COLUMNS - 1;
@@ -40,7 +40,7 @@ Znak clearedCell(int cell, Znak krawedz) {
     return isEdge(cell) ? znak(kod(krawedz) + 1) : ZIEMIA;
 }
 
-// Reads a file's first 931 bytes into the image buffer, which holds zeros where that fails.
+// Reads the first 931 bytes of a file into the editor's image; zeros if that fails.
 bool readOrCreateEtap(Edytor& e, const std::filesystem::path& path) {
     auto image = readOrCreate(*e.system, path, ETAP_SIZE_BYTES);
     e.image = image ? std::move(*image) : EtapImage(ETAP_SIZE_BYTES, 0);

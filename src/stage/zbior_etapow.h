@@ -1,4 +1,4 @@
-// The stage set: 32 stage files, written back without asking, and single stages anywhere.
+// The 32 stage files, which are written back without asking, and stages in files that the user names.
 #pragma once
 
 #include "edytor.h"
@@ -8,7 +8,7 @@
 
 namespace dorva {
 
-// Selects a stage button as a click does; nothing if it is selected already.
+// Stores the current stage and goes to another one; nothing if it is the same.
 void SelectEtapNR(Edytor&, int index);
 void optEtapNR_Click(Edytor&, int index);
 
@@ -16,17 +16,16 @@ void cmdLoad_Click(Edytor&);
 void cmdSave_Click(Edytor&);
 void cmdCzysc_Click(Edytor&);
 
-// A frame of walls around a field of earth, goal 1, blank texts. No file is touched.
+// Clears the stage on the screen: walls, earth, goal 1, blank texts. Touches no file.
 void ClearEtap(Edytor&);
 
-// Writes the image buffer to the current stage's file, once a copy of the old content is made.
+// Stores the editor's image as the current stage, after making a copy of the old file.
 [[nodiscard]] bool writeBiezacyEtap(Edytor&);
 
-// Reads the current stage's file (its first 931 bytes) into the image buffer and unpacks it. A missing file is
-// created, empty.
+// Loads the current stage: the first 931 bytes of its file. A missing file is created, empty.
 [[nodiscard]] bool readOrCreateBiezacyEtap(Edytor&);
 
-// The images of all 32 stages, in order; nothing at the first that fails. A missing file is created, empty.
+// The stored forms of all 32 stages, in order; nothing if one can't be read. A missing file is created, empty.
 std::optional<std::array<EtapImage, ETAPY_COUNT>> readOrCreateAllEtapy(const Edytor&);
 
 } // namespace dorva

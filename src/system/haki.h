@@ -1,4 +1,4 @@
-// What the editor asks of the outside in the midst of an operation: messages, dialogs, programs, pictures.
+// What an operation asks of the outside while it runs: messages, dialogs, programs, pictures.
 #pragma once
 
 #include "system/bitmapa.h"
@@ -14,7 +14,7 @@ namespace dorva {
 enum class Ikona { Critical, Warning, Information };
 enum class Przyciski { Ok, OkCancel, YesNo };
 
-// A message box; texts are UTF-8, two lines are joined by one line feed.
+// A message box. Texts are UTF-8; a line feed starts a new line.
 struct Komunikat {
     std::string_view title;
     std::string_view text;
@@ -22,7 +22,7 @@ struct Komunikat {
     Przyciski przyciski = Przyciski::Ok;
 };
 
-// A file dialog. `filter` is pairs of label and pattern, all joined by '|'.
+// A file dialog. `filter` reads "label|pattern|label|pattern".
 struct DialogPliku {
     std::string name;
     std::filesystem::path start;
@@ -34,10 +34,10 @@ enum class OknoProgramu { Hidden, Normal };
 struct Haki {
     // True for OK and Yes, false for Cancel and No.
     std::function<bool(const Komunikat&)> messageBox;
-    // Nothing where the user cancelled.
+    // The chosen file; nothing if the user cancelled.
     std::function<std::optional<std::filesystem::path>(const DialogPliku&)> openDialog;
     std::function<std::optional<std::filesystem::path>(const DialogPliku&)> saveDialog;
-    // Starts a program with its full path and no arguments and returns at once.
+    // Starts a program, given by its full path, and doesn't wait for it to end.
     std::function<void(const std::filesystem::path&, OknoProgramu)> startProgram;
     // Loads a Windows bitmap; only its top left `width` x `height` pixels are wanted.
     std::function<std::optional<Bitmapa>(const std::filesystem::path&, int width, int height)> loadPicture;

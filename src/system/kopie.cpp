@@ -27,10 +27,10 @@ fs::path folderOf(const fs::path& file) {
     return file.parent_path() / KOPIE / file.filename();
 }
 
-// The time of a copy as its name tells it, in local time.
+// The time as it stands in the name of a copy: local time.
 std::string timeText(Time time) {
     const std::time_t seconds = std::chrono::system_clock::to_time_t(time);
-    const std::tm* local = std::localtime(&seconds); // none for a time that the C library can't tell
+    const std::tm* local = std::localtime(&seconds); // null for a time that the C library can't convert
     std::array<char, 64> text{};
     const std::size_t length = local ? std::strftime(text.data(), text.size(), " %Y-%m-%d %H.%M", local) : 0;
     return length > 0 ? std::string(text.data(), length) : std::string(TIME_FORM);
@@ -42,7 +42,7 @@ std::string copyName(const fs::path& file, int number, Time made, std::string_vi
     return file.filename().string() + '.' + digits + timeText(made) + std::string(ending);
 }
 
-// The number in the name of a copy; nothing where the name is none of a copy's.
+// The number in the name of a copy; nothing if this isn't the name of one.
 std::optional<int> numberOf(const fs::path& file, const fs::path& copy, std::string_view ending) {
     constexpr std::size_t NUMBER_MAX_DIGITS = 9;
     const auto isDigit = [](auto letter) { return letter >= '0' && letter <= '9'; };
@@ -68,7 +68,7 @@ struct Copy {
     auto operator<=>(const Copy&) const = default;
 };
 
-// The copies of a file, the oldest first. Nothing where the folder can't be read.
+// The copies of a file, the oldest first. Nothing if the folder can't be read.
 std::optional<std::vector<Copy>> copiesOf(const SystemCalls& system, const fs::path& file, std::string_view ending) {
     std::vector<fs::path> names;
     if (const Result result = system.list(folderOf(file), names); result != Result::Ok && result != Result::Missing)
@@ -81,7 +81,7 @@ std::optional<std::vector<Copy>> copiesOf(const SystemCalls& system, const fs::p
     return copies;
 }
 
-// Makes a folder if it is missing; its name outlives a power cut.
+// Makes a folder if it is missing, so that it survives a power cut.
 bool provideFolder(const SystemCalls& system, const fs::path& folder) {
     const Result result = system.makeFolder(folder);
     if (result == Result::Ok)
@@ -89,8 +89,8 @@ bool provideFolder(const SystemCalls& system, const fs::path& folder) {
     return result == Result::Ok || result == Result::Taken;
 }
 
-// Copies what stands in a file. What another program stores there meanwhile is copied as well, so only what comes
-// between the last look and the rename that follows it is lost.
+// Copies the content of a file until it no longer changes. What another program stores there in the meantime is copied
+// as well; only what it stores between the last look and the rename is lost.
 bool keepContent(const SystemCalls& system, const fs::path& file, const fs::path& target) {
     for (Bajty kept;;) {
         FileInfo info;
@@ -100,7 +100,7 @@ bool keepContent(const SystemCalls& system, const fs::path& file, const fs::path
         const auto old = readWhole(system, target);
         if (result != Result::Ok || !old)
             return false;
-        if (*old == kept) // at first: empty
+        if (*old == kept) // also an empty file, at the first look
             return true;
         if (!keepCopy(system, file, *old, info.modified))
             return false;

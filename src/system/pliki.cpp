@@ -18,10 +18,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t WHOLE_MAX_BYTES = 64 << 20; // more than anything the editor makes or takes
+constexpr std::uintmax_t WHOLE_MAX_BYTES = 64 << 20; // more than any file of the editor has
 constexpr std::string_view TEMPORARY_PREFIX = "dorva-";
 constexpr std::string_view TEMPORARY_SUFFIX = ".dp-tmp";
-constexpr std::chrono::hours LEFTOVER_AGE{1}; // by then whoever wrote it, on whatever machine, is done or gone
+constexpr std::chrono::hours LEFTOVER_AGE{1}; // no write takes that long, on any machine
 
 // An open file that is closed when its scope ends.
 class OpenFile {
@@ -61,7 +61,7 @@ fs::path folderOf(const fs::path& path) {
 }
 
 // The file that a path stands for once its symbolic links are followed, also where that file is missing.
-// Nothing where the system can't say: a rename would then put a file in the place of a link.
+// Nothing if the system can't say: a rename might then replace a link by a file.
 std::optional<fs::path> resolved(const SystemCalls& system, fs::path path) {
     constexpr int LINKS_MAX = 40;
     for (int links = 0; links < LINKS_MAX; ++links) {
@@ -74,8 +74,8 @@ std::optional<fs::path> resolved(const SystemCalls& system, fs::path path) {
     return std::nullopt;
 }
 
-// What a write is about to replace: the file behind all links and its mode, if it is there. Nothing where an ordinary
-// open for writing would fail; a rename alone would replace read-only files, devices and folders too.
+// What a write is about to replace: the file behind all links, and its mode if it exists. Nothing if it couldn't be
+// opened for writing; a rename alone would replace read-only files, devices and folders too.
 struct Target {
     fs::path path;
     std::optional<fs::perms> mode;
@@ -94,8 +94,8 @@ std::optional<Target> findTarget(const SystemCalls& system, const fs::path& path
     return Target{*file, info.mode};
 }
 
-// Writes the coming content of a file beside it; the path, or nothing. The number in the name comes from the clock, so
-// a name that someone is about to sweep never comes back.
+// Writes the new content of a file beside it; returns the path, or nothing. The number in the name comes from the
+// clock, so no new file gets the name of a leftover that another run is about to remove.
 std::optional<fs::path> writeTemporary(const SystemCalls& system, const Target& target, std::span<const Bajt> bytes) {
     constexpr int NAMES_MAX = 1000;
     const auto now = system.now().time_since_epoch().count();
@@ -174,7 +174,7 @@ Result writeNew(const SystemCalls& system, const fs::path& path, std::span<const
     if (file.result() != Result::Ok)
         return file.result();
     if (mode)
-        (void)system.setMode(path, *mode); // where a file system knows no mode bits, it goes without
+        (void)system.setMode(path, *mode); // fails on a file system without mode bits, which is no harm
     const bool isWritten = file.writeAll(bytes) && file.flush();
     if (file.close() && isWritten)
         return Result::Ok;
@@ -194,7 +194,7 @@ bool writeWhole(const SystemCalls& system, const fs::path& path, std::span<const
         system.remove(*temporary);
         return false;
     }
-    // The name is in place already, so a failure here is none of the write.
+    // The new file is in place already, so a failure here isn't one of the write.
     system.flushFolder(folderOf(target->path));
     return true;
 }

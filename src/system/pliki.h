@@ -15,43 +15,43 @@
 
 namespace dorva {
 
-// The first `count` bytes of a regular file. A missing file is created, empty; nothing where the file
-// can't be opened, is no regular file, or holds fewer bytes.
+// The first `count` bytes of a regular file. A missing file is created, empty. Nothing if the file can't be opened, is
+// no regular file, or holds fewer bytes.
 std::optional<Bajty> readOrCreate(const SystemCalls&, const std::filesystem::path&, std::size_t count);
 
 // Likewise, but a missing file stays missing.
 std::optional<Bajty> readFirst(const SystemCalls&, const std::filesystem::path&, std::size_t count);
 
-// Likewise, but a file that holds fewer bytes gives all of them.
+// Likewise, but all bytes of a file that holds fewer.
 std::optional<Bajty> readUpTo(const SystemCalls&, const std::filesystem::path&, std::size_t count);
 
-// The whole of a regular file; nothing where it can't be read or is longer than 64 MiB.
+// The whole of a regular file; nothing if it can't be read or is longer than 64 MiB.
 std::optional<Bajty> readWhole(const SystemCalls&, const std::filesystem::path&);
 
 // The length of a regular file in bytes; nothing if there is none.
 std::optional<std::uintmax_t> lengthOf(const SystemCalls&, const std::filesystem::path&);
 
-// Whether something stands at the path; also true where the system can't say.
+// Whether something exists at the path; also true if the system can't say.
 bool fileExists(const SystemCalls&, const std::filesystem::path&);
 
-// Whether two paths lead to one file; also false where the system can't say.
+// Whether two paths lead to one file; also false if the system can't say.
 bool isSameFile(const SystemCalls&, const std::filesystem::path&, const std::filesystem::path&);
 
-// Whether a regular file stands at the path and may be written.
+// Whether a regular file exists at the path and may be written.
 bool isWritable(const SystemCalls&, const std::filesystem::path&);
 
-// Makes a file, flushed to the disk. Taken where something stands there; no other failure leaves anything behind.
+// Makes a file, flushed to the disk. Taken if something exists there already; a failure leaves nothing behind.
 [[nodiscard]] Result writeNew(const SystemCalls&, const std::filesystem::path&, std::span<const Bajt> bytes,
                               std::optional<std::filesystem::perms> mode = std::nullopt);
 
 // Replaces the file by `bytes`: a temporary file in the same folder, flushed, renamed over the old one. Mode bits
-// and symbolic links are kept. On failure the old file is untouched and nothing else is left. `mayReplace` is asked
-// right before the rename, with all links of the path followed; if it answers no, that is a failure.
+// and symbolic links are kept. On failure the old file is untouched and nothing else is left. `mayReplace` is called
+// right before the rename, with the file behind all links; if it returns false, the write fails.
 [[nodiscard]] bool writeWhole(const SystemCalls&, const std::filesystem::path&, std::span<const Bajt> bytes,
                               const std::function<bool(const std::filesystem::path& file)>& mayReplace = {});
 
-// The names in a folder that end in `suffix` (exact case), sorted by byte value. None where the listing
-// breaks off: a part of it would give the worlds the wrong tile sets.
+// The names in a folder that end in `suffix` (exact case), sorted by byte value. None if the listing fails halfway:
+// with a part of it the worlds would get the wrong tile sets.
 std::vector<std::filesystem::path> listNames(const SystemCalls&, const std::filesystem::path& folder,
                                              std::string_view suffix);
 

@@ -1,11 +1,11 @@
-// This process, as the system knows it.
+// What the system knows about this process.
 #pragma once
 
 #include <filesystem>
 
 namespace dorva {
 
-// The file that this process runs, with its full path and symbolic links resolved; empty where the system doesn't say.
+// The executable file of this process: a full path without symbolic links, empty if the system doesn't say.
 std::filesystem::path ownExecutable();
 
 } // namespace dorva

@@ -23,7 +23,7 @@ Result resultOf(const std::error_code& error) {
     return error == std::errc::file_exists ? Result::Taken : Result::Error;
 }
 
-// Calls until no signal interrupts.
+// Repeats a call that was interrupted by a signal.
 template <typename Call> auto uninterrupted(Call call) {
     for (;;)
         if (const auto answer = call(); answer != -1 || errno != EINTR)

@@ -1,4 +1,4 @@
-// The system calls that the file layer is made of, as a table, so that a test can put its own in their place.
+// The system calls that the file layer is made of, as a table, so that tests can replace them.
 #pragma once
 
 #include "podstawy.h"
@@ -17,8 +17,8 @@ using Time = std::chrono::system_clock::time_point;
 // How a call went.
 enum class Result {
     Ok,
-    Missing, // nothing stands at the path
-    Taken,   // the name is taken
+    Missing, // nothing exists at the path
+    Taken,   // something exists there already
     Error,
 };
 
@@ -36,35 +36,35 @@ enum class OpenMode {
     New,    // only a new file
 };
 
-using Handle = int; // an open file, as the C runtime numbers it
+using Handle = int; // the C runtime's number of an open file
 
 struct SystemCalls {
     using Path = std::filesystem::path;
 
     Result (*open)(const Path&, OpenMode, Handle&);
-    // `count` is how many bytes moved: all, some, at the end of a file none.
+    // `count` is how many bytes were moved: all or some of them, none at the end of a file.
     Result (*read)(Handle, std::span<Bajt> bytes, std::size_t& count);
     Result (*write)(Handle, std::span<const Bajt> bytes, std::size_t& count);
     Result (*flush)(Handle);
     Result (*close)(Handle);
 
     Result (*stat)(const Path&, FileInfo&);        // follows links
-    Result (*readLink)(const Path&, Path& target); // Missing where no link stands
+    Result (*readLink)(const Path&, Path& target); // Missing if it is no link
     Result (*isSame)(const Path&, const Path&, bool& same);
     Result (*setMode)(const Path&, std::filesystem::perms);
     Result (*rename)(const Path& from, const Path& to); // replaces `to`
     Result (*remove)(const Path&);
 
-    Result (*makeFolder)(const Path&); // Taken where it exists
-    // Makes new names in a folder outlive a power cut.
+    Result (*makeFolder)(const Path&); // Taken if it exists
+    // Makes sure that new names in a folder survive a power cut.
     Result (*flushFolder)(const Path&);
-    // Adds the names in a folder, in any order, without those of the folder itself and the one above.
+    // Adds the names in a folder, in any order, without "." and "..".
     Result (*list)(const Path& folder, std::vector<Path>& names);
 
     Time (*now)();
 };
 
-// The operating system's own.
+// The calls of the operating system.
 extern const SystemCalls SYSTEM_CALLS;
 
 } // namespace dorva

@@ -1,4 +1,4 @@
-// The calls that every system has in its own way. One file a system: system_posix.cpp, system_windows.cpp.
+// The calls that differ between systems. Each system has a file for them: system_posix.cpp, system_windows.cpp.
 #pragma once
 
 #include "system/system_calls.h"
@@ -9,7 +9,7 @@
 
 namespace dorva::own {
 
-// A file descriptor. Like all that follow: -1 on failure, with the reason in errno.
+// Returns a file descriptor. On failure this and all that follow return -1, with the reason in errno.
 Handle open(const std::filesystem::path&, OpenMode);
 std::ptrdiff_t read(Handle, std::span<Bajt>);
 std::ptrdiff_t write(Handle, std::span<const Bajt>);

@@ -33,8 +33,8 @@ constexpr int flagsOf(OpenMode mode) {
     }
 }
 
-// A virus scanner or a cloud folder's program holds a file for a moment, mostly right after a write to it; a call on
-// it is then refused in one of three ways. The whole wait, 310 ms, is short enough not to be felt.
+// A virus scanner or the program of a cloud folder may hold a file for a moment, mostly right after a write to it; a
+// call on it then fails with one of three errors. The whole wait, 310 ms, is too short to be noticed.
 template <typename Call> int patiently(Call call) {
     constexpr std::array<::DWORD, 5> WAITS_MS{10, 20, 40, 80, 160};
     for (const ::DWORD wait : WAITS_MS) {
@@ -48,7 +48,7 @@ template <typename Call> int patiently(Call call) {
     return call();
 }
 
-// The answer of a call that leaves errno alone.
+// The result of a Windows call, reported as the C runtime does.
 int answerOf(::BOOL isDone) {
     errno = isDone ? 0 : EACCES;
     return isDone ? 0 : -1;
@@ -66,7 +66,7 @@ namespace own {
 
 Handle open(const fs::path& path, OpenMode mode) {
     constexpr int MAY_WRITE = 2;
-    // The read-only flag is asked for by itself: an administrator could open such a file for writing.
+    // Ask for the read-only flag as well: an administrator may open such a file for writing.
     if (mode == OpenMode::Write && ::_waccess(path.c_str(), MAY_WRITE) != 0)
         return -1;
     const int flags = flagsOf(mode) | _O_BINARY | _O_NOINHERIT;
@@ -106,7 +106,7 @@ int remove(const fs::path& path) {
     return patiently([&] { return answerOf(::DeleteFileW(path.c_str())); });
 }
 
-// Renaming writes through, and there is no call that flushes a folder.
+// Windows has no call that flushes a folder. None is needed: renaming writes through.
 int flushFolder(const fs::path&) {
     return 0;
 }
@@ -114,7 +114,7 @@ int flushFolder(const fs::path&) {
 } // namespace own
 
 fs::path ownExecutable() {
-    std::wstring name(32768, L'\0'); // no path is longer
+    std::wstring name(32768, L'\0'); // the longest path
     name.resize(::GetModuleFileNameW(nullptr, name.data(), static_cast<::DWORD>(name.size())));
     return name;
 }

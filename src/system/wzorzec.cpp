@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A scanner may still hold what was just written, and Windows doesn't rename it until then.
+// On Windows a file can't be renamed while a scanner holds it, which is likely right after it was written.
 void renamePatiently(const fs::path& from, const fs::path& to, std::error_code& error) {
     for (int attempt = 0; attempt < 20; ++attempt) {
         fs::rename(from, to, error);
@@ -24,7 +24,7 @@ std::error_code layWhole(const fs::path& from, const fs::path& to) {
         return {};
     fs::path copy = to;
     copy += ".nowe";
-    fs::remove_all(copy, error); // of a run that broke off
+    fs::remove_all(copy, error); // left by a run that was interrupted
     fs::create_directories(to.parent_path(), error);
     if (!error)
         fs::copy(from, copy, fs::copy_options::recursive, error);

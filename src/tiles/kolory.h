@@ -1,23 +1,23 @@
-// The twelve colour registers of the stage and what fills them.
+// The colours of a stage, and where they come from.
 #pragma once
 
 #include "edytor.h"
 
 namespace dorva {
 
-// The palette file, or the built-in table where there is none or it is too short.
+// Loads the palette file; the built-in table if the file is missing or too short.
 void LoadPaleta(Edytor&);
 
-// A world's colour file into its row of KoloryDomyslne; left alone where the file is missing or short.
+// Loads a world's colour file into its row of KoloryDomyslne; a missing or short file changes nothing.
 void LoadKolory(Edytor&, Swiat swiat);
 
-// Likewise, but without asking first whether the file is there. False where nothing was read.
+// Likewise, but creates a missing file, empty. False if nothing was loaded.
 [[nodiscard]] bool readOrCreateKolory(Edytor&, Swiat swiat);
 
-// The one way to write a slot.
+// Sets a slot: its value and, by the palette, the colour of its swatch.
 void ShowKolor(Edytor&, int slot, Bajt value);
 
-// The world's default colours into slots first..last of the stage.
+// Gives slots first..last of the stage the world's default colours.
 void showDomyslne(Edytor&, Swiat swiat, int first, int last);
 
 void cmdResetKolory_Click(Edytor&);

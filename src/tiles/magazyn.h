@@ -1,4 +1,4 @@
-// The tile store: the pictures of all three worlds.
+// The tile store: every tile picture that was loaded.
 #pragma once
 
 #include "podstawy.h"
@@ -10,22 +10,20 @@
 
 namespace dorva {
 
-// The place of a tile in a strip: 0..63 are the STD half, 64..127 the INV half.
+// The place of a tile in a strip, which holds the 64 STD tiles and then the 64 INV tiles.
 using StripPosition = int;
 inline constexpr StripPosition PASEK_TILES = 128;
 inline constexpr int PASEK_WIDTH = PASEK_TILES * OBRAZ_SIDE;
 
-// The pictures of one world by code, so that a code needs no translation; those of the codes without a picture stay
-// empty, as all do before a strip has filled them.
+// The pictures of one world, by code. Entries of codes that are no tiles stay empty; all are before a strip is loaded.
 using Zestaw = std::array<std::shared_ptr<const ZnakObraz>, 192>;
 
 struct Magazyn {
     std::array<Zestaw, SWIATY_COUNT> imgZnak;
-    // Counts the loaded strips, so that a window knows when to prepare its pictures anew.
+    // Counts the loaded strips, so that a window knows when to prepare its pictures again.
     unsigned wersja = 0;
 
-    // The picture behind a reference; null for an empty entry, a code without a picture and the default
-    // state.
+    // The picture behind a reference; null for an empty entry, a code that is no tile, and the default state.
     [[nodiscard]] const ZnakObraz* find(ObrazRef ref) const {
         if (ref.swiat < 0 || ref.swiat >= SWIATY_COUNT || !isTile(ref.znak))
             return nullptr;
@@ -33,7 +31,7 @@ struct Magazyn {
     }
 };
 
-// The code of a strip's tile.
+// The code of the tile at a position.
 constexpr int kodOfPosition(StripPosition position) {
     return position < ZNAKI_COUNT ? position : position + (INV - ZNAKI_COUNT);
 }

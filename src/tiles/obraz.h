@@ -15,10 +15,10 @@ struct Rgb {
 
 inline constexpr int OBRAZ_SIDE = 32;
 
-// The picture of one code in one world: 32 x 32 pixels, 0xAARRGGBB, row by row.
+// The picture of a tile: 32 x 32 pixels, 0xAARRGGBB, row by row.
 using ZnakObraz = std::array<std::uint32_t, OBRAZ_SIDE * OBRAZ_SIDE>;
 
-// Which picture a control shows: that of a code in a world, or in the window's default state.
+// Which picture a control shows: the tile's code and the world; DOMYSLNY before a tile set is shown.
 struct ObrazRef {
     static constexpr std::int8_t DOMYSLNY = -1;
     std::int8_t swiat = DOMYSLNY;

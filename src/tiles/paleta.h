@@ -1,16 +1,16 @@
-// The palette dialog: gives a slot one of the 128 even colour values.
+// The palette dialog, where the user chooses the colour of a slot.
 #pragma once
 
 #include "edytor.h"
 
 namespace dorva {
 
-// A click on a swatch: selects the slot and opens the dialog, unless colours are blocked.
+// A click on a swatch: opens the dialog for its slot, or says that the colours are locked.
 void PickKolor(Edytor&, int slot);
 void OpenPaleta(Edytor&);
 void picPaleta_Click(Edytor&, int index);
 
-// Closes the dialog, by whatever means.
+// The dialog was closed, in whatever way.
 void closePaleta(Edytor&);
 
 } // namespace dorva

@@ -16,7 +16,7 @@ namespace dorva {
 using TablicaBarw = std::array<Rgb, 256>;
 inline constexpr std::size_t PALETA_SIZE_BYTES = 3 * 256;
 
-// The table in force where no palette file stands.
+// The table that is used if there is no palette file.
 extern const TablicaBarw PaletaWbudowana;
 
 // A palette file's RGB triples; nothing if there are fewer than 768 bytes.

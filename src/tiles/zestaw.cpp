@@ -16,7 +16,7 @@
 namespace dorva {
 namespace {
 
-// Windows doesn't mind the case of a name, neither where one is matched nor where names are put in order.
+// On Windows the case of a name doesn't count, neither for the ending nor for the order.
 constexpr bool IGNORES_CASE = std::filesystem::path::preferred_separator != '/';
 
 std::filesystem::path::string_type comparable(const std::filesystem::path& name) {
@@ -27,8 +27,8 @@ std::filesystem::path::string_type comparable(const std::filesystem::path& name)
     return text;
 }
 
-// The files "*.ND" of a folder in order. Hidden ones don't count: some systems leave a "._NAME" beside each file on a
-// stick.
+// The files "*.ND" of a folder, sorted. Hidden ones are left out: some systems leave a "._NAME" beside each file on a
+// memory stick.
 std::vector<std::filesystem::path> listZestawy(const Edytor& e, const std::filesystem::path& folder) {
     static const auto end = std::filesystem::path(".ND").native();
     auto names = listNames(*e.system, folder, "");
@@ -59,7 +59,7 @@ bool ScanZestawy(Edytor& e) {
     const auto names = listZestawy(e, folder);
     const int count = names.size();
     for (Swiat swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
-        // The listing says once that it is at its end; asking it again is a failure.
+        // Only the last world may be without a tile set.
         if (swiat > count)
             return false;
         if (swiat < count)

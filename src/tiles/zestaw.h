@@ -1,4 +1,4 @@
-// The tile sets of the three worlds: loading them and showing them.
+// Loads tile sets and shows them.
 #pragma once
 
 #include "edytor.h"
@@ -7,17 +7,16 @@
 
 namespace dorva {
 
-// Gives each world its tile set by its place in the listing of the exports. False where the listing was
-// asked once too often (fewer than two names).
+// Loads the exported tile sets, for world 0 the first by name and so on. False if there are fewer than two.
 [[nodiscard]] bool ScanZestawy(Edytor&);
 
-// Loads one world's strip and colour file; ends silently at the step that fails.
+// Loads a world's strip and colour file; ends without a message at the step that fails.
 void LoadZestaw(Edytor&, const std::filesystem::path&, Swiat swiat);
 
-// Shows everything that shows a tile in the tile set of a world. Changes no code.
+// Shows board, picker, buffer and icons with the pictures of a world. Changes no code.
 void ShowZestaw(Edytor&, Swiat swiat);
 
-// Selects a world and shows it if that is a change; false above 2.
+// Selects a world and shows its pictures, unless it is selected already; false if there is no such world.
 [[nodiscard]] bool SelectObiektyNR(Edytor&, Swiat swiat);
 void optObiektyNR_Click(Edytor&, int index);
 
