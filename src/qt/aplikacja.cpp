@@ -14,7 +14,7 @@
 #include <system_error>
 
 static void initResources() {
-    Q_INIT_RESOURCE(czcionki); // they lie in a static library
+    Q_INIT_RESOURCE(czcionki); // resources of a static library need it
     Q_INIT_RESOURCE(slowa);
 }
 
@@ -25,7 +25,7 @@ void setUpApplication(QApplication& application) {
     initResources();
     loadFonts();
     QApplication::setFont(fontOkna());
-    // Qt's own file dialog would remember its columns and folders in a file. Nothing but the work outlives a run.
+    // Qt's own file dialog would store its columns and folders in a file. The program keeps no settings.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     auto* polish = new QTranslator(&application);
     if (polish->load(":/slowa/qtbase_pl.qm"))
@@ -35,7 +35,7 @@ void setUpApplication(QApplication& application) {
 bool prepareFolder(const std::filesystem::path& folder) {
     constexpr int PATIENCE_MS = 10000;
     QLockFile turn(nameOfPath(folder / "wzorzec" / "kolej")); // two first starts at once would mix their copies
-    (void)turn.tryLock(PATIENCE_MS);                          // without a right to write there is nothing to mix
+    (void)turn.tryLock(PATIENCE_MS);                          // it fails only where the copies can't be written either
     const std::error_code error = layOut(folder);
     if (!error)
         return true;

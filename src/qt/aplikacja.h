@@ -10,7 +10,8 @@ namespace dorva {
 // One look on every desktop, and Qt's own dialogs in Polish.
 void setUpApplication(QApplication&);
 
-// A package's first start lays what the user works on beside the program. False if that failed; the user was told why.
+// Puts what the user works on beside the program, at the first start of a package. If that fails, shows a message with
+// the reason and returns false.
 [[nodiscard]] bool prepareFolder(const std::filesystem::path& folder);
 
 } // namespace dorva

@@ -13,8 +13,8 @@ namespace {
 
 constexpr qint64 PIXELS_MAX = 16 << 20;
 
-// A file in memory. Notes whether the reader asked for more than there is: it shows what was cut short as if it were
-// whole.
+// A file in memory that notes whether the reader wanted more than there is: Qt's reader takes a file that was cut short
+// for a whole one.
 class PlikWPamieci : public QBuffer {
 public:
     using QBuffer::QBuffer;
@@ -47,15 +47,15 @@ std::optional<Bitmapa> loadBitmapa(const std::filesystem::path& path, int width,
     QImageReader reader(&buffer, "bmp");
     reader.setAutoDetectImageFormat(false);
     const QSize stored = reader.size();
-    const QSize size(stored.width(), std::abs(stored.height())); // a height below 0: the rows run from the top down
+    const QSize size(stored.width(), std::abs(stored.height())); // a negative height: the top row comes first
     if (size.isEmpty() || qint64(size.width()) * size.height() > PIXELS_MAX)
         return std::nullopt;
     QImage image(size, reader.imageFormat());
-    image.fill(0); // runs may leave pixels out
+    image.fill(0); // a compressed file may skip pixels
     if (!reader.read(&image) || buffer.cutShort)
         return std::nullopt;
     if (image.format() == QImage::Format_ARGB32 && isTransparent(image))
-        image.reinterpretAsFormat(QImage::Format_RGB32); // the channel was left empty
+        image.reinterpretAsFormat(QImage::Format_RGB32); // the alpha channel was left empty
     const QImage part = image.copy(image.rect() & QRect(0, 0, width, height)).convertToFormat(QImage::Format_ARGB32);
     const auto* pixels = reinterpret_cast<const std::uint32_t*>(part.constBits());
     return Bitmapa{part.width(), part.height(), {pixels, pixels + part.width() * part.height()}};

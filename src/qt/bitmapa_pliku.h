@@ -9,7 +9,7 @@
 namespace dorva {
 
 // The top left `width` x `height` pixels of a bitmap file, or as many as it has. An alpha channel that is zero
-// everywhere counts as none. Nothing where the file is missing, no bitmap, cut short, or of an absurd size (over 64
+// everywhere counts as none. Nothing if the file is missing, no bitmap, cut short, or of an absurd size (over 64
 // MiB, or more than 16.7 million pixels).
 std::optional<Bitmapa> loadBitmapa(const std::filesystem::path&, int width, int height);
 

@@ -1,14 +1,14 @@
-// The fonts that travel with the program, so that texts fit their boxes on every system.
+// The fonts that come with the program, so that texts fit their boxes on every system.
 #pragma once
 
 #include <QFont>
 
 namespace dorva {
 
-// Makes the fonts known; before any of them is used.
+// Registers the fonts. Has to run before any of them is used.
 void loadFonts();
 
-// The window's font and its bold kin, by pixel size.
+// The window's font, and its bold form.
 QFont fontOkna();
 QFont fontFigury();
 

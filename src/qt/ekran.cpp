@@ -17,7 +17,7 @@ void centre(QWindow& window) {
     window.setFramePosition({std::max(frame.left(), area.left()), std::max(frame.top(), area.top())});
 }
 
-// The desktop gives a window its frame before it exposes it.
+// Centres a window again when it is first exposed: by then the desktop has given it its frame.
 class Centrowanie : public QObject {
 public:
     using QObject::QObject;
@@ -37,7 +37,7 @@ protected:
 void showCentred(QWidget& window) {
     window.winId(); // makes the QWindow
     QWindow& handle = *window.windowHandle();
-    centre(handle); // nearly, so that it hardly moves once its frame is known
+    centre(handle); // roughly, so that it hardly moves once its frame is known
     handle.installEventFilter(new Centrowanie(&handle));
     window.show();
 }

@@ -5,8 +5,8 @@ class QWidget;
 
 namespace dorva {
 
-// Shows a window in the middle of the free area of its screen, its frame included. Where it is larger than that, its
-// upper left corner, with the title bar, is what can be seen.
+// Shows a window, its frame included, in the middle of the free area of its screen. Of one that is larger, the upper
+// left corner with the title bar is visible.
 void showCentred(QWidget& window);
 
 } // namespace dorva

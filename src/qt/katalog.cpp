@@ -13,7 +13,7 @@ using namespace wytwornia;
 
 constexpr std::string_view OKNO{}; // the window itself as a container
 
-// The frames, and the controls that follow no rule.
+// The frames, and the controls whose places follow no pattern.
 constexpr Kontrolka POJEDYNCZE[]{
     {ramka, "fraPole", -1, OKNO, 120, 0, 13215, 6735, "", ""},
     {ramka, "fraEtapNR", -1, "fraPole", 120, 120, 975, 4215, "ETAPY", ""},
@@ -54,6 +54,7 @@ constexpr Kontrolka POJEDYNCZE[]{
     {suwak, "hscMonet", -1, "frmInfo", 3720, 240, 495, 255, "", ""},
     {pole, "txtNazwa", -1, "fraNazwa", 120, 240, 4215, 285, "", ""},
     {pole, "txtAutor", -1, "fraAutor", 120, 240, 8055, 285, "", ""},
+    // reserved for a date and a lock of the description; nothing is bound to them
     {pole, "txtData", -1, "fraAutor", 8160, 240, 240, 285, "", "", false, false},
     {przycisk, "cmdBlokuj", -1, "fraAutor", 120, 600, 375, 255, "<!>", "", false},
     {wybor, "imgZnak", -1, "fraZnaki", 120, 120, (WYBOR_COLUMNS - 1) * 480 + 510, 480 + 510, "", ""},
@@ -72,7 +73,7 @@ constexpr Kontrolka POJEDYNCZE[]{
     {pole, "txtAutorGry", 2, "fraAutorEtapow", 5160, 240, 2535, 285, "", ""},
 };
 
-// The census panel: an icon and a figure each. Hidden ones stand above the frame.
+// The panel of the census: icons and figures. Hidden ones are placed above the frame.
 struct PozycjaInfo {
     int imgLeft, lblLeft;
     std::string_view imgTooltip, lblTooltip;
@@ -116,7 +117,7 @@ void addEtapy(std::vector<Kontrolka>& katalog) {
                            std::string_view(&NUMERY_ETAPOW[2 * i], 2), ""});
 }
 
-// Slots 9 and 10 have no row of their own: hidden, they share the row of the panel's slot.
+// The hidden slots 9 and 10 are placed in the row of the panel's slot.
 void addKolory(std::vector<Kontrolka>& katalog) {
     for (int i = 0; i < SLOTY_COUNT; ++i) {
         const int top = 240 + 240 * (i < 9 ? i : 9);

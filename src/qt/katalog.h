@@ -16,11 +16,10 @@ constexpr int pixels(int twips) {
 inline constexpr int OKNO_WIDTH = pixels(13455), OKNO_HEIGHT = pixels(9255);
 static_assert(OKNO_WIDTH == 897 && OKNO_HEIGHT == 617);
 
-// All controls in an order in which a container comes before what it holds, and what lies on top comes
-// last.
+// All controls. A container comes before what it holds, a covered control before the one that covers it.
 std::vector<Kontrolka> katalogOkna();
 
-// The controls that the Tab key visits, in order; the name of a control array stands for all its controls.
+// The controls that the Tab key visits, in order. The name of an array means all its controls.
 std::vector<std::string_view> kolejnoscTab();
 
 } // namespace dorva

@@ -7,9 +7,9 @@ class QWidget;
 
 namespace dorva {
 
-// A control. Place in twips within its container; `index` is -1 outside control arrays.
+// A control. Its place is in twips, within its container; `index` is -1 outside control arrays.
 struct Kontrolka {
-    QWidget* (*make)(const Kontrolka&, QWidget* parent); // its kind, of wytwornia.h
+    QWidget* (*make)(const Kontrolka&, QWidget* parent); // its kind: a function of wytwornia.h
     std::string_view name;
     int index;
     std::string_view container; // empty for the window itself

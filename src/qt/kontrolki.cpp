@@ -20,7 +20,7 @@ namespace {
 
 constexpr QColor WYBRANY_KOLOR(0x8C, 0xB4, 0xE4); // of a button that is selected
 
-// Of the fields that texts stand on, in a light palette; of the texts themselves in a dark one.
+// The lightest colour of a palette: in a light one that of text fields, in a dark one that of the text.
 QColor lightest(const QPalette& palette) {
     const QColor field = palette.color(QPalette::Base), text = palette.color(QPalette::Text);
     return field.lightness() > text.lightness() ? field : text;
@@ -104,7 +104,7 @@ void EtykietaFigury::showFigura(const QString& text, bool czerwona) {
     setText(text);
     if (std::exchange(czerwona_, czerwona) == czerwona)
         return;
-    QPalette colours; // the system's own, but for a warning
+    QPalette colours; // the system's own, unless the figure is red
     if (czerwona) {
         colours.setColor(QPalette::WindowText, QColor(255, 0, 0));
         colours.setColor(QPalette::Window, lightest(palette()));
@@ -137,7 +137,7 @@ Suwak::Suwak(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
     setInvertedControls(false);
 }
 
-// The arrows share the line between them.
+// The two arrows overlap by the line between them.
 QRect Suwak::arrowRect(SliderAction action) const {
     const int half = width() / 2;
     return action == SliderSingleStepSub ? QRect(0, 0, half + 1, height()) : QRect(half, 0, width() - half, height());

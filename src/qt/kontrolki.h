@@ -1,4 +1,4 @@
-// The small widgets of the window that Qt does not have just so: frame, buttons, labels, goal bar.
+// Small widgets that differ from Qt's own: frame, buttons, check box, labels, goal bar.
 #pragma once
 
 #include <QCheckBox>
@@ -20,8 +20,8 @@ protected:
     void paintEvent(QPaintEvent*) override;
 };
 
-// A button that wraps a long caption, and that shows plainly when it is the selected one of its group. The arrow keys
-// of a group go from the selected one, wherever a press has left the focus.
+// A button that wraps a long caption and clearly shows that it is the selected one of its group. The arrow keys start
+// from the selected button, even if a click has left the focus on another one.
 class Przycisk : public QPushButton {
 public:
     using QPushButton::QPushButton;
@@ -31,7 +31,7 @@ protected:
     void keyPressEvent(QKeyEvent*) override;
 };
 
-// A check box that is seen in a dark palette, too.
+// A check box that can also be seen in a dark palette.
 class Znacznik : public QCheckBox {
 public:
     using QCheckBox::QCheckBox;
@@ -40,7 +40,7 @@ protected:
     void initStyleOption(QStyleOptionButton*) const override;
 };
 
-// A label with plain text that can be clicked: pressed and released within itself.
+// A label that can be clicked, that is, pressed and released within itself.
 class Etykieta : public QLabel {
 public:
     using QLabel::QLabel;
@@ -64,7 +64,7 @@ protected:
     void paintEvent(QPaintEvent*) override;
 };
 
-// A figure of the panel. A red one is bold and stands on the lightest ground of the palette.
+// A figure of the panel. A red one is bold, on the lightest colour of the palette.
 class EtykietaFigury : public EtykietaObramowana {
 public:
     using EtykietaObramowana::EtykietaObramowana;
@@ -74,8 +74,8 @@ private:
     bool czerwona_ = false;
 };
 
-// A swatch in a thin black border: its figure has a dark outline, so that white is read on light colours too. The one
-// being edited has a pale figure and a frame.
+// A swatch in a thin black border. Its figure has a dark outline, so that white can be read on light colours too. The
+// one being edited has a light red figure and a frame.
 class ProbkaKoloru : public Etykieta {
 public:
     using Etykieta::Etykieta;
@@ -88,8 +88,8 @@ private:
     bool wybrana_ = false;
 };
 
-// A horizontal scroll bar too short for a thumb: two arrows side by side. A key or a turn of the wheel goes the way it
-// points; up is more. A pressed arrow goes on counting while the pointer is on it.
+// A horizontal scroll bar that is too short for a thumb: two arrows side by side. With keys and wheel, up means more. A
+// pressed arrow keeps counting while the pointer is on it.
 class Suwak : public QScrollBar {
 public:
     explicit Suwak(QWidget* parent);

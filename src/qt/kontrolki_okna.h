@@ -1,4 +1,4 @@
-// The controls of the window, built from the catalogue and known by their names.
+// The controls of the window, built from the catalogue and found by their names.
 #pragma once
 
 #include "qt/katalog.h"
@@ -10,8 +10,8 @@
 
 namespace dorva {
 
-// A control that is asked for but not in the catalogue, or is of another kind there, is a fault of the program: it ends
-// at once, with the name on standard error.
+// Asking for a control that isn't in the catalogue, or is of another kind there, is a bug: the program ends at once and
+// prints the name.
 class KontrolkiOkna {
 public:
     // Makes the widgets of a catalogue in `window`.
@@ -22,7 +22,7 @@ public:
         return checked<Widget>(find(window_, name, index), name, index);
     }
 
-    // The widgets of a control array, in order; of a single control that alone.
+    // The widgets of a control array, in order; of a single control just that one.
     template <typename Widget> std::vector<Widget*> getAll(std::string_view name) const {
         std::vector<Widget*> all;
         const QWidget* container = window_;

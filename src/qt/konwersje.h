@@ -1,4 +1,4 @@
-// Values of the logic as Qt's, and back.
+// Converts values of the logic to Qt's, and back.
 #pragma once
 
 #include "stage/tekst.h"
@@ -18,12 +18,12 @@ namespace dorva {
 // Captions and messages.
 QString toQString(std::string_view utf8);
 
-// The window's text for bytes of the code page. A control code, which only a file can hold, is shown by its symbol, so
-// that a box always holds as many characters as the text.
+// What a box shows of a text. A control code, which only a file can bring, is shown by its symbol, so that the box
+// holds as many characters as the text.
 QString toQString(const Tekst&);
 
-// The text for what a box shows. A symbol stands for its control code wherever it comes from, so that undo, cut and
-// paste keep what a file held; a control code that was pasted as such becomes a space.
+// The text that a box shows. A symbol becomes its control code, wherever it came from, so that undo, cut and paste keep
+// what a file held. A control code that was pasted becomes a space.
 Tekst fromShown(const QString&);
 
 // Paths as the file system spells them.
@@ -32,7 +32,7 @@ std::filesystem::path toPath(const QString&);
 
 QColor toQColor(Rgb);
 
-// Leaves a widget of this colour alone.
+// Does nothing if the widget has this colour already.
 void setColour(QWidget*, QPalette::ColorRole, const QColor&);
 
 } // namespace dorva

@@ -1,14 +1,14 @@
-// The mouse pointers of the program's own.
+// The program's own mouse pointers.
 #pragma once
 
 #include <QCursor>
 
 namespace dorva {
 
-// Over the tile picker: an arrow with a small cross and a dotted square. Hot spot (16, 8).
+// For the tile picker: an arrow that brings a square along. Hot spot (16, 8).
 QCursor kursorWyboru();
 
-// Over the palette's cells: a pointing hand. Hot spot (12, 1).
+// For the cells of the palette: a hand. Hot spot (12, 1), the tip of its finger.
 QCursor kursorPalety();
 
 } // namespace dorva

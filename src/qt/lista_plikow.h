@@ -1,4 +1,4 @@
-// The list of files in the toolkit's own file dialog, as this program's users read it.
+// The list of files in Qt's own file dialog, in Polish.
 #pragma once
 
 #include <QCollator>
@@ -24,8 +24,8 @@ private:
     QCollator collator_{QLocale(QLocale::Polish)};
 };
 
-// Gives the list to a dialog, in columns as wide as what they hold and without that of file kinds: to the system a
-// stage is a manual page. A desktop's own dialog stays as it is.
+// Gives the list to a dialog. Its columns are as wide as what they hold; that of the file types is hidden, since the
+// system takes DETAP.1 for a manual page. A desktop's own dialog stays as it is.
 void showLista(QFileDialog&);
 
 } // namespace dorva

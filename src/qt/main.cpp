@@ -18,8 +18,8 @@
 
 namespace {
 
-// Where Qt can open no window it warns, and aborts with advice that helps no user. One sentence before its warnings is
-// enough.
+// If Qt can't open a window, it prints warnings and aborts with advice that doesn't help a user. Prints one sentence
+// that does, and then the warnings.
 void sayWhyThereIsNoWindow(QtMsgType type, const QMessageLogContext&, const QString& message) {
     static QByteArray warnings;
     if (type != QtFatalMsg) {
@@ -33,7 +33,7 @@ void sayWhyThereIsNoWindow(QtMsgType type, const QMessageLogContext&, const QStr
     std::_Exit(EXIT_FAILURE);
 }
 
-// Qt as it is where its platform was chosen by hand.
+// Whoever has chosen Qt's platform by hand gets Qt's own messages.
 QtMessageHandler installStartHandler() {
     return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? nullptr : qInstallMessageHandler(sayWhyThereIsNoWindow);
 }
@@ -44,7 +44,7 @@ std::filesystem::path ownFolder() {
     return executable.empty() ? dorva::toPath(QCoreApplication::applicationDirPath()) : executable.parent_path();
 }
 
-// The format is told: to find it out, Qt would load all its plugins for pictures.
+// The format is given, since Qt would load all its picture plugins to find it out.
 QPixmap iconOfSize(int size) {
     QImageReader reader(QString(":/ikona%1.png").arg(size), "png");
     reader.setAutoDetectImageFormat(false);
@@ -61,7 +61,7 @@ QIcon ownIcon() {
 } // namespace
 
 int main(int argc, char** argv) {
-    argc = std::min(argc, 1); // there is no command line; Qt would find options of its own on it
+    argc = std::min(argc, 1); // the program takes no options, so Qt shouldn't find its own
     const QtMessageHandler usual = installStartHandler();
     QApplication application(argc, argv);
     qInstallMessageHandler(usual);

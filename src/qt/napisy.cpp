@@ -22,7 +22,7 @@ int widthForCaption(const QFontMetrics& metrics, QSize box, int flags, const QSt
     const int oneLine = metrics.horizontalAdvance(caption);
     if (oneLine <= box.width() || !(flags & Qt::TextWordWrap))
         return std::max(oneLine, box.width());
-    const int height = box.height() + metrics.descent(); // half of it above and below, where letters leave room
+    const int height = box.height() + metrics.descent(); // letters leave room above and below
     const auto fits = [&](int width) {
         const QSize text = metrics.boundingRect(QRect(0, 0, width, height), flags, caption).size();
         return text.width() <= width && text.height() <= height;

@@ -1,4 +1,4 @@
-// Captions: one that is too wide for its box is drawn narrower, so that no word of it is ever lost.
+// Captions. One that is too wide for its box is drawn narrower, so that no word is lost.
 #pragma once
 
 #include <QFontMetrics>
@@ -7,8 +7,8 @@
 
 namespace dorva {
 
-// The width into which the caption would have to be laid: that of the box where it fits as it is, else a larger one.
-// `flags` are those of QPainter::drawText.
+// The width that a caption needs at the height of its box: the box's own if it fits, else more. `flags` are those of
+// QPainter::drawText.
 int widthForCaption(const QFontMetrics&, QSize box, int flags, const QString& caption);
 
 // Draws a caption in the painter's font and colour.

@@ -1,4 +1,4 @@
-// Thin lines around things.
+// Borders and outlines.
 #pragma once
 
 class QColor;
@@ -8,12 +8,12 @@ class QRect;
 
 namespace dorva {
 
-// A line along the inner side of a rectangle. It keeps to the rectangle on fractional scales too, where a pen would
-// draw beside it.
+// Draws a line along the inner side of a rectangle. It stays within the rectangle on fractional scales too, where a pen
+// would draw outside.
 void drawBorder(QPainter&, const QRect&, const QColor&, int thickness = 1);
 
-// The style draws outlines darker than the window's ground, which nobody sees where that is dark: there it is given a
-// light one to start from. For a control that stands on a ground of its own.
+// The style draws outlines in a darker shade of the window's background. In a dark palette that can't be seen, so this
+// gives it a light colour to start from. For controls that have a background of their own.
 void lightenOutline(QPalette&);
 
 } // namespace dorva

@@ -25,7 +25,7 @@ QImage domyslny(Znak z) {
     QPainter painter(&image);
     painter.fillRect(image.rect().adjusted(2, 2, -2, -2), field);
     QFont font = fontFigury();
-    font.setPixelSize(OBRAZ_SIDE / 2); // so that it survives the scaling to 16 x 16
+    font.setPixelSize(OBRAZ_SIDE / 2); // large enough to be read at half the size
     painter.setFont(font);
     painter.setPen(Qt::white);
     painter.drawText(image.rect(), Qt::AlignCenter, QString::number(kod(z)));

@@ -1,4 +1,4 @@
-// Pictures of tiles made ready to be shown, each when it is first shown, not at each paint.
+// Pictures of tiles, prepared for painting when they are first shown.
 #pragma once
 
 #include "tiles/magazyn.h"
@@ -18,7 +18,7 @@ struct Obrazek {
     QImage maly; // scaled once to 16 x 16
 };
 
-// A picture is known by where it stands: another picture is another pointer.
+// Two pictures are the same if their pointers are.
 using ObrazekPtr = std::shared_ptr<const Obrazek>;
 
 class Obrazki {
@@ -28,8 +28,8 @@ public:
     // Forgets the pictures if a strip was loaded since they were made.
     void followMagazyn();
 
-    // Transparent for a tile that no strip has filled; a placeholder for a code without a picture and for
-    // the window's default state.
+    // Transparent for a tile whose strip wasn't loaded; a placeholder for a code that is no tile, and before a tile set
+    // is shown.
     const ObrazekPtr& operator[](ObrazRef ref) {
         ObrazekPtr& gotowy = gotowe_[(ref.swiat + 1) * CODES + kod(ref.znak)];
         if (!gotowy)

@@ -16,7 +16,7 @@ public:
     // Builds the window and sets the editor's hooks. The editor has to outlive it.
     explicit OknoGlowne(Edytor&);
 
-    // Brings the widgets to what the record holds; touches only what differs.
+    // Makes the widgets show what the record holds; touches only what differs.
     void showRecord();
 
 protected:

@@ -10,7 +10,7 @@
 
 namespace dorva {
 
-// Where the record keeps the selected option of a group, and what its selection by the user runs.
+// Where the record keeps the selected option of a group, and what runs when the user selects one.
 struct GrupaOpcji {
     std::string_view name;
     int Okno::*selected;

@@ -49,7 +49,7 @@ PaletaOkno::PaletaOkno(QWidget* parent)
     setWindowTitle("Paleta Atari");
     setFixedSize(CLIENT);
     connect(this, &QDialog::finished, this, [this] { onClose(); });
-    // To a style, a tool window and its parent are active together; the keyboard belongs to one of them.
+    // Qt counts a tool window and its parent as active together, but only one of them has the keyboard.
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
         if (window && window == windowHandle())
             onKeyboard();
@@ -87,7 +87,7 @@ void PaletaOkno::build() {
     connect(cmzZamknij, &QPushButton::clicked, this, &QDialog::close);
 }
 
-// To the right of the window where the screen has room, else over its left part: swatches stay in sight.
+// Beside the window if there is room, else over it, away from the swatches.
 void PaletaOkno::place() {
     constexpr int GAP = 8;
     const QWidget& window = *parentWidget();
@@ -113,7 +113,7 @@ void PaletaOkno::showOkno(const OknoPalety& okno) {
         bringUp();
 }
 
-// It may be there already, behind another window or minimised.
+// It may be open already, behind another window or minimised.
 void PaletaOkno::bringUp() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();

@@ -1,4 +1,4 @@
-// The palette dialog beside the main window. Its widgets are made when it is first opened.
+// The window of the palette dialog. Its widgets are made when it is first opened.
 #pragma once
 
 #include "shell/okno.h"
@@ -19,17 +19,17 @@ public:
     explicit PaletaOkno(QWidget* parent);
 
     std::function<void(int index)> onPick;
-    std::function<void()> onClose;    // by whatever means
-    std::function<void()> onKeyboard; // it takes the keyboard
+    std::function<void()> onClose;    // it was closed, in whatever way
+    std::function<void()> onKeyboard; // it gets the keyboard
 
     void showOkno(const OknoPalety&);
 
 private:
-    void build(); // when first opened
+    void build();
     void place();
     void bringUp();
 
-    unsigned otwarcia_ = 0; // as often as it was brought up
+    unsigned otwarcia_ = 0; // the requests to open it that were followed
     std::array<EtykietaObramowana*, PALETA_CELLS> picPaleta_{};
     QWidget* picWybrany_ = nullptr;
     QLabel* lblWybrany_ = nullptr;

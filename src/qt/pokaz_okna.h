@@ -1,5 +1,5 @@
-// Shows the record: brings the widgets to what it holds. What they show now is known to the widgets alone; each
-// takes a value that it has already at next to no cost.
+// Makes the widgets show what the record holds. What they show now only they know; setting a value that a widget has
+// already costs next to nothing.
 #pragma once
 
 #include "qt/obrazki.h"

@@ -57,7 +57,7 @@ void PoleEdycji::leave() {
 void PoleEdycji::endComposition() {
     QGuiApplication::inputMethod()->commit();
     if (std::exchange(composing_, false))
-        reportEdit(); // it had nothing to add
+        reportEdit(); // the input method added nothing, so it reported nothing either
 }
 
 void PoleEdycji::initStyleOption(QStyleOptionFrame* option) const {
@@ -71,7 +71,7 @@ void PoleEdycji::focusInEvent(QFocusEvent* event) {
         return;
     enter();
     if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
-        sinceMouseEntry_.start(); // what entering takes is no part of it
+        sinceMouseEntry_.start(); // last, so that the time for entering isn't counted
 }
 
 void PoleEdycji::focusOutEvent(QFocusEvent* event) {
@@ -81,7 +81,7 @@ void PoleEdycji::focusOutEvent(QFocusEvent* event) {
         leave();
 }
 
-// While a composition goes on, the text around it is not complete: a box that it has emptied is not refilled.
+// During a composition the text is incomplete, so a box that it has emptied must not be refilled yet.
 void PoleEdycji::inputMethodEvent(QInputMethodEvent* event) {
     const bool ends = std::exchange(composing_, !event->preeditString().isEmpty()) && !composing_;
     QLineEdit::inputMethodEvent(event);
@@ -89,8 +89,8 @@ void PoleEdycji::inputMethodEvent(QInputMethodEvent* event) {
         reportEdit();
 }
 
-// The press that enters the box would put the cursor in its place and so undo the selection. It comes with the focus,
-// or just before or after it where it makes the window the active one, too.
+// The press that enters the box would set the cursor and so undo the selection. It comes together with the focus, or
+// just before or after it if it also activates the window.
 void PoleEdycji::mousePressEvent(QMouseEvent* event) {
     constexpr int SAME_PRESS_MS = 100;
     const bool enters = !entered_ || (sinceMouseEntry_.isValid() && sinceMouseEntry_.elapsed() < SAME_PRESS_MS);

@@ -9,22 +9,22 @@
 
 namespace dorva {
 
-// A text box that selects its whole text when it is entered, by key or by mouse, and tells when it is entered, changed
-// by the user, and left. Another program's window is no place to leave it for.
+// A text box that selects its whole text when it is entered, by key or by mouse, and reports when it is entered,
+// changed by the user, and left. It isn't left when the user goes to another program.
 class PoleEdycji : public QLineEdit {
 public:
     explicit PoleEdycji(QWidget* parent);
     std::function<void()> onEnter, onLeave;
     std::function<void(const QString& typed)> onEdit;
 
-    // Writes only another text than the box shows, so that typing keeps the cursor; selects it all where the number of
-    // requests to do so has grown.
+    // Sets the text only if it differs, so that typing keeps the cursor. Selects all of it if the number of requests to
+    // do so has changed.
     void showText(const QString&, unsigned requests);
 
-    // Where the focus goes to another window of the program.
+    // The focus goes to another window of the program.
     void leave();
 
-    // Takes what an input method still holds as typed.
+    // Accepts what an input method still holds.
     void endComposition();
 
 protected:
@@ -42,9 +42,9 @@ private:
 
     bool entered_ = false;
     QElapsedTimer sinceMouseEntry_;
-    bool pressEnters_ = false;         // the press that is going on
-    bool composing_ = false;           // an input method holds what is typed
-    std::optional<unsigned> requests_; // none before it has shown a text
+    bool pressEnters_ = false;         // by the press that is going on
+    bool composing_ = false;           // an input method holds what was typed
+    std::optional<unsigned> requests_; // nothing before the first text is shown
 };
 
 } // namespace dorva

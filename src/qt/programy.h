@@ -1,4 +1,4 @@
-// Programs that stand beside the editor. One file a system starts them.
+// Starts other programs. Each system has a file for it: programy_posix.cpp, programy_windows.cpp.
 #pragma once
 
 #include "system/haki.h"
@@ -7,8 +7,8 @@
 
 namespace dorva {
 
-// Starts a program without arguments, in the current directory, and returns at once. A .BAT is the command processor's.
-// Nothing happens where it can't be started.
+// Starts a program without arguments, in the current directory, and doesn't wait for it. A .BAT file may be a script of
+// the system's shell. Nothing happens if the program can't be started.
 void startProgram(const std::filesystem::path&, OknoProgramu);
 
 } // namespace dorva

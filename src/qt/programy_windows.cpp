@@ -29,11 +29,11 @@ void startProgram(const fs::path& path, OknoProgramu okno) {
         return;
     fs::path program = path;
     program.make_preferred();
-    // The command processor takes away the outermost quotes. /d: nothing that others put before every command.
+    // The command processor removes the outermost quotes; /d keeps it from running the AutoRun commands.
     std::wstring command = program.extension() == L".BAT"
                                ? quoted(commandProcessor()) + L" /d /c \"" + quoted(program) + L'"'
                                : quoted(program);
-    // Only the console is hidden: what the launcher starts shall be seen.
+    // Hides the console only, not what the launcher starts.
     const ::DWORD flags = okno == OknoProgramu::Hidden ? CREATE_NO_WINDOW : 0;
     ::STARTUPINFOW start{};
     start.cb = sizeof start;

@@ -28,8 +28,8 @@ constexpr QMessageBox::Icon iconOf(Ikona ikona) {
     }
 }
 
-// "label|pattern|label|pattern" to the dialog's "label (pattern)" each. "*.*" means all files, also those
-// without a dot.
+// Turns "label|pattern|label|pattern" into "label (pattern)" for each pair. "*.*" means all files, also those without a
+// dot.
 QStringList nameFilters(std::string_view filter) {
     const QStringList parts = toQString(filter).split('|');
     QStringList filters;
@@ -78,7 +78,7 @@ bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
     QPushButton* last = accept;
     if (komunikat.przyciski != Przyciski::Ok)
         last = box.addButton(yesNo ? "&Nie" : "&Anuluj", QMessageBox::RejectRole);
-    // What can't be undone must not hang on a key pressed too often.
+    // The Enter key, pressed once too often, must not confirm a warning.
     box.setDefaultButton(komunikat.ikona == Ikona::Warning ? last : accept);
     box.setEscapeButton(last);
     box.exec();
@@ -87,7 +87,7 @@ bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
 
 std::optional<fs::path> showOpenDialog(QWidget* parent, const DialogPliku& question) {
     const Dialog dialog(new QFileDialog(parent, "Otwieranie"));
-    dialog->setFileMode(QFileDialog::AnyFile); // a missing one is the operation's affair
+    dialog->setFileMode(QFileDialog::AnyFile); // the operation deals with a missing one
     return ask(*dialog, question, "&Otwórz");
 }
 

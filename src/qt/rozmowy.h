@@ -1,4 +1,4 @@
-// What the editor asks of the desktop: message boxes and file dialogs.
+// Message boxes and file dialogs.
 #pragma once
 
 #include "system/haki.h"
@@ -10,10 +10,10 @@ class QWidget;
 
 namespace dorva {
 
-// A message box with Polish buttons. True for OK and Yes. Closing it counts as its last button.
+// Shows a message box with Polish buttons. True for OK and Yes. Closing it counts as its last button.
 bool showMessageBox(QWidget* parent, const Komunikat&);
 
-// File dialogs: the desktop's own where there is one. Nothing where the user cancelled.
+// Show a file dialog, the desktop's own if there is one. Nothing if the user cancelled.
 std::optional<std::filesystem::path> showOpenDialog(QWidget* parent, const DialogPliku&);
 std::optional<std::filesystem::path> showSaveDialog(QWidget* parent, const DialogPliku&);
 

@@ -1,4 +1,4 @@
-// How this system asks the program to end. One file a system.
+// What the end of a session means on this system. Each has a file for it: sesja_posix.cpp, sesja_windows.cpp.
 #pragma once
 
 class QFileDialog;
@@ -6,7 +6,7 @@ class QWidget;
 
 namespace dorva {
 
-// Ends a file dialog so that nothing of it outlives the run.
+// Gets rid of a file dialog without storing its settings.
 void endFileDialog(QFileDialog*);
 
 // From now on a logout, a shutdown or Ctrl+C stores the work as closing the window does.

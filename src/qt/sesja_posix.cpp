@@ -12,7 +12,7 @@
 namespace dorva {
 namespace {
 
-// A handler may do next to nothing: it writes a byte into one end, and the event loop reads the other.
+// A signal handler may do very little: it writes a byte into one end of this pair, and the event loop reads the other.
 int ends[2] = {-1, -1};
 
 void onSignal(int) {
@@ -22,7 +22,7 @@ void onSignal(int) {
 
 } // namespace
 
-// What it would like to keep goes to /dev/null (setUpApplication).
+// Its settings go to /dev/null (see setUpApplication).
 void endFileDialog(QFileDialog* dialog) {
     delete dialog;
 }

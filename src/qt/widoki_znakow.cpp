@@ -48,7 +48,7 @@ QRect cellRect(int cell, int side) {
     return {cell % PLANSZA_COLUMNS * side, cell / PLANSZA_COLUMNS * side, side, side};
 }
 
-// A line that is seen on light and dark alike.
+// A line that can be seen on light and dark pictures alike.
 void drawObrys(QPainter& painter, QRect rect) {
     rect.adjust(0, 0, -1, -1);
     painter.setPen(Qt::black);
@@ -79,7 +79,7 @@ void PlanszaWidget::showPlansza(const Plansza& plansza, Obrazki& obrazki) {
 }
 
 void PlanszaWidget::showObrys(int cell) {
-    // On a fractional scale the line may lie on the neighbours' rims.
+    // On a fractional scale the line may reach into the neighbouring cells.
     const int before = std::exchange(obrys_, cell);
     if (before == cell)
         return;
@@ -113,7 +113,7 @@ void PlanszaWidget::paintEvent(QPaintEvent* event) {
     if (!obrazki_.front())
         return;
     if (image_.width() != PLANSZA_COLUMNS * cellSide())
-        composeAll(); // for the first time, or the window has come to a screen of another scale
+        composeAll(); // for the first time, or after the window was moved to a screen of another scale
     QPainter painter(this);
     if (image_.width() == width()) {
         for (const QRect& part : event->region())
@@ -184,7 +184,7 @@ void WyborWidget::moveFrame(int& slot, int to) {
     updateFrame(to);
 }
 
-// On a fractional scale a line may lie on the neighbours' rims.
+// On a fractional scale a line may reach into the neighbouring slots.
 void WyborWidget::updateFrame(int slot) {
     update(slotRect(slot).adjusted(-1, -1, 1, 1));
 }
@@ -197,7 +197,8 @@ QRect WyborWidget::slotRect(int slot) {
     return {place % WYBOR_COLUMNS * SLOT_PITCH, place / WYBOR_COLUMNS * SLOT_PITCH, SLOT_SIDE, SLOT_SIDE};
 }
 
-// What is seen of them: its own at left and top; at right and below the neighbours', where it has any.
+// The lines that can be seen around a slot: at its left and top its own, at its right and bottom those of its
+// neighbours, if it has any.
 QRect WyborWidget::linesAround(int slot) const {
     QRect lines = slotRect(slot);
     if (lines.right() < rect().right())
@@ -237,7 +238,7 @@ void WyborWidget::paintEvent(QPaintEvent*) {
     if (underPointer_ >= 0 && imgZnak_[underPointer_].enabled)
         drawBorder(painter, linesAround(underPointer_), UNDER_POINTER);
     if (inBufor_ >= 0)
-        drawBorder(painter, linesAround(inBufor_), IN_BUFOR); // on top, so that a click is seen
+        drawBorder(painter, linesAround(inBufor_), IN_BUFOR); // on top, so that a click shows at once
 }
 
 void WyborWidget::mouseMoveEvent(QMouseEvent* event) {

@@ -16,13 +16,13 @@ namespace dorva {
 // The grey behind boards and pictures.
 inline constexpr unsigned SZARY = 0xFF808080;
 
-// The 800 cells of the board in one widget. Repaints only the cells that changed.
+// The board. All its cells are one widget, which repaints only those that changed.
 class PlanszaWidget : public QWidget {
 public:
     explicit PlanszaWidget(QWidget* parent);
 
-    // A press with the button that was pressed, and a move with the buttons held. While a button is held,
-    // every cell on the way from the last pointer position is reported.
+    // Report the cell, and the button pressed or the sum of those held. A drag reports each cell that it crosses, even
+    // if the pointer skips some.
     std::function<void(int cell, int button)> onPress, onMove;
 
     void showPlansza(const Plansza&, Obrazki&);
@@ -40,12 +40,12 @@ private:
 
     std::array<ObrazekPtr, PLANSZA_CELLS> obrazki_;
     int obrys_ = -1;
-    QImage image_;      // composed of them when first painted
-    Polozenie pointer_; // may lie beside the board during a drag
+    QImage image_;      // composed of the pictures when first painted
+    Polozenie pointer_; // may be outside the board during a drag
 };
 
-// The two visible rows of the tile picker in one widget. The black lines around the slot under the pointer are
-// coloured, in another colour those around the slot whose tile is in the buffer; a disabled slot has none.
+// The two visible rows of the tile picker in one widget. The slot under the pointer and the one whose tile is in the
+// buffer are framed, each in its own colour, unless they are disabled.
 class WyborWidget : public QWidget {
 public:
     explicit WyborWidget(QWidget* parent);
@@ -79,8 +79,8 @@ private:
     int pressed_ = -1, underPointer_ = -1, inBufor_ = -1; // slots
 };
 
-// The picture of one tile with a thin border: 32 x 32 within 34 x 34 pixels, or 16 x 16 with the border
-// laid over its rim.
+// The picture of one tile with a thin border: 32 x 32 in 34 x 34 pixels, or 16 x 16 with the border over its outermost
+// pixels.
 class ObrazWidget : public QWidget {
 public:
     explicit ObrazWidget(QWidget* parent);

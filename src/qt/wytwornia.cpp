@@ -60,7 +60,7 @@ QWidget* nazwa(const Kontrolka& k, QWidget* parent) {
 
 QWidget* figura(const Kontrolka& k, QWidget* parent) {
     auto* label = makeLabel<EtykietaFigury>(k, parent);
-    label->setAutoFillBackground(true); // so that nothing below is painted anew with it
+    label->setAutoFillBackground(true); // so that what is below it isn't repainted with it
     return label;
 }
 

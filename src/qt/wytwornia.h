@@ -1,4 +1,4 @@
-// Makes the widget that a row of the catalogue asks for, with its caption; place and name are the caller's.
+// Makes the widget for a row of the catalogue, with its caption. The caller sets its place and name.
 #pragma once
 
 #include "qt/kontrolka.h"
@@ -12,8 +12,8 @@ QWidget* opcja(const Kontrolka&, QWidget* parent);    // a button that stays dow
 QWidget* znacznik(const Kontrolka&, QWidget* parent); // a check box
 QWidget* etykieta(const Kontrolka&, QWidget* parent); // a plain label, centred
 QWidget* nazwa(const Kontrolka&, QWidget* parent);    // a label, right-aligned
-QWidget* figura(const Kontrolka&, QWidget* parent);   // a label with a thin border, centred
-QWidget* probka(const Kontrolka&, QWidget* parent);   // a swatch: a bold figure on its colour, with a thin border
+QWidget* figura(const Kontrolka&, QWidget* parent);   // a centred label in a thin border
+QWidget* probka(const Kontrolka&, QWidget* parent);   // a swatch: a bold figure on a colour, in a thin border
 QWidget* suwak(const Kontrolka&, QWidget* parent);    // a horizontal scroll bar
 QWidget* pole(const Kontrolka&, QWidget* parent);     // a text box
 QWidget* obraz(const Kontrolka&, QWidget* parent);    // the picture of one tile

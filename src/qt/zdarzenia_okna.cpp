@@ -30,7 +30,7 @@
 namespace dorva {
 namespace {
 
-// What a click on a button runs.
+// A button, and what a click on it runs.
 struct PrzyciskOkna {
     std::string_view name;
     void (*click)(Edytor&);
@@ -41,7 +41,7 @@ constexpr PrzyciskOkna PRZYCISKI[]{{"cmdCzysc", cmdCzysc_Click},       {"cmdLoad
                                    {"cmdCreate", cmdCreate_Click},     {"cmdResetKolory", cmdResetKolory_Click},
                                    {"cmdReload", cmdReload_Click},     {"cmdORN", cmdORN_Click}};
 
-// What a click on a label of an array runs.
+// An array of labels, and what a click on one of them runs.
 struct EtykietyOkna {
     std::string_view name;
     void (*run)(Edytor&, int index);

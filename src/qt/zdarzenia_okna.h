@@ -1,4 +1,4 @@
-// Binds the window to the operations: events to what they run, hooks to what they show.
+// Binds the window to the operations.
 #pragma once
 
 #include "edytor.h"
@@ -18,7 +18,8 @@ using Wykonanie = std::function<void(const std::function<void(Edytor&)>&)>;
 // Every event of a control, and of the palette dialog, runs its operation.
 void bindEvents(const KontrolkiOkna&, PaletaOkno&, const Wykonanie& run);
 
-// Whatever blocks `window` first shows, by `show`, what was done up to then.
+// Sets the hooks. Those that block the window call `show` first, so that the user sees the current state behind a
+// dialog.
 void bindHooks(Haki&, QWidget* window, const std::function<void()>& show);
 
 } // namespace dorva
