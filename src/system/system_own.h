@@ -1,7 +1,8 @@
 // The calls that differ between systems. Each system has a file for them: system_posix.cpp, system_windows.cpp.
 #pragma once
 
-#include "system/system_calls.h"
+#include "podstawy.h"
+#include "system/file_types.h"
 
 #include <cstddef>
 #include <filesystem>
