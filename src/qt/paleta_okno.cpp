@@ -1,9 +1,9 @@
 #include "qt/paleta_okno.h"
 
 #include "qt/czcionki.h"
-#include "qt/kontrolki.h"
 #include "qt/konwersje.h"
 #include "qt/kursory.h"
+#include "qt/widgety.h"
 #include "tiles/paleta_barw.h"
 
 #include <QGuiApplication>

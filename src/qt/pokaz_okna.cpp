@@ -1,11 +1,11 @@
 #include "qt/pokaz_okna.h"
 
-#include "qt/kontrolki.h"
 #include "qt/kontrolki_okna.h"
 #include "qt/konwersje.h"
 #include "qt/opcje_okna.h"
 #include "qt/paleta_okno.h"
 #include "qt/pole_edycji.h"
+#include "qt/widgety.h"
 #include "qt/widoki_znakow.h"
 #include "stage/pola.h"
 

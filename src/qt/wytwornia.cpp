@@ -2,9 +2,9 @@
 
 #include "podstawy.h"
 #include "qt/czcionki.h"
-#include "qt/kontrolki.h"
 #include "qt/konwersje.h"
 #include "qt/pole_edycji.h"
+#include "qt/widgety.h"
 #include "qt/widoki_znakow.h"
 
 namespace dorva::wytwornia {

@@ -1,4 +1,4 @@
-#include "qt/kontrolki.h"
+#include "qt/widgety.h"
 
 #include "qt/czcionki.h"
 #include "qt/konwersje.h"

@@ -10,7 +10,7 @@
 namespace dorva::test {
 namespace {
 
-class Kontrolki : public Stanowisko {
+class Widgety : public Stanowisko {
 protected:
     void SetUp() override {
         Stanowisko::SetUp();
@@ -25,7 +25,7 @@ protected:
     QLineEdit* nazwa = nullptr;
 };
 
-TEST_F(Kontrolki, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
+TEST_F(Widgety, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
     auto* bar = find<QScrollBar>("hscMonet");
     const auto after = [&](auto act) {
         bar->setValue(50);
@@ -58,7 +58,7 @@ TEST_F(Kontrolki, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
     }
 }
 
-TEST_F(Kontrolki, AnArrowOfTheGoalBarCountsWhileThePointerIsOnIt) {
+TEST_F(Widgety, AnArrowOfTheGoalBarCountsWhileThePointerIsOnIt) {
     auto* bar = find<QScrollBar>("hscMonet");
     const auto counts = [&](int ms) {
         return QTest::qWaitFor([&, was = bar->value()] { return bar->value() > was; }, ms);
@@ -76,7 +76,7 @@ TEST_F(Kontrolki, AnArrowOfTheGoalBarCountsWhileThePointerIsOnIt) {
     EXPECT_FALSE(counts(600));
 }
 
-TEST_F(Kontrolki, ARightClickIntoABoxLeavesTheNextClickAlone) {
+TEST_F(Widgety, ARightClickIntoABoxLeavesTheNextClickAlone) {
     QTest::mousePress(nazwa, Qt::RightButton); // its release goes to the menu
     const QString text = nazwa->text();
     QTest::mouseClick(nazwa, Qt::LeftButton);
@@ -84,7 +84,7 @@ TEST_F(Kontrolki, ARightClickIntoABoxLeavesTheNextClickAlone) {
     EXPECT_EQ(nazwa->text(), text);
 }
 
-TEST_F(Kontrolki, ControlCodesAreNotPastedAndThoseOfAFileSurviveEveryEdit) {
+TEST_F(Widgety, ControlCodesAreNotPastedAndThoseOfAFileSurviveEveryEdit) {
     const std::string& znaki = e.okno.pola[TXT_NAZWA].tekst.znaki;
     const std::string held{'A', '\0', '\n', '\x1F', '\x7F', '\x81', 'B'};
     e.okno.pola[TXT_NAZWA].tekst.znaki = held;
@@ -107,7 +107,7 @@ TEST_F(Kontrolki, ControlCodesAreNotPastedAndThoseOfAFileSurviveEveryEdit) {
     EXPECT_EQ(nazwa->cursorPosition(), 11); // the last one counts as one
 }
 
-TEST_F(Kontrolki, ACompositionInAnEmptiedBoxGoesOn) {
+TEST_F(Widgety, ACompositionInAnEmptiedBoxGoesOn) {
     click("txtNazwa");
     compose(QString::fromUtf8("´"), {});
     EXPECT_EQ(nazwa->text(), "");
@@ -124,7 +124,7 @@ TEST_F(Kontrolki, ACompositionInAnEmptiedBoxGoesOn) {
     EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.znaki, std::string(32, ' '));
 }
 
-TEST_F(Kontrolki, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
+TEST_F(Widgety, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
     click("txtNazwa");
     QTest::keyClicks(nazwa, "ala");
     for (QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
@@ -151,7 +151,7 @@ TEST_F(Kontrolki, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
     EXPECT_EQ(nazwa->selectedText().size(), 32);
 }
 
-TEST_F(Kontrolki, ArrowKeysGoFromTheSelectedOption) {
+TEST_F(Widgety, ArrowKeysGoFromTheSelectedOption) {
     const auto down = [this] { QTest::keyClick(okno->focusWidget(), Qt::Key_Down); };
     QTest::mousePress(find("optEtapNR(4)"), Qt::LeftButton); // and dragged off it
     QTest::mouseRelease(find("optEtapNR(4)"), Qt::LeftButton, {}, {-50, 5});
