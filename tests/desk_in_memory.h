@@ -1,8 +1,8 @@
-// The desk on a disk in memory.
+// A desk whose files are on a disk in memory.
 #pragma once
 
+#include "desk.h"
 #include "memory_disk.h"
-#include "pulpit.h"
 
 #include <filesystem>
 #include <string>
@@ -15,8 +15,8 @@ inline std::string at(const std::string& name) {
     return (folder / name).generic_string();
 }
 
-// Its folder is a real one too, empty, since operations make it the current one.
-class DeskInMemory : public Pulpit {
+// There is also a real, empty folder of that name, since operations make it the current one.
+class DeskInMemory : public Desk {
 protected:
     void SetUp() override {
         calls = memoryCalls();

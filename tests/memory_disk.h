@@ -1,5 +1,5 @@
-// A disk in memory behind the table of system calls. Its calls can be made to fail, and it lists every state in which a
-// power cut might leave it.
+// A disk in memory, used through a table of system calls. The calls can be made to fail, and the disk can list every
+// state in which a power cut might leave it.
 #pragma once
 
 #include "system/pliki.h"
@@ -20,7 +20,7 @@ namespace dorva::test {
 using Path = SystemCalls::Path;
 using Files = std::map<std::string, Bajty>; // by path
 
-// The N-th call fails, once or from then on.
+// Makes the N-th call fail, and if wanted all after it.
 struct Failure {
     static constexpr Result SHORT = Result::Ok; // no failure: reads and writes move half of what they were asked to
     int at = 0;                                 // the failing call, counted from 1; 0: none
@@ -84,7 +84,7 @@ inline Files MemoryDisk::files(std::string_view prefix) const {
     return files;
 }
 
-// What was written and not flushed may be missing, cut short, zeros or there.
+// What a power cut may leave of a file: what was written and not flushed may be missing, cut short, zeros or there.
 inline std::vector<Bajty> formsOf(const File& file) {
     if (file.bytes == file.flushed)
         return {file.bytes};
@@ -92,8 +92,8 @@ inline std::vector<Bajty> formsOf(const File& file) {
     return {file.flushed, {file.bytes.begin(), file.bytes.begin() + half}, Bajty(file.bytes.size(), 0), file.bytes};
 }
 
-// Every name that changed since its folder was flushed is old or new, each by itself; a folder whose own name is not
-// sure may be lost with all that it holds.
+// Each name that changed since its folder was flushed is old or new, whatever the others are. A folder whose own name
+// was not flushed may be lost with all that it holds.
 inline std::vector<Files> MemoryDisk::afterPowerCut() const {
     std::map<std::string, std::vector<FileRef>> candidates = unsure;
     for (const auto& [name, file] : names)
@@ -153,7 +153,7 @@ inline Result openPath(const Path& path, OpenMode mode, Handle& handle) {
     return Result::Ok;
 }
 
-// How many of the bytes a transfer moves: half of them when a disk fills up, or where it is made to.
+// How many bytes a transfer moves: all, or half of them if it is the one that fails.
 inline std::size_t moved(std::size_t count, Result& result) {
     if (!disk.failure.strikes())
         return count;
@@ -206,7 +206,7 @@ inline Result removeName(const Path& path) {
     return Result::Ok;
 }
 
-inline Result makeFolder(const Path& path) {
+inline Result addFolder(const Path& path) {
     if (!disk.folders.contains(path.parent_path().generic_string()))
         return Result::Missing;
     if (!disk.folders.insert(path.generic_string()).second)
@@ -257,7 +257,7 @@ inline const SystemCalls* memoryCalls() {
                 disk.failure.removeFailed |= result == disk.failure.error;
                 return result;
             },
-        .makeFolder = mayFail<makeFolder>,
+        .makeFolder = mayFail<addFolder>,
         .flushFolder = mayFail<flushNames>,
         .list = mayFail<listFolder>,
         .now = [] { return disk.clock; },

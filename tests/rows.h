@@ -1,4 +1,4 @@
-// Long tables as text files in tests/expected: what differs is shown row by row.
+// Long tables are compared row by row with text files in tests/expected.
 #pragma once
 
 #include <algorithm>
@@ -10,8 +10,8 @@
 
 namespace dorva::test {
 
-// Compares rows with those of tests/expected/<name>, each at its place. Where a change is wanted, running the test with
-// DORVA_RENEW=1 in the environment writes the file anew.
+// Compares rows with those of tests/expected/<name>. After a wanted change, run the test with DORVA_RENEW=1 in the
+// environment: it writes the file anew.
 inline void expectRows(const std::string& name, const std::vector<std::string>& rows) {
     const std::string path = DORVA_EXPECTED "/" + name;
     if (std::getenv("DORVA_RENEW")) {

@@ -1,4 +1,4 @@
-#include "pulpit.h"
+#include "desk.h"
 #include "stage/archiwum.h"
 #include "stage/zbior_etapow.h"
 
@@ -7,9 +7,9 @@
 namespace dorva::test {
 namespace {
 
-class Archiwum : public Pulpit {};
+class Archive : public Desk {};
 
-TEST_F(Archiwum, RoundTripRestoresEveryStageAndTheTitleLines) {
+TEST_F(Archive, RoundTripRestoresEveryStageAndTheTitleLines) {
     Bajty lines(60, ' ');
     lines[0] = 0xA3; // Ł
     lines[40] = 'a';
@@ -42,12 +42,12 @@ TEST_F(Archiwum, RoundTripRestoresEveryStageAndTheTitleLines) {
     EXPECT_EQ(readFile(*chosen), archive);
 }
 
-TEST_F(Archiwum, WrongLengthChangesNothing) {
+TEST_F(Archive, WrongLengthChangesNothing) {
     start();
     const auto before = e.OstatniaSciezka;
     chosen = root / "zle.dpa";
     cmdLoadArch_Click(e);
-    EXPECT_TRUE(shown.empty()) << "nor does one that isn't there";
+    EXPECT_TRUE(shown.empty()) << "a missing file gives no message";
     for (std::size_t size : {29851U, 29853U}) {
         writeFile(*chosen, Bajty(size, 1));
         cmdLoadArch_Click(e);
@@ -57,7 +57,7 @@ TEST_F(Archiwum, WrongLengthChangesNothing) {
     EXPECT_EQ(readFile(etap(2)), sampleEtap(2));
 }
 
-TEST_F(Archiwum, SaveEndsSilentlyWithoutAllStagesOrTheTitleLines) {
+TEST_F(Archive, SaveEndsSilentlyWithoutAllStagesOrTheTitleLines) {
     start();
     fs::remove(base / "PLIKI/DP1.DTA");
     fs::create_directory(base / "PLIKI/DP1.DTA");
@@ -73,7 +73,7 @@ TEST_F(Archiwum, SaveEndsSilentlyWithoutAllStagesOrTheTitleLines) {
     EXPECT_TRUE(shown.empty());
 }
 
-TEST_F(Archiwum, LoadMayBreakOffOrRefuseAField) {
+TEST_F(Archive, LoadMayBreakOffOrRefuseAField) {
     start();
     writeFile(root / "x.dpa", sampleArchiwum());
     fs::remove(etap(20));
@@ -94,7 +94,7 @@ TEST_F(Archiwum, LoadMayBreakOffOrRefuseAField) {
     EXPECT_EQ(e.okno.optObiektyNR, 1) << "the last flag 7 is refused before the world";
 }
 
-TEST_F(Archiwum, SavedOverTheEditorsOwnFilesKeepsThem) {
+TEST_F(Archive, SavedOverTheEditorsOwnFilesKeepsThem) {
     start();
     cell(3, 3) = BOMBA;
     chosen = etap(2);

@@ -1,6 +1,6 @@
 #include "board/census.h"
 #include "board/plansza.h"
-#include "pulpit.h"
+#include "desk.h"
 #include "stage/etap.h"
 #include "stage/zbior_etapow.h"
 
@@ -9,10 +9,10 @@
 namespace dorva::test {
 namespace {
 
-class Census : public Pulpit {
+class Census : public Desk {
 protected:
     void SetUp() override {
-        Pulpit::SetUp();
+        Desk::SetUp();
         start();
         ClearEtap(e);
     }
@@ -50,7 +50,7 @@ TEST_F(Census, BothFormsCountAndTheEdgeToo) {
     }
     cell(6, 6) = znak(61);
     RefreshInfo(e);
-    EXPECT_EQ(text(0), "!") << "a walking heroine is none";
+    EXPECT_EQ(text(0), "!") << "a walking Dorva doesn't count";
 }
 
 TEST_F(Census, RulesAndGoal) {

@@ -1,4 +1,4 @@
-#include "pulpit.h"
+#include "desk.h"
 #include "stage/etap.h"
 #include "stage/zbior_etapow.h"
 
@@ -7,9 +7,9 @@
 namespace dorva::test {
 namespace {
 
-class Etap : public Pulpit {};
+class Packing : public Desk {};
 
-TEST_F(Etap, EdgeRuleKeepsOnlyPlainWallsAndNothing) {
+TEST_F(Packing, EdgeRuleKeepsOnlyPlainWallsAndNothing) {
     start();
     for (auto [before, after] :
          {std::pair{0, 0}, {5, 5}, {6, 6}, {7, 5}, {63, 5}, {133, 5}, {134, 5}, {191, 5}, {128, 5}}) {
@@ -26,7 +26,7 @@ TEST_F(Etap, EdgeRuleKeepsOnlyPlainWallsAndNothing) {
     EXPECT_EQ(kod(cell(0, 4)), 6);
 }
 
-TEST_F(Etap, HeroineIsStoredPlainInsideTheEdge) {
+TEST_F(Packing, HeroineIsStoredPlainInsideTheEdge) {
     start();
     cell(3, 7) = DORVA_INV;
     PackEtap(e);
@@ -38,7 +38,7 @@ TEST_F(Etap, HeroineIsStoredPlainInsideTheEdge) {
     EXPECT_EQ(e.image, once);
 }
 
-TEST_F(Etap, RefusedFieldsLeaveTheRestAsItWas) {
+TEST_F(Packing, RefusedFieldsLeaveTheRestAsItWas) {
     start();
     const Okno before = e.okno;
     e.image.assign(ETAP_SIZE_BYTES, 0);
@@ -63,7 +63,7 @@ TEST_F(Etap, RefusedFieldsLeaveTheRestAsItWas) {
     EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst, before.pola[TXT_NAZWA].tekst);
 }
 
-TEST_F(Etap, BlockedColoursStayAndTravelAlong) {
+TEST_F(Packing, BlockedColoursStayAndTravelAlong) {
     start();
     e.okno.chkZachowajKolory = true;
     const auto colours = e.okno.lblKolor;

@@ -1,4 +1,4 @@
-// What the editor replaces, it keeps: copies beside the files, and the slips of the hand that they undo.
+// Copies of what the editor replaces, and the mishaps that they undo.
 #include "desk_in_memory.h"
 #include "output/obraz_gry.h"
 #include "stage/archiwum.h"
@@ -19,28 +19,28 @@ namespace {
 
 using std::chrono::hours, std::chrono::minutes;
 
-class Copies : public Pulpit {
+class Copies : public Desk {
 protected:
     [[nodiscard]] std::vector<fs::path> names(const char* folder) const {
         return listNames(SYSTEM_CALLS, root / "KOPIE" / folder, "");
     }
     fs::path file;
     void SetUp() override {
-        Pulpit::SetUp();
+        Desk::SetUp();
         file = root / "plik";
     }
 };
 
-// The first of two programs is about to replace a file, and the second writes to it.
+// One program is about to replace a file when another one writes to it.
 TEST_F(Copies, WhatComesBetweenIsKept) {
-    static fs::path plik;
+    static fs::path replaced;
     static Bajt next;
-    plik = file;
+    replaced = file;
     next = 7;
     SystemCalls own = SYSTEM_CALLS;
-    own.flush = [](Handle handle) { // of the new content, then of a copy
+    own.flush = [](Handle handle) { // first called for the new content, then for a copy
         if (next < 9)
-            writeFile(plik, {next++});
+            writeFile(replaced, {next++});
         return SYSTEM_CALLS.flush(handle);
     };
     EXPECT_TRUE(writeKeeping(own, file, Bajty{1}));
@@ -93,7 +93,7 @@ TEST_F(Copies, TheSameBytesNeedNoCopyAndLeaveTheFileAsItIs) {
     EXPECT_EQ(names("plik").size(), 3U);
 }
 
-// The number alone tells newer from older; names of another form don't count.
+// Only the number decides what is newer, and names of another form don't count.
 TEST_F(Copies, NamesAndNumbers) {
     const auto made = Time(hours(24 * 20000) + minutes(62));
     const std::time_t seconds = std::chrono::system_clock::to_time_t(made);
@@ -144,11 +144,11 @@ TEST_F(Copies, NoCopyReplacesAnother) {
     EXPECT_EQ(contents.size(), 2U * EACH);
 }
 
-// Slips of the hand and of the machine, and what of them comes back.
+// Mishaps of user and machine, and what can be had back after them.
 class Slips : public DeskInMemory {
 public:
-    using Pulpit::cell, Pulpit::chosen, Pulpit::restart, Pulpit::root;
-    // As the window runs an operation.
+    using Desk::cell, Desk::chosen, Desk::restart, Desk::root;
+    // Runs an operation as the window does.
     void act(void (*operation)(Edytor&)) {
         keepWork(e);
         operation(e);
@@ -177,7 +177,7 @@ public:
 
 struct Slip {
     const char* name;
-    Bajty (*happens)(Slips&); // gives what would be lost
+    Bajty (*happens)(Slips&); // returns what would be lost
     int number = 1;           // of the stage whose copies are looked at
 };
 
@@ -410,10 +410,10 @@ TEST_F(Slips, WhereNoCopyCanBeMadeTheScreenStays) {
     EXPECT_EQ(screen(), work);
     EXPECT_EQ(disk.find(etap(1))->bytes, sampleEtap(1));
     act(cmdCzysc_Click);
-    EXPECT_NE(screen(), work) << "the screen's copies are a net, not a gate";
+    EXPECT_NE(screen(), work) << "a clear goes on without a copy of the screen";
 }
 
-// In turns, as two windows on one folder are used.
+// They take turns, as somebody uses two windows on one folder.
 TEST_F(Slips, TwoEditorsThatStoreInTurnsLoseNothing) {
     restart();
     Edytor second;

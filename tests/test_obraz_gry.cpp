@@ -1,6 +1,6 @@
+#include "desk.h"
 #include "output/narzedzia.h"
 #include "output/obraz_gry.h"
-#include "pulpit.h"
 #include "stage/etap.h"
 #include "stage/zbior_etapow.h"
 
@@ -10,9 +10,9 @@
 namespace dorva::test {
 namespace {
 
-class ObrazGry : public Pulpit {};
+class GameBuild : public Desk {};
 
-TEST(Szablon, TitleLines) {
+TEST(Template, TitleLines) {
     const Bajty test = BuildLiniaTytulu(ascii("     TEST ETAPU     "));
     EXPECT_EQ(test,
               (Bajty{7, 52, 37, 51, 52, 0, 37, 52, 33, 48, 53, 155, 155, 155, 155, 155, 155, 155, 155, 155, 155, 155}));
@@ -26,7 +26,7 @@ TEST(Szablon, TitleLines) {
     EXPECT_EQ(BuildLiniaTytulu({"  \xA3\xD3\x44\x8F  "})[4], 120);
 }
 
-TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {
+TEST_F(GameBuild, GameHoldsAllStagesAndNothingElseChanges) {
     start();
     cell(4, 4) = KLUCZ;
     chosen = root / "gra.xex";
@@ -42,7 +42,7 @@ TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {
     ASSERT_EQ(game.size(), GRA_SIZE_BYTES);
     EXPECT_EQ(readFile(base / "PLIKI/TEST.XEX"), game);
     Bajty expected = sampleSzablon();
-    // A record and its header take 935 bytes; in the middle stands a header of five more.
+    // A record with its header has 935 bytes; in the middle there are five more, a bank switch.
     for (int number = 1; number <= ETAPY_COUNT; ++number) {
         const Bajty stage = readFile(etap(number));
         std::copy(stage.begin(), stage.end(), expected.begin() + 29724 + 935 * (number - 1) + (number > 16 ? 5 : 0));
@@ -60,7 +60,7 @@ TEST_F(ObrazGry, GameHoldsAllStagesAndNothingElseChanges) {
     EXPECT_EQ(started.size(), 2U) << "No starts nothing";
 }
 
-TEST_F(ObrazGry, GameReadsEverythingBeforeItAsks) {
+TEST_F(GameBuild, GameReadsEverythingBeforeItAsks) {
     start();
     fs::remove(etap(30));
     chosen = root / "gra.xex";
@@ -75,14 +75,14 @@ TEST_F(ObrazGry, GameReadsEverythingBeforeItAsks) {
     EXPECT_TRUE(shown.empty());
     writeFile(base / "PLIKI/DP2.DTA", sampleSzablon());
     writeFile(*chosen, {1});
-    answers = {false}; // not over it
+    answers = {false}; // don't replace it
     cmdCreate_Click(e);
     EXPECT_EQ(readFile(*chosen), Bajty{1});
     EXPECT_FALSE(fs::exists(base / "PLIKI/TEST.XEX"));
     EXPECT_EQ(e.okno.chkOstatni, 0);
 }
 
-TEST_F(ObrazGry, TestBuildTakesTheBoardAndMarksItLast) {
+TEST_F(GameBuild, TestBuildTakesTheBoardAndMarksItLast) {
     start();
     SelectEtapNR(e, 19);
     for (int number = 1; number <= ETAPY_COUNT; ++number)

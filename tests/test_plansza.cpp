@@ -1,20 +1,20 @@
 #include "board/plansza.h"
-#include "pulpit.h"
+#include "desk.h"
 #include "stage/zbior_etapow.h"
 
 namespace dorva::test {
 namespace {
 
-class Plansza : public Pulpit {
+class MouseTools : public Desk {
 protected:
     void SetUp() override {
-        Pulpit::SetUp();
+        Desk::SetUp();
         start();
         ClearEtap(e);
     }
 };
 
-TEST_F(Plansza, StrokeEntersEachCellOnce) {
+TEST_F(MouseTools, StrokeEntersEachCellOnce) {
     imgZnak_Click(e, 34);
     imgPG_MouseDown(e, 100, LEWY);
     imgPG_MouseMove(e, 100, LEWY);
@@ -29,7 +29,7 @@ TEST_F(Plansza, StrokeEntersEachCellOnce) {
     EXPECT_EQ(e.okno.obrys, 103);
 }
 
-TEST_F(Plansza, RightButtonPicksOrErasesOneCell) {
+TEST_F(MouseTools, RightButtonPicksOrErasesOneCell) {
     cell(5, 5) = cell(5, 6) = BOMBA;
     imgPG_MouseDown(e, 205, PRAWY);
     EXPECT_EQ(e.okno.lblKodBufor[0], "14");
@@ -46,7 +46,7 @@ TEST_F(Plansza, RightButtonPicksOrErasesOneCell) {
     EXPECT_EQ(kod(cell(5, 6)), 129) << "under INV the eraser writes the INV earth";
 }
 
-TEST_F(Plansza, OtherButtonsOnlyRecount) {
+TEST_F(MouseTools, OtherButtonsOnlyRecount) {
     cell(5, 5) = MASKA; // not counted yet
     imgPG_MouseDown(e, 300, SRODKOWY);
     EXPECT_EQ(e.lastCell, 300);

@@ -1,9 +1,9 @@
-#include "pulpit.h"
+#include "desk.h"
 
 namespace dorva::test {
 namespace {
 
-class FileLayer : public Pulpit {};
+class FileLayer : public Desk {};
 
 TEST_F(FileLayer, WhatIsNotOnDiskIsNotWritten) {
     fs::current_path(root);
@@ -36,7 +36,7 @@ TEST_F(FileLayer, StartSweepsOldLeftoversAlone) {
         fs::last_write_time(path, fs::file_time_type::clock::now() - age);
     };
     leave(base / "ETAPY/dorva-1.dp-tmp", std::chrono::minutes(61));
-    leave(base / "ETAPY/dorva-2.dp-tmp", std::chrono::minutes(59)); // it may be at work, on another machine
+    leave(base / "ETAPY/dorva-2.dp-tmp", std::chrono::minutes(59)); // another machine may still be writing it
     leave(base / "ETAPY/moje.dp-tmp", std::chrono::minutes(61));
     leave(base / "ETAPY/dorva-moje.dp-tmp", std::chrono::minutes(61));
     leave(base / "PLIKI/dorva-2.dp-tmp", std::chrono::minutes(61));

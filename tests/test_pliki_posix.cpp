@@ -1,6 +1,6 @@
-// The file layer where there are mode bits, symbolic links, pipes and devices.
+// The file layer on systems with mode bits, symbolic links, pipes and devices.
+#include "desk.h"
 #include "output/obraz_gry.h"
-#include "pulpit.h"
 #include "stage/archiwum.h"
 #include "stage/zbior_etapow.h"
 #include "tiles/kolory.h"
@@ -12,7 +12,7 @@
 namespace dorva::test {
 namespace {
 
-class FilesPosix : public Pulpit {
+class FilesPosix : public Desk {
 protected:
     // Every operation once.
     void useEverything() {
@@ -107,21 +107,21 @@ TEST_F(FilesPosix, LinkedStageStaysLinked) {
 }
 
 TEST_F(FilesPosix, PipesAndDevicesAreLeftAloneAndNeverHang) {
-    const auto potok = [](const fs::path& path) {
+    const auto makePipe = [](const fs::path& path) {
         fs::remove(path);
         fs::create_directories(path.parent_path());
         ASSERT_EQ(::mkfifo(path.c_str(), 0666), 0);
     };
     start();
-    potok(etap(2));
+    makePipe(etap(2));
     for (const char* name : {"PLIKI/DP1.DTA", "PLIKI/DP2.DTA", "PLIKI/TEST.XEX", "PLIKI/PALETY/Bitwor.act",
                              "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY"})
-        potok(base / name);
+        makePipe(base / name);
     for (const char* device : {"/dev/zero", "/dev/full", "/dev/null"}) {
         chosen = device;
         useEverything();
     }
-    potok(root / "potok");
+    makePipe(root / "potok");
     chosen = root / "potok";
     useEverything();
     restart();
@@ -132,7 +132,7 @@ TEST_F(FilesPosix, PipesAndDevicesAreLeftAloneAndNeverHang) {
     expectNoLeftovers();
 }
 
-// Runs `work` as an ordinary user where this is root: modes mean nothing to root.
+// Runs `work` in a child process that has no root rights, since root may open anything. Returns its status.
 int asOrdinaryUser(const std::function<void()>& work) {
     constexpr int NOBODY = 65534;
     const ::pid_t child = ::fork();

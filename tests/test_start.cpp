@@ -1,6 +1,6 @@
+#include "desk.h"
 #include "output/narzedzia.h"
 #include "output/obraz_gry.h"
-#include "pulpit.h"
 #include "stage/archiwum.h"
 #include "stage/pola.h"
 #include "stage/zbior_etapow.h"
@@ -11,7 +11,7 @@
 namespace dorva::test {
 namespace {
 
-class Start : public Pulpit {};
+class Start : public Desk {};
 
 TEST_F(Start, CompleteStartShowsStageOneAndChangesNoFile) {
     start();
@@ -96,7 +96,7 @@ TEST_F(Start, HooksThatThrowOrAreMissingAnswerLikeACancel) {
     }
 }
 
-// Told by its name alone, one with spaces, quotes and Polish letters.
+// The folder is given by a relative name; it has spaces, quotes and Polish letters in it.
 TEST_F(Start, OddFolderAndFileNames) {
     const std::string quote = POSIX ? "\"" : "'";
     const auto odd = root / (POSIX ? "Moje gry: zażółć gęślą jaźń" : "Moje gry - zażółć gęślą jaźń & %100^");

@@ -1,6 +1,6 @@
-// The worlds and stages as the build has made them, and the compiler that makes them.
+// The worlds and stages that the build has made, and the compiler that makes them.
+#include "desk.h"
 #include "etapy.h"
-#include "pulpit.h"
 #include "stage/etap.h"
 #include "stage/zbior_etapow.h"
 
@@ -10,18 +10,18 @@
 namespace dorva::test {
 namespace {
 
-const fs::path DANE = DORVA_DANE;
-constexpr std::array<const char*, SWIATY_COUNT> ZESTAWY{"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"};
+const fs::path DATA = DORVA_DATA;
+constexpr std::array<const char*, SWIATY_COUNT> TILE_SETS{"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"};
 
-constexpr int OTWARTE_WYJSCIE = ZNAKI_COUNT; // a character that stands behind the tiles
+constexpr int OTWARTE_WYJSCIE = ZNAKI_COUNT; // the character after those of the tiles
 
-Bajty readDane(const std::string& name) {
-    return readFile(DANE / name);
+Bajty readData(const std::string& name) {
+    return readFile(DATA / name);
 }
 Bajty readEtap(int number) {
-    return readDane("ETAPY/DETAP." + std::to_string(number));
+    return readData("ETAPY/DETAP." + std::to_string(number));
 }
-// The pixel of a bitmap of four bits a pixel that stands upright on its last row.
+// A pixel of a bitmap file of four bits per pixel whose rows run from bottom to top.
 Rgb pixelOf(const Bajty& bmp, int x, int y) {
     const auto word = [&](std::size_t at) {
         return bmp[at] | bmp[at + 1] << 8 | bmp[at + 2] << 16 | bmp[at + 3] << 24;
@@ -32,11 +32,11 @@ Rgb pixelOf(const Bajty& bmp, int x, int y) {
     return {bmp[colour + 2], bmp[colour + 1], bmp[colour]};
 }
 
-TEST(Zestaw, StripIsTheCharacterSetSeenThroughTheColours) {
-    for (const std::string name : ZESTAWY) {
-        const Bajty znaki = readDane("OBIEKTY/ORN_EXPORT/" + name);
-        const Bajty bmp = readDane("OBIEKTY/ORN_EXPORT/" + name + ".TILES.BMP");
-        const Bajty kolory = readDane("OBIEKTY/ORN_EXPORT/" + name + ".KOLORY");
+TEST(TileSets, StripIsTheCharacterSetSeenThroughTheColours) {
+    for (const std::string name : TILE_SETS) {
+        const Bajty znaki = readData("OBIEKTY/ORN_EXPORT/" + name);
+        const Bajty bmp = readData("OBIEKTY/ORN_EXPORT/" + name + ".TILES.BMP");
+        const Bajty kolory = readData("OBIEKTY/ORN_EXPORT/" + name + ".KOLORY");
         ASSERT_EQ(znaki.size(), 1024U);
         ASSERT_EQ(kolory.size(), KOLORY_SIZE_BYTES);
         ASSERT_EQ(bmp.size(), 54U + 4U * 5U + 4096U * 32U / 2U);
@@ -44,46 +44,46 @@ TEST(Zestaw, StripIsTheCharacterSetSeenThroughTheColours) {
             for (int y = 0; y < 32; ++y) {
                 const int position = x / 32, code = position % 64;
                 const unsigned bits = znaki[code * 8 + y / 4] >> (6 - x % 32 / 8 * 2) & 3U;
-                // 00 is the background; 11 of the INV half takes the fourth colour.
+                // 00 is the background; 11 has the fourth colour in the INV half.
                 const std::size_t kolor = bits == 0 ? 4 : bits == 3 && position >= 64 ? 3 : bits - 1;
                 ASSERT_EQ(pixelOf(bmp, x, y), PaletaWbudowana[kolory[kolor]]) << name << " " << x << "," << y;
             }
     }
 }
 
-using Wzor = std::array<Bajt, 8>;
-Wzor wzor(const Bajty& znaki, int code) {
-    Wzor w{};
-    std::copy_n(znaki.begin() + code * 8, 8, w.begin());
-    return w;
+using Shape = std::array<Bajt, 8>;
+Shape shapeOf(const Bajty& znaki, int code) {
+    Shape shape{};
+    std::copy_n(znaki.begin() + code * 8, 8, shape.begin());
+    return shape;
 }
-Wzor leftRight(Wzor w) {
-    for (Bajt& row : w)
+Shape leftRight(Shape shape) {
+    for (Bajt& row : shape)
         row = static_cast<Bajt>(row >> 6 | (row >> 2 & 0x0C) | (row << 2 & 0x30) | row << 6);
-    return w;
+    return shape;
 }
-Wzor upDown(Wzor w) {
-    std::reverse(w.begin(), w.end());
-    return w;
+Shape upDown(Shape shape) {
+    std::reverse(shape.begin(), shape.end());
+    return shape;
 }
 
-TEST(Zestaw, DirectionsMirrorAndCodesBehindTheTilesAreEmpty) {
-    for (const std::string name : ZESTAWY) {
-        const Bajty znaki = readDane("OBIEKTY/ORN_EXPORT/" + name);
+TEST(TileSets, DirectionsMirrorAndCodesBehindTheTilesAreEmpty) {
+    for (const std::string name : TILE_SETS) {
+        const Bajty znaki = readData("OBIEKTY/ORN_EXPORT/" + name);
         for (int code : {19, 26, 36, 43, 45})
-            EXPECT_EQ(leftRight(wzor(znaki, code)), wzor(znaki, code + 1)) << name << " " << code;
+            EXPECT_EQ(leftRight(shapeOf(znaki, code)), shapeOf(znaki, code + 1)) << name << " " << code;
         for (int code : {21, 28, 38, 47})
-            EXPECT_EQ(upDown(wzor(znaki, code)), wzor(znaki, code + 1)) << name << " " << code;
-        EXPECT_EQ(leftRight(wzor(znaki, 60)), wzor(znaki, 61)) << name;
+            EXPECT_EQ(upDown(shapeOf(znaki, code)), shapeOf(znaki, code + 1)) << name << " " << code;
+        EXPECT_EQ(leftRight(shapeOf(znaki, 60)), shapeOf(znaki, 61)) << name;
         for (int code = OTWARTE_WYJSCIE + 1; code < 128; ++code)
-            EXPECT_EQ(wzor(znaki, code), wzor(znaki, 127)) << name << " " << code;
+            EXPECT_EQ(shapeOf(znaki, code), shapeOf(znaki, 127)) << name << " " << code;
     }
 }
 
-class Swiaty32 : public Pulpit {};
+class BuiltStages : public Desk {};
 
-TEST_F(Swiaty32, TheEditorFindsNoFaultAndKeepsEveryByte) {
-    fs::copy(DANE, base, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+TEST_F(BuiltStages, TheEditorFindsNoFaultAndKeepsEveryByte) {
+    fs::copy(DATA, base, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     start();
     EXPECT_EQ(e.Paleta, PaletaWbudowana);
     EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY].tekst, ascii("DORVA PLANSZOWNIK!  "));
@@ -98,31 +98,32 @@ TEST_F(Swiaty32, TheEditorFindsNoFaultAndKeepsEveryByte) {
     }
 }
 
-void expectTold(const std::function<void(const Zrodlo&)>& parse, const std::map<std::string, std::string>& mistakes) {
+void expectReported(const std::function<void(const Zrodlo&)>& parse,
+                    const std::map<std::string, std::string>& mistakes) {
     for (const auto& [source, message] : mistakes) {
-        std::string told;
+        std::string reported;
         try {
             parse({"s", source});
         } catch (const BladZrodla& blad) {
-            told = blad.what();
+            reported = blad.what();
         }
-        EXPECT_EQ(told.substr(0, message.size()), message) << source;
+        EXPECT_EQ(reported.substr(0, message.size()), message) << source;
     }
 }
 
-TEST(Kompilator, MistakesAreToldWithTheirLine) {
+TEST(Compiler, MistakesAreReportedWithTheirLine) {
     const std::string kolory = "grunt 1\ntwarz 2\nubranie 3\nwoda 4\ntlo 5\n";
     const std::string pusty = "0 NIC\n....\n....\n....\n....\n....\n....\n....\n....\n";
-    expectTold([](const Zrodlo& zrodlo) { parseRysunki(zrodlo); },
-               {{"grunt 300\n", "s:1: a number from 0 to 255"},
-                {kolory + "\n; uwaga\n0 NICO\n", "s:8: the tile \"0 NIC\""},
-                {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
-                {kolory + pusty + "1 ZIEMIA\nlustro 1\n", "s:16: a number from 0 to 0"},
-                {kolory + pusty, "s:14: the file ends"}});
+    expectReported([](const Zrodlo& zrodlo) { parseRysunki(zrodlo); },
+                   {{"grunt 300\n", "s:1: a number from 0 to 255"},
+                    {kolory + "\n; uwaga\n0 NICO\n", "s:8: the tile \"0 NIC\""},
+                    {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
+                    {kolory + pusty + "1 ZIEMIA\nlustro 1\n", "s:16: a number from 0 to 0"},
+                    {kolory + pusty, "s:14: the file ends"}});
 
     const std::string head = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n";
     const std::string row = std::string(40, '.') + "\n";
-    expectTold(
+    expectReported(
         [](const Zrodlo& zrodlo) {
             parseEtap(zrodlo, parseLegenda({"l", "kolory standard\n. 0 NIC\n~ 139 WODA ; INV\n"}), {});
         },
@@ -133,14 +134,14 @@ TEST(Kompilator, MistakesAreToldWithTheirLine) {
          {head + std::string(39, '.') + "?\n", "s:8: the legend"},
          {head + row, "s:8: the file ends"}});
     const std::string barwy = "kolory tlo 4\n";
-    expectTold([](const Zrodlo& zrodlo) { parseLegenda(zrodlo); }, {{barwy + "ab 0 NIC\n", "s:2"},
-                                                                    {barwy + ". 0 NIC\n. 1 ZIEMIA\n", "s:3"},
-                                                                    {barwy + ". 64 NIC\n", "s:2"},
-                                                                    {barwy + ". 1 NIC\n", "s:2"},
-                                                                    {barwy + ". 0\n", "s:2"}});
+    expectReported([](const Zrodlo& zrodlo) { parseLegenda(zrodlo); }, {{barwy + "ab 0 NIC\n", "s:2"},
+                                                                        {barwy + ". 0 NIC\n. 1 ZIEMIA\n", "s:3"},
+                                                                        {barwy + ". 64 NIC\n", "s:2"},
+                                                                        {barwy + ". 1 NIC\n", "s:2"},
+                                                                        {barwy + ". 0\n", "s:2"}});
 }
 
-TEST(Kompilator, ABoardHasOneDorvaOneExitAndAtMostOneTorchAndMachine) {
+TEST(Compiler, ABoardHasOneDorvaOneExitAndAtMostOneTorchAndMachine) {
     const Legenda legenda = parseLegenda(
         {"l", "kolory standard\n. 0 NIC\nD 63 DORVA\nd 191 DORVA\nW 9 WYJŚCIE\nP 57 POCHODNIA\nM 56 MASZYNA\n"});
     const auto isTaken = [&](std::string row) {
@@ -165,7 +166,7 @@ TEST(Kompilator, ABoardHasOneDorvaOneExitAndAtMostOneTorchAndMachine) {
                                     parseLegenda(Zrodlo::fromFile(stages / "legenda.txt")), {}));
 }
 
-TEST(Kompilator, AStagesColoursAreTheWorldsUnderTheSharedUnderItsOwn) {
+TEST(Compiler, AStagesColoursAreTheWorldsUnderTheSharedUnderItsOwn) {
     Swiaty swiaty{};
     swiaty[1].kolory = {10, 20, 30, 40, 50};
     std::string source = "swiat 2\nkolory tlo 6 klucze 8\ncel 7\nostatni 1\npowitanie ala, Żółw\nopis x\nplansza\n";
@@ -181,7 +182,7 @@ TEST(Kompilator, AStagesColoursAreTheWorldsUnderTheSharedUnderItsOwn) {
     EXPECT_EQ(etap[32 + 80], 139);
     EXPECT_EQ(etap[32 + 119], 139);
     EXPECT_EQ((Bajty{etap[832], etap[833], etap[834]}), (Bajty{7, 1, 1}));
-    // centred by its length, Polish letters on the codes of their lower-case ones
+    // centred, with Polish capitals on the codes of lower-case letters
     EXPECT_EQ(Bajty(etap.begin() + 835 + 11, etap.begin() + 835 + 21),
               (Bajty{0, 33, 44, 33, 12, 0, 122, 111, 108, 55}));
 }

@@ -1,4 +1,4 @@
-#include "pulpit.h"
+#include "desk.h"
 #include "stage/etap.h"
 #include "tiles/kolory.h"
 #include "tiles/paleta.h"
@@ -7,7 +7,7 @@
 namespace dorva::test {
 namespace {
 
-// A strip whose pixels tell world and tile.
+// A strip in which every pixel names its world and tile.
 Bitmapa sampleStrip(std::uint32_t swiat, int width = 4096, int height = 32) {
     Bitmapa strip{width, height, std::vector<std::uint32_t>(width * height)};
     for (std::size_t i = 0; i < strip.piksele.size(); ++i)
@@ -15,10 +15,10 @@ Bitmapa sampleStrip(std::uint32_t swiat, int width = 4096, int height = 32) {
     return strip;
 }
 
-class Tiles : public Pulpit {
+class Tiles : public Desk {
 protected:
     void SetUp() override {
-        Pulpit::SetUp();
+        Desk::SetUp();
         std::uint32_t swiat = 0;
         for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"}) {
             writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".KOLORY"),
@@ -105,12 +105,12 @@ TEST_F(Tiles, OnlyVisibleFilesTakeAWorldsTurn) {
     }
     start();
     EXPECT_EQ(pixel({0, NIC}), 0xFF010000U);
-    EXPECT_EQ(pixel({1, NIC}), POSIX ? 0xFF020000U : 0xFF090000U) << "Windows doesn't mind the case";
+    EXPECT_EQ(pixel({1, NIC}), POSIX ? 0xFF020000U : 0xFF090000U) << "on Windows the case doesn't count";
     EXPECT_EQ(pixel({2, NIC}), POSIX ? 0xFF030000U : 0xFF020000U);
 }
 
 TEST_F(Tiles, ReloadTakesNewColoursOfTheWorldOnShow) {
-    start(); // stage 1 stands in world 1
+    start(); // stage 1 is in world 1
     e.okno.chkZachowajKolory = true;
     writeFile(base / "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY", {6, 7, 8, 9, 10});
     writeFile(base / "OBIEKTY/ORN_EXPORT/FNT11.ORN.ND.KOLORY", {1, 2, 3, 4, 5});
@@ -147,9 +147,9 @@ TEST_F(Tiles, PaletteFileOrBuiltInTable) {
     const auto third = base / "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND.KOLORY";
     fs::remove(third);
     LoadKolory(e, 2);
-    EXPECT_FALSE(fs::exists(third)) << "asked for first";
+    EXPECT_FALSE(fs::exists(third)) << "a missing colour file stays missing";
     LoadZestaw(e, base / "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND", 2);
-    EXPECT_EQ(fs::file_size(third), 0U) << "opened at once";
+    EXPECT_EQ(fs::file_size(third), 0U) << "with a tile set it is created";
     EXPECT_EQ(e.KoloryDomyslne[2][4], 30);
 }
 

@@ -1,5 +1,5 @@
-// What only Windows does to files: holders, the read-only flag, device names, long paths, wide names.
-#include "pulpit.h"
+// What only Windows does with files: programs that hold them, the read-only flag, device names, long paths, wide names.
+#include "desk.h"
 #include "system/proces.h"
 
 #include <array>
@@ -9,10 +9,10 @@
 namespace dorva::test {
 namespace {
 
-// What another program that holds a file lets others do.
+// What a program that holds a file lets others do with it.
 constexpr std::array<::DWORD, 3> SHARES{0, FILE_SHARE_READ, FILE_SHARE_READ | FILE_SHARE_WRITE};
 
-class Windows : public Pulpit {
+class Windows : public Desk {
 protected:
     static ::HANDLE hold(const fs::path& path, ::DWORD share) {
         return ::CreateFileW(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr);

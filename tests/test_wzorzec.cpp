@@ -1,5 +1,5 @@
-// A delivered set is laid beside the program, and no one's work is lost.
-#include "pulpit.h"
+// The files of a package are put where the user works on them, and nobody's work is lost.
+#include "desk.h"
 #include "system/wzorzec.h"
 
 #include <numeric>
@@ -8,22 +8,22 @@
 namespace dorva::test {
 namespace {
 
-class Wzorzec : public ::testing::Test {
+class LayingOut : public ::testing::Test {
 protected:
     fs::path folder = makeFolder();
 
-    Wzorzec() {
+    LayingOut() {
         for (const char* name : {"ETAPY/DETAP.1", "ETAPY/DETAP.2", "PLIKI/DP1.DTA", "PLIKI/DP3.BAT",
                                  "PLIKI/PALETY/Bitwor.act", "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND"})
             put(fs::path("wzorzec") / name, 1);
     }
-    ~Wzorzec() override { fs::remove_all(folder); }
+    ~LayingOut() override { fs::remove_all(folder); }
 
     void put(const fs::path& name, Bajt byte) const {
         fs::create_directories((folder / name).parent_path());
         writeFile(folder / name, {byte});
     }
-    // What stands in the folder: 'name byte', in order.
+    // The files in the folder, sorted, as lines "name byte".
     std::string laid() const {
         std::set<std::string> files;
         for (const auto& entry : fs::recursive_directory_iterator(folder))
@@ -34,8 +34,8 @@ protected:
     }
 };
 
-TEST_F(Wzorzec, WhatIsMissingIsLaidAndFoldersOnlyAsAWhole) {
-    put("ETAPY.nowe/DETAP.3", 9); // a start that broke off
+TEST_F(LayingOut, WhatIsMissingIsLaidAndFoldersOnlyAsAWhole) {
+    put("ETAPY.nowe/DETAP.3", 9); // left by an interrupted start
     put("PLIKI/DP1.DTA.nowe", 9);
     ASSERT_FALSE(layOut(folder));
     EXPECT_EQ(laid(), "ETAPY/DETAP.1 1\nETAPY/DETAP.2 1\nOBIEKTY/ORN_EXPORT/FNT01.ORN.ND 1\nPLIKI/DP1.DTA 1\n"
@@ -51,13 +51,13 @@ TEST_F(Wzorzec, WhatIsMissingIsLaidAndFoldersOnlyAsAWhole) {
                       "PLIKI/DP3.BAT 1\nPLIKI/PALETY/Bitwor.act 1\n");
 }
 
-TEST_F(Wzorzec, AFailureIsReportedAndTheRestIsLaid) {
+TEST_F(LayingOut, AFailureIsReportedAndTheRestIsLaid) {
     put("PLIKI", 5); // a file where a folder is needed
     EXPECT_TRUE(layOut(folder));
     EXPECT_EQ(laid(), "ETAPY/DETAP.1 1\nETAPY/DETAP.2 1\nOBIEKTY/ORN_EXPORT/FNT01.ORN.ND 1\nPLIKI 5\n");
 }
 
-TEST_F(Wzorzec, ALinkIsLeftAloneWhereverItLeads) {
+TEST_F(LayingOut, ALinkIsLeftAloneWhereverItLeads) {
     std::error_code refused;
     fs::create_directory_symlink("brak", folder / "ETAPY", refused);
     if (refused)

@@ -1,5 +1,5 @@
+#include "desk.h"
 #include "output/obraz_gry.h"
-#include "pulpit.h"
 #include "stage/archiwum.h"
 #include "stage/etap.h"
 #include "stage/zbior_etapow.h"
@@ -7,9 +7,9 @@
 namespace dorva::test {
 namespace {
 
-class ZbiorEtapow : public Pulpit {};
+class StageFiles : public Desk {};
 
-TEST_F(ZbiorEtapow, LastStageRule) {
+TEST_F(StageFiles, LastStageRule) {
     Bajty last = sampleEtap(32);
     last[uklad::OSTATNI] = 0;
     writeFile(etap(32), last);
@@ -25,7 +25,7 @@ TEST_F(ZbiorEtapow, LastStageRule) {
     EXPECT_EQ(e.okno.chkOstatni, 0);
 }
 
-TEST_F(ZbiorEtapow, LoadTakesOnlyFilesOf931Bytes) {
+TEST_F(StageFiles, LoadTakesOnlyFilesOf931Bytes) {
     start();
     chosen = root / "obcy";
     writeFile(*chosen, Bajty(932, 1));
@@ -48,7 +48,7 @@ TEST_F(ZbiorEtapow, LoadTakesOnlyFilesOf931Bytes) {
     EXPECT_FALSE(fs::exists(root / "nie ma"));
 }
 
-TEST_F(ZbiorEtapow, SaveAsksBeforeItReplaces) {
+TEST_F(StageFiles, SaveAsksBeforeItReplaces) {
     start();
     SelectEtapNR(e, 6);
     chosen = root / "kopia etapu";
@@ -70,7 +70,7 @@ TEST_F(ZbiorEtapow, SaveAsksBeforeItReplaces) {
     EXPECT_EQ(e.OstatniaSciezka, *chosen);
 }
 
-TEST_F(ZbiorEtapow, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
+TEST_F(StageFiles, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
     start();
     e.okno.pola[TXT_NAZWA].tekst = ascii("ala");
     e.okno.pola[TXT_AUTOR].tekst = ascii(std::string(64, 'q'));
@@ -105,7 +105,7 @@ TEST_F(ZbiorEtapow, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
     EXPECT_EQ(shown.size(), 3U) << "a dialog that names no file is cancelled";
 }
 
-TEST_F(ZbiorEtapow, ClearBuildsTheWalledField) {
+TEST_F(StageFiles, ClearBuildsTheWalledField) {
     start();
     answers = {false, true};
     cmdCzysc_Click(e);

@@ -1,4 +1,4 @@
-// The window's tests need an application; they run without a display.
+// Runs the window's tests with an application but without a display.
 #include "qt/aplikacja.h"
 
 #include <QApplication>
@@ -9,9 +9,9 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     ::testing::InitGoogleTest(&argc, argv);
-    const QTemporaryDir settings; // what the toolkit might write of its own accord
+    const QTemporaryDir settings; // for settings that Qt might write by itself
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // those of the system can't be answered from here
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // tests can't answer those of the system
     QApplication application(argc, argv);
     dorva::setUpApplication(application);
     return RUN_ALL_TESTS();

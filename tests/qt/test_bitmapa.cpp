@@ -1,12 +1,12 @@
 #include "qt/bitmapa_pliku.h"
-#include "stanowisko.h"
+#include "window_desk.h"
 
 #include <QBuffer>
 
 namespace dorva::test {
 namespace {
 
-// Places in the file's two headers.
+// Offsets in the headers of a bitmap file.
 constexpr std::size_t WIDTH = 18, HEIGHT = 22, DEPTH = 28, COMPRESSION = 30;
 
 constexpr std::uint32_t BLACK = 0xFF000000, RED = 0xFFFF0000, GREEN = 0xFF00FF00, NONE = 0;
@@ -18,16 +18,16 @@ void append(Bajty& file, const std::vector<std::uint32_t>& numbers, int size) {
             file.push_back(static_cast<Bajt>(number >> 8 * i));
 }
 
-struct Rodzaj {
+struct Kind {
     const char* name;
     std::uint32_t header, depth, compression;
     std::vector<std::uint32_t> masks;
-    std::vector<int> pixels; // the lower row of the picture first
+    std::vector<int> pixels; // the lower row comes first
     std::uint32_t alphaMask = 0;
 };
 
 // The picture as a file of a kind. Colours: black, red, green.
-Bajty fileOf(const Rodzaj& r) {
+Bajty fileOf(const Kind& r) {
     constexpr std::uint32_t FILE_HEADER = 14, OLD = 12, V4 = 108;
     const std::uint32_t colours = r.depth <= 8 ? 3 : 0;
     const auto masks = r.header == V4 ? 0 : static_cast<std::uint32_t>(4 * r.masks.size());
@@ -60,7 +60,7 @@ Bajty fileOf(const Rodzaj& r) {
 }
 
 constexpr std::uint32_t INFO = 40, PLAIN = 0, RLE8 = 1, RLE4 = 2, FIELDS = 3;
-const Rodzaj RODZAJE[]{
+const Kind KINDS[]{
     {"8 bits", INFO, 8, PLAIN, {}, {0, 0, 0, 0, 1, 2, 0, 0}},
     {"4 bits", INFO, 4, PLAIN, {}, {0, 0, 0, 0, 0x12, 0, 0, 0}},
     {"24 bits", INFO, 24, PLAIN, {}, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 255, 0, 255, 0, 0, 0, 0, 0, 0, 0}},
@@ -85,17 +85,17 @@ const Rodzaj RODZAJE[]{
                                                 0, 0, 255, 0, 255, 0, 0, 0, 0, 0, 0, 0}},
 };
 
-class BitmapaPliku : public Stanowisko {
+class BitmapFile : public WindowDesk {
 protected:
     void SetUp() override {
-        Pulpit::SetUp();
-        okno = std::make_unique<OknoGlowne>(e); // with the hook of its own
+        Desk::SetUp();
+        okno = std::make_unique<OknoGlowne>(e); // with its own hook, which reads files
     }
     std::optional<Bitmapa> load(const Bajty& file) {
         writeFile(root / "a.bmp", file);
         return e.haki.loadPicture(root / "a.bmp", 3, 2);
     }
-    // The picture in the upper left corner, the rest black.
+    // A file with the picture in its upper left corner, and black elsewhere.
     static Bajty bitmapFile(QSize size, QImage::Format format) {
         QImage image(size, QImage::Format_RGB32);
         image.fill(Qt::black);
@@ -112,27 +112,27 @@ protected:
     }
 };
 
-TEST_F(BitmapaPliku, WholeFilesOfEveryKindAreShownCutOnesAreNot) {
-    for (const Rodzaj& rodzaj : RODZAJE) {
-        const Bajty whole = fileOf(rodzaj);
+TEST_F(BitmapFile, WholeFilesOfEveryKindAreShownCutOnesAreNot) {
+    for (const Kind& kind : KINDS) {
+        const Bajty whole = fileOf(kind);
         const auto bitmapa = load(whole);
-        ASSERT_TRUE(bitmapa) << rodzaj.name;
+        ASSERT_TRUE(bitmapa) << kind.name;
         for (std::size_t i = 0; i < PICTURE.size(); ++i) // five bits hold no 255
-            EXPECT_EQ(bitmapa->piksele[i] | 0x070707, PICTURE[i] | 0x070707) << rodzaj.name << " at " << i;
-        const bool endMark = rodzaj.compression == RLE8 || rodzaj.compression == RLE4;
+            EXPECT_EQ(bitmapa->piksele[i] | 0x070707, PICTURE[i] | 0x070707) << kind.name << " at " << i;
+        const bool endMark = kind.compression == RLE8 || kind.compression == RLE4;
         for (std::size_t length = 0; length < whole.size() - (endMark ? 2 : 0); ++length)
             EXPECT_FALSE(load(Bajty(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length))))
-                << rodzaj.name << " cut to " << length << " of " << whole.size();
+                << kind.name << " cut to " << length << " of " << whole.size();
     }
 }
 
-TEST_F(BitmapaPliku, WhatRunsLeaveOutHasTheFirstColour) {
+TEST_F(BitmapFile, WhatRunsLeaveOutHasTheFirstColour) {
     const auto bitmapa = load(fileOf({"", INFO, 8, RLE8, {}, {0, 2, 0, 1, 1, 1, 0, 1}}));
     ASSERT_TRUE(bitmapa);
     EXPECT_EQ(bitmapa->piksele, (std::vector{RED, BLACK, BLACK, BLACK, BLACK, BLACK}));
 }
 
-TEST_F(BitmapaPliku, AnAlphaChannelThatHoldsSomethingCounts) {
+TEST_F(BitmapFile, AnAlphaChannelThatHoldsSomethingCounts) {
     const auto bitmapa = load(fileOf({"",
                                       108,
                                       32,
@@ -144,7 +144,7 @@ TEST_F(BitmapaPliku, AnAlphaChannelThatHoldsSomethingCounts) {
     EXPECT_EQ(bitmapa->piksele, (std::vector{RED, GREEN, NONE, NONE, NONE, NONE}));
 }
 
-TEST_F(BitmapaPliku, OnlyThePartThatIsWantedIsKept) {
+TEST_F(BitmapFile, OnlyThePartThatIsWantedIsKept) {
     for (QImage::Format format : {QImage::Format_Indexed8, QImage::Format_RGB32}) {
         const auto larger = load(bitmapFile({7, 5}, format));
         ASSERT_TRUE(larger);
@@ -159,7 +159,7 @@ TEST_F(BitmapaPliku, OnlyThePartThatIsWantedIsKept) {
     EXPECT_EQ(topDown->piksele[3], RED);
 }
 
-TEST_F(BitmapaPliku, WhatIsNoPictureIsRefused) {
+TEST_F(BitmapFile, WhatIsNoPictureIsRefused) {
     const Bajty good = bitmapFile({3, 2}, QImage::Format_Indexed8);
     EXPECT_FALSE(load(with(with(good, WIDTH, 0x7FFFFFFF), HEIGHT, 0x7FFFFFFF)));
     EXPECT_FALSE(load(with(with(with(good, WIDTH, 60000), HEIGHT, 60000), COMPRESSION, RLE8)));

@@ -1,5 +1,5 @@
-// The whole window against what a user has to find, where and under which words.
-#include "stanowisko.h"
+// All controls of the window: their places, their texts and their order.
+#include "window_desk.h"
 
 #include "qt/kontrolki_okna.h"
 #include "qt/napisy.h"
@@ -17,14 +17,14 @@
 namespace dorva::test {
 namespace {
 
-class Katalog : public Stanowisko {
+class Catalogue : public WindowDesk {
 protected:
     void SetUp() override {
-        Stanowisko::SetUp();
+        WindowDesk::SetUp();
         okno->showRecord();
         okno->show();
     }
-    // Those of a window, each before what may lie on it.
+    // The controls of a window, each before what may cover it.
     static QList<QWidget*> controlsOf(const QWidget* window) {
         QList<QWidget*> controls;
         for (auto* widget : window->findChildren<QWidget*>(QRegularExpression("^(fra|frm|c|opt|txt|lbl|img|hsc|pic)")))
@@ -32,7 +32,7 @@ protected:
                 controls.append(widget);
         return controls;
     }
-    // Their names, places, words and states.
+    // Compares their names, places, texts and states with a file.
     static void expectControls(const char* file, const QList<QWidget*>& controls) {
         QStringList rows;
         for (const QWidget* control : controls) {
@@ -59,7 +59,7 @@ protected:
     }
 };
 
-TEST_F(Katalog, EveryControlStandsAtItsPlaceWithItsWords) {
+TEST_F(Catalogue, EveryControlStandsAtItsPlaceWithItsWords) {
     expectControls("okno.txt", controlsOf(okno.get()));
     EXPECT_EQ(okno->minimumSize(), QSize(897, 617));
     EXPECT_EQ(okno->maximumSize(), QSize(897, 617));
@@ -79,21 +79,22 @@ TEST_F(Katalog, EveryControlStandsAtItsPlaceWithItsWords) {
     EXPECT_FALSE(palette->geometry().contains(find("lblKolor(4)")->mapToGlobal(QPoint(0, 0)))); // covers no swatch
 }
 
-TEST_F(Katalog, TabVisitsTheControlsInOrder) {
+TEST_F(Catalogue, TabVisitsTheControlsInOrder) {
     open();
     QStringList visited;
     for (int i = 0; i < 20; ++i) {
         visited += QApplication::focusWidget()->objectName();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(visited.join(" ").toStdString(), // stage 1 of the desk lies in world 1
+    EXPECT_EQ(visited.join(" "), // stage 1 of the desk is in world 1
               "optEtapNR(0) chkOstatni optObiektyNR(1) txtNazwa txtAutor txtAutorGry(0) txtAutorGry(1) txtAutorGry(2) "
               "cmdLoad cmdLoadArch cmdTest cmdSave cmdSaveArch cmdCreate hscMonet cmdCzysc cmdResetKolory "
               "chkZachowajKolory optPPM(0) optEtapNR(0)");
 }
 
-// Container, binding, tab stop and kind alike: what is not in the catalogue is told by its name.
-TEST_F(Katalog, AMisspeltNameEndsTheProgram) {
+// A container, a control of another kind and a tab stop that aren't in the catalogue: each is named in the last
+// message.
+TEST_F(Catalogue, AMisspeltNameEndsTheProgram) {
     QWidget window;
     const KontrolkiOkna kontrolki(katalogOkna(), &window);
     const auto end = ::testing::ExitedWithCode(1);
@@ -102,8 +103,8 @@ TEST_F(Katalog, AMisspeltNameEndsTheProgram) {
     EXPECT_EXIT(kontrolki.setTabOrder({"cmdLoad", "txtNzawa"}), end, "txtNzawa");
 }
 
-// Every caption in its box, in bold where a selected button has it so.
-TEST_F(Katalog, NoCaptionIsCutAndEachIsDrawn) {
+// Captions of buttons are measured in bold, as a selected button shows its own.
+TEST_F(Catalogue, NoCaptionIsCutAndEachIsDrawn) {
     open();
     for (auto* widget : okno->findChildren<QWidget*>()) {
         QFont font = widget->font();
@@ -130,7 +131,7 @@ TEST_F(Katalog, NoCaptionIsCutAndEachIsDrawn) {
     }
 }
 
-TEST_F(Katalog, TheFontsTravelWithTheProgram) {
+TEST_F(Catalogue, TheFontsTravelWithTheProgram) {
     QStringList families;
     for (int id = 0; id < 3; ++id)
         families += QFontDatabase::applicationFontFamilies(id);
@@ -139,7 +140,7 @@ TEST_F(Katalog, TheFontsTravelWithTheProgram) {
     EXPECT_EQ(find("txtNazwa")->font().family(), families.back());
 }
 
-TEST_F(Katalog, ALongCaptionIsNarrowedToItsBox) {
+TEST_F(Catalogue, ALongCaptionIsNarrowedToItsBox) {
     const QRect box(20, 10, 60, 26);
     for (int flags : {int(Qt::AlignCenter), Qt::AlignCenter | Qt::TextWordWrap})
         for (const char* caption : {"|cccccccccccccccccccccc|", "|nie ma tu miejsca na tyle słów, ile ich jest|"}) {

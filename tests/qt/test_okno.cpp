@@ -1,4 +1,4 @@
-#include "stanowisko.h"
+#include "window_desk.h"
 
 #include "qt/ekran.h"
 
@@ -9,13 +9,13 @@
 namespace dorva::test {
 namespace {
 
-class OknoTest : public Stanowisko {
+class MainWindow : public WindowDesk {
 protected:
     QLineEdit* box(const char* name) { return find<QLineEdit>(name); }
     QRgb colour(const QString& name, QPalette::ColorRole role) { return find(name)->palette().color(role).rgb(); }
 };
 
-TEST_F(OknoTest, TextsAreTypedSelectedAndBroughtToTheirForm) {
+TEST_F(MainWindow, TextsAreTypedSelectedAndBroughtToTheirForm) {
     open();
     EXPECT_FALSE(box("txtAutorGry(0)")->hasSelectedText()) << "nobody has entered it yet";
     click("txtNazwa");
@@ -43,7 +43,7 @@ TEST_F(OknoTest, TextsAreTypedSelectedAndBroughtToTheirForm) {
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA")[0], 'x');
 }
 
-TEST_F(OknoTest, TextThatABoxCannotShowSurvives) {
+TEST_F(MainWindow, TextThatABoxCannotShowSurvives) {
     Bajty title(60, 'A');
     for (std::size_t i = 0; i < 33; ++i)
         title[i] = static_cast<Bajt>(i);
@@ -56,7 +56,7 @@ TEST_F(OknoTest, TextThatABoxCannotShowSurvives) {
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), title);
 }
 
-TEST_F(OknoTest, FiguresAndBoxesAnswerClicks) {
+TEST_F(MainWindow, FiguresAndBoxesAnswerClicks) {
     Bajty image = sampleEtap(1);
     image[uklad::OSTATNI] = 2;
     image[uklad::PLANSZA + 100] = image[uklad::PLANSZA + 101] = 12;
@@ -85,7 +85,7 @@ TEST_F(OknoTest, FiguresAndBoxesAnswerClicks) {
     EXPECT_NE(colour("lblInfo(3)", QPalette::WindowText), qRgb(255, 0, 0));
 }
 
-TEST_F(OknoTest, ThePaletteWritesIntoTheSlotThatWasPicked) {
+TEST_F(MainWindow, ThePaletteWritesIntoTheSlotThatWasPicked) {
     open();
     click("lblKolor(4)");
     auto* dialog = find<QDialog>("dlgPaleta");
@@ -118,7 +118,7 @@ TEST_F(OknoTest, ThePaletteWritesIntoTheSlotThatWasPicked) {
     EXPECT_EQ(readFile(etap(1))[uklad::KOLORY + 4], 180);
 }
 
-TEST_F(OknoTest, BoxesAreSeenInADarkPaletteToo) {
+TEST_F(MainWindow, BoxesAreSeenInADarkPaletteToo) {
     QPalette dark(QColor(49, 54, 59), QColor(49, 54, 59));
     dark.setColor(QPalette::Base, QColor(35, 38, 41));
     const QList<QWidget*> boxes{find("chkOstatni"), find("txtNazwa")};
@@ -137,7 +137,7 @@ TEST_F(OknoTest, BoxesAreSeenInADarkPaletteToo) {
     }
 }
 
-TEST_F(OknoTest, ItOpensInTheMiddleOfTheScreenAndNeverAboveOrLeftOfIt) {
+TEST_F(MainWindow, ItOpensInTheMiddleOfTheScreenAndNeverAboveOrLeftOfIt) {
     const QRect area = okno->screen()->availableGeometry();
     showCentred(*okno);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(okno.get()));

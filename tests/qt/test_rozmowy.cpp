@@ -1,4 +1,4 @@
-#include "stanowisko.h"
+#include "window_desk.h"
 
 #include "qt/rozmowy.h"
 
@@ -10,7 +10,7 @@
 namespace dorva::test {
 namespace {
 
-class Rozmowy : public Stanowisko {
+class DialogWindows : public WindowDesk {
 protected:
     // Answers the next file dialog with a name.
     void whenAskedChoose(const fs::path& name) {
@@ -30,7 +30,7 @@ protected:
     QString folder;
 };
 
-TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
+TEST_F(DialogWindows, AStageGoesOutAndComesBack) {
     open();
     const fs::path copy = root / QString::fromUtf8("mój etap").toStdString();
     writeFile(copy, {1, 2, 3});
@@ -56,7 +56,7 @@ TEST_F(Rozmowy, AStageGoesOutAndComesBack) {
         QFile::exists(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/QtProject.conf"));
 }
 
-TEST_F(Rozmowy, AMissingNameEndsTheOperationWithoutAWord) {
+TEST_F(DialogWindows, AMissingNameEndsTheOperationWithoutAWord) {
     open();
     const fs::path before = e.OstatniaSciezka, missing = root / "brak";
     QTimer stuck; // where the dialog stays open, or asks
@@ -76,7 +76,7 @@ TEST_F(Rozmowy, AMissingNameEndsTheOperationWithoutAWord) {
     EXPECT_FALSE(fs::exists(missing));
 }
 
-TEST_F(Rozmowy, FilesAreListedByNumberAndAlphabetInPolish) {
+TEST_F(DialogWindows, FilesAreListedByNumberAndAlphabetInPolish) {
     open();
     e.OstatniaSciezka = base / "ETAPY";
     for (const char8_t* name : {u8"DETAP.zebra", u8"DETAP.ćma"})
@@ -100,7 +100,7 @@ TEST_F(Rozmowy, FilesAreListedByNumberAndAlphabetInPolish) {
     click("cmdLoad");
 }
 
-TEST_F(Rozmowy, KeysAndIconOfEveryMessage) {
+TEST_F(DialogWindows, KeysAndIconOfEveryMessage) {
     const std::map<Ikona, QMessageBox::Icon> icons{{Ikona::Critical, QMessageBox::Critical},
                                                    {Ikona::Warning, QMessageBox::Warning},
                                                    {Ikona::Information, QMessageBox::Information}};
@@ -121,7 +121,7 @@ TEST_F(Rozmowy, KeysAndIconOfEveryMessage) {
             }
 }
 
-TEST_F(Rozmowy, WhatBlocksTheWindowFirstShowsWhatWasDone) {
+TEST_F(DialogWindows, WhatBlocksTheWindowFirstShowsWhatWasDone) {
     open();
     const auto expectShown = [this](const char* caption) {
         e.okno.caption = caption;
@@ -138,7 +138,7 @@ TEST_F(Rozmowy, WhatBlocksTheWindowFirstShowsWhatWasDone) {
     EXPECT_FALSE(e.haki.saveDialog({"", root, "Pliki|*.*"}));
 }
 
-TEST_F(Rozmowy, EnterPressesTheButtonInFocus) {
+TEST_F(DialogWindows, EnterPressesTheButtonInFocus) {
     open();
     whenAskedPress("Tak");
     QTest::keyClick(find("cmdCzysc"), Qt::Key_Return);

@@ -1,5 +1,5 @@
-// Programs beside the editor and the end of a session, on POSIX systems.
-#include "stanowisko.h"
+// Starting other programs, and the end of a session, on POSIX systems.
+#include "window_desk.h"
 
 #include "qt/programy.h"
 #include "qt/sesja.h"
@@ -13,9 +13,9 @@
 namespace dorva::test {
 namespace {
 
-class SesjaPosix : public Stanowisko {};
+class SessionPosix : public WindowDesk {};
 
-TEST_F(SesjaPosix, ASignalToEndStoresTheWork) {
+TEST_F(SessionPosix, ASignalToEndStoresTheWork) {
     open();
     storeAtSessionEnd(*okno);
     for (int signal : {SIGTERM, SIGINT, SIGHUP}) {
@@ -28,11 +28,11 @@ TEST_F(SesjaPosix, ASignalToEndStoresTheWork) {
     }
 }
 
-// The launcher of the working folder, with an emulator that notes how it was called.
-TEST_F(SesjaPosix, TheLauncherRunsTheEmulatorBesideTheEditor) {
+// The emulator is a script that writes down how it was called.
+TEST_F(SessionPosix, TheLauncherRunsTheEmulatorBesideTheEditor) {
     open();
     fs::copy_file(DORVA_LAUNCHER, base / "PLIKI/DP3.BAT");
-    const std::string emulator = "#!/bin/sh\n{ pwd; echo \"$@\"; } > \"" + (root / "wywolanie").string() + "\"\n";
+    const std::string emulator = "#!/bin/sh\n{ pwd; echo \"$@\"; } > \"" + (root / "call").string() + "\"\n";
     writeFile(root / "atari800", Bajty(emulator.begin(), emulator.end()));
     fs::permissions(root / "atari800", fs::perms::owner_all);
     const QByteArray path = qgetenv("PATH");
@@ -42,8 +42,8 @@ TEST_F(SesjaPosix, TheLauncherRunsTheEmulatorBesideTheEditor) {
     click("cmdTest");
     const std::string called =
         fs::canonical(base).string() + "\n-xe -nobasic -win-width 1008 -win-height 720 -run PLIKI/TEST.XEX\n";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(root / "wywolanie").size() == called.size(); }));
-    EXPECT_EQ(readFile(root / "wywolanie"), Bajty(called.begin(), called.end()));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(root / "call").size() == called.size(); }));
+    EXPECT_EQ(readFile(root / "call"), Bajty(called.begin(), called.end()));
     qputenv("PATH", path);
 
     startProgram(base / "PLIKI/BRAK.BAT", OknoProgramu::Hidden); // nothing happens, nothing is created
@@ -51,9 +51,9 @@ TEST_F(SesjaPosix, TheLauncherRunsTheEmulatorBesideTheEditor) {
 }
 
 // The program itself, as a process. It takes no option of Qt's from its command line.
-TEST_F(SesjaPosix, TheProgramLoadsAndStoresTheFolderThatItStandsIn) {
+TEST_F(SessionPosix, TheProgramLoadsAndStoresTheFolderThatItStandsIn) {
     fs::copy_file(DORVA_PROGRAM, base / "planszownik");
-    fs::remove(base / "ETAPY/DETAP.1"); // appears, empty, when it is looked for
+    fs::remove(base / "ETAPY/DETAP.1"); // the program creates it, empty, when it reads the stage
     QProcess program;
     program.start(QString::fromStdString((base / "planszownik").string()), {"-platform", "brak"});
     EXPECT_TRUE(QTest::qWaitFor([this] { return fs::exists(etap(1)); }));
@@ -78,7 +78,7 @@ TEST(Program, WithoutADisplayOneSentenceQtsReasonAndStatusOne) {
     const QByteArray said = program.readAllStandardError();
     EXPECT_TRUE(said.startsWith("Planszownik nie może")) << said.toStdString();
     EXPECT_TRUE(said.contains("could not connect to display :9999")) << said.toStdString();
-    environment.insert("QT_QPA_PLATFORM", "xcb"); // chosen by hand: Qt as it is
+    environment.insert("QT_QPA_PLATFORM", "xcb"); // chosen by hand, so Qt's own messages stay
     program.setProcessEnvironment(environment);
     program.start(DORVA_PROGRAM, QStringList());
     ASSERT_TRUE(program.waitForFinished());

@@ -1,5 +1,5 @@
-// Programs beside the editor and the end of a session, on Windows.
-#include "stanowisko.h"
+// Starting other programs, and the end of a session, on Windows.
+#include "window_desk.h"
 
 #include "qt/programy.h"
 #include "qt/sesja.h"
@@ -9,18 +9,18 @@
 namespace dorva::test {
 namespace {
 
-class SesjaWindows : public Stanowisko {
+class SessionWindows : public WindowDesk {
 protected:
     void SetUp() override {
-        Stanowisko::SetUp();
+        WindowDesk::SetUp();
         fs::rename(base, root / "Moja łódź & spółka"); // what a user may call a folder
         base = root / "Moja łódź & spółka";
         fs::copy_file(DORVA_LAUNCHER, base / "PLIKI/DP3.BAT");
     }
 
-    // Lets the launcher run after a test build; what the stand-in for the emulator notes in `folder`.
+    // Runs the launcher after a test build. Returns what the fake emulator has written in `folder`.
     std::string launchedIn(const fs::path& folder) {
-        const fs::path note = folder / "wywolanie";
+        const fs::path note = folder / "call";
         fs::remove(note);
         whenAskedPress("Tak");
         click("cmdTest");
@@ -33,7 +33,7 @@ protected:
     }
 };
 
-TEST_F(SesjaWindows, TheLauncherTakesAnEmulatorOfItsFolderElseOneInThePathElseTellsThereIsNone) {
+TEST_F(SessionWindows, TheLauncherTakesAnEmulatorOfItsFolderElseOneInThePathElseSaysThereIsNone) {
     open();
     const auto here = base.u8string();
     const std::string place = std::string(here.begin(), here.end()) + '\n';
@@ -46,7 +46,7 @@ TEST_F(SesjaWindows, TheLauncherTakesAnEmulatorOfItsFolderElseOneInThePathElseTe
     const QString path = qEnvironmentVariable("PATH");
     ::SetEnvironmentVariableW(L"PATH", (elsewhere.native() + L';' + path.toStdWString()).c_str());
     EXPECT_EQ(launchedIn(beside), place + "/hardware:800xl /memsize:128K /nobasic /run PLIKI\\TEST.XEX\n");
-    EXPECT_FALSE(fs::exists(elsewhere / "wywolanie"));
+    EXPECT_FALSE(fs::exists(elsewhere / "call"));
     fs::remove_all(beside);
     EXPECT_EQ(launchedIn(elsewhere), place + "-xe -nobasic -win-width 1008 -win-height 720 -run PLIKI\\TEST.XEX\n");
     fs::rename(elsewhere / "atari800.exe", elsewhere / "powershell.exe"); // what shows the message
@@ -54,19 +54,19 @@ TEST_F(SesjaWindows, TheLauncherTakesAnEmulatorOfItsFolderElseOneInThePathElseTe
     ::SetEnvironmentVariableW(L"PATH", path.toStdWString().c_str());
 }
 
-TEST_F(SesjaWindows, ProgramsRunInTheCurrentFolder) {
+TEST_F(SessionWindows, ProgramsRunInTheCurrentFolder) {
     fs::current_path(root);
     const fs::path orn = base / "OBIEKTY/ORN.exe";
     fs::copy_file(DORVA_EMULATOR, orn);
     startProgram(orn, OknoProgramu::Normal);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(base / "OBIEKTY/wywolanie").ends_with('\n'); }, 10000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(base / "OBIEKTY/call").ends_with('\n'); }, 10000));
     const auto here = root.u8string();
-    EXPECT_EQ(readFile(base / "OBIEKTY/wywolanie"), std::string(here.begin(), here.end()) + "\n");
+    EXPECT_EQ(readFile(base / "OBIEKTY/call"), std::string(here.begin(), here.end()) + "\n");
     startProgram(base / "PLIKI/BRAK.BAT", OknoProgramu::Hidden); // nothing happens, nothing is created
     EXPECT_FALSE(fs::exists(base / "PLIKI/BRAK.BAT"));
 }
 
-TEST_F(SesjaWindows, TheEndOfASessionStoresTheWork) {
+TEST_F(SessionWindows, TheEndOfASessionStoresTheWork) {
     open();
     storeAtSessionEnd(*okno);
     e.okno.imgPG[410].znak = KLUCZ;

@@ -1,5 +1,5 @@
-// The window's own controls under hand, key and wheel.
-#include "stanowisko.h"
+// The window's own widgets, used by mouse, keys and wheel.
+#include "window_desk.h"
 
 #include <QClipboard>
 #include <QDialog>
@@ -10,10 +10,10 @@
 namespace dorva::test {
 namespace {
 
-class Widgety : public Stanowisko {
+class Widgets : public WindowDesk {
 protected:
     void SetUp() override {
-        Stanowisko::SetUp();
+        WindowDesk::SetUp();
         open();
         nazwa = find<QLineEdit>("txtNazwa");
     }
@@ -25,7 +25,7 @@ protected:
     QLineEdit* nazwa = nullptr;
 };
 
-TEST_F(Widgety, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
+TEST_F(Widgets, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
     auto* bar = find<QScrollBar>("hscMonet");
     const auto after = [&](auto act) {
         bar->setValue(50);
@@ -58,7 +58,7 @@ TEST_F(Widgety, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
     }
 }
 
-TEST_F(Widgety, AnArrowOfTheGoalBarCountsWhileThePointerIsOnIt) {
+TEST_F(Widgets, AnArrowOfTheGoalBarCountsWhileThePointerIsOnIt) {
     auto* bar = find<QScrollBar>("hscMonet");
     const auto counts = [&](int ms) {
         return QTest::qWaitFor([&, was = bar->value()] { return bar->value() > was; }, ms);
@@ -76,7 +76,7 @@ TEST_F(Widgety, AnArrowOfTheGoalBarCountsWhileThePointerIsOnIt) {
     EXPECT_FALSE(counts(600));
 }
 
-TEST_F(Widgety, ARightClickIntoABoxLeavesTheNextClickAlone) {
+TEST_F(Widgets, ARightClickIntoABoxLeavesTheNextClickAlone) {
     QTest::mousePress(nazwa, Qt::RightButton); // its release goes to the menu
     const QString text = nazwa->text();
     QTest::mouseClick(nazwa, Qt::LeftButton);
@@ -84,7 +84,7 @@ TEST_F(Widgety, ARightClickIntoABoxLeavesTheNextClickAlone) {
     EXPECT_EQ(nazwa->text(), text);
 }
 
-TEST_F(Widgety, ControlCodesAreNotPastedAndThoseOfAFileSurviveEveryEdit) {
+TEST_F(Widgets, ControlCodesAreNotPastedAndThoseOfAFileSurviveEveryEdit) {
     const std::string& znaki = e.okno.pola[TXT_NAZWA].tekst.znaki;
     const std::string held{'A', '\0', '\n', '\x1F', '\x7F', '\x81', 'B'};
     e.okno.pola[TXT_NAZWA].tekst.znaki = held;
@@ -104,10 +104,10 @@ TEST_F(Widgety, ControlCodesAreNotPastedAndThoseOfAFileSurviveEveryEdit) {
     QApplication::clipboard()->setText(QString::fromUtf8("\n\x01\x7F😀"));
     nazwa->paste();
     EXPECT_EQ(znaki, held + "   ?");
-    EXPECT_EQ(nazwa->cursorPosition(), 11); // the last one counts as one
+    EXPECT_EQ(nazwa->cursorPosition(), 11); // the last one counts as one character
 }
 
-TEST_F(Widgety, ACompositionInAnEmptiedBoxGoesOn) {
+TEST_F(Widgets, ACompositionInAnEmptiedBoxGoesOn) {
     click("txtNazwa");
     compose(QString::fromUtf8("´"), {});
     EXPECT_EQ(nazwa->text(), "");
@@ -124,7 +124,7 @@ TEST_F(Widgety, ACompositionInAnEmptiedBoxGoesOn) {
     EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.znaki, std::string(32, ' '));
 }
 
-TEST_F(Widgety, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
+TEST_F(Widgets, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
     click("txtNazwa");
     QTest::keyClicks(nazwa, "ala");
     for (QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
@@ -151,7 +151,7 @@ TEST_F(Widgety, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
     EXPECT_EQ(nazwa->selectedText().size(), 32);
 }
 
-TEST_F(Widgety, ArrowKeysGoFromTheSelectedOption) {
+TEST_F(Widgets, ArrowKeysGoFromTheSelectedOption) {
     const auto down = [this] { QTest::keyClick(okno->focusWidget(), Qt::Key_Down); };
     QTest::mousePress(find("optEtapNR(4)"), Qt::LeftButton); // and dragged off it
     QTest::mouseRelease(find("optEtapNR(4)"), Qt::LeftButton, {}, {-50, 5});

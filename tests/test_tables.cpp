@@ -1,6 +1,6 @@
-// Tables that other programs and people rely on, as a whole.
+// Whole tables that other programs and people rely on.
+#include "desk.h"
 #include "output/obraz_gry.h"
-#include "pulpit.h"
 #include "rows.h"
 #include "shell/komunikaty.h"
 #include "stage/archiwum.h"
@@ -19,7 +19,7 @@ std::string hex(Rgb c) {
     return text.data();
 }
 
-// A message on one row: a line feed is shown as a bar.
+// A message as one row: a bar stands for a line feed.
 std::string rowOf(const Komunikat& k) {
     constexpr std::array ICONS{"critical", "warning", "information"};
     constexpr std::array BUTTONS{"OK", "OK, Cancel", "Yes, No"};
@@ -70,7 +70,7 @@ struct Dialog {
     const char* filter;
 };
 
-class Dialogs : public Pulpit {};
+class Dialogs : public Desk {};
 
 TEST_F(Dialogs, NamesFiltersAndWhereTheNextOneStarts) {
     const Dialog all[]{{cmdSave_Click, "DETAP.7", "Etap gry|DETAP.*|Wszystkie pliki (*.*)|*.*"},

@@ -1,4 +1,4 @@
-// Every damage of a stage file: each bit of it flipped, each length up to twice its own.
+// Damaged stage files: each bit flipped, and lengths up to twice the right one.
 #include "desk_in_memory.h"
 #include "stage/etap.h"
 #include "stage/zbior_etapow.h"
@@ -13,7 +13,7 @@ protected:
         start();
     }
 
-    // Goes to the damaged stage 2 and back: stage 1 is as it was, and what was damaged can still be had.
+    // Goes to a damaged stage 2 and back. Stage 1 must not have changed, and the damaged bytes must still exist.
     void visit(const Bajty& damaged) {
         const std::string file = at("praca/ETAPY/DETAP.2");
         disk.put(file, damaged);

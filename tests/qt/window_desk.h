@@ -1,7 +1,7 @@
-// A desk with a real window on it: widgets are found by their names, dialogs are answered.
+// A desk with a real window: finds widgets by their names, and answers dialogs.
 #pragma once
 
-#include "pulpit.h"
+#include "desk.h"
 #include "qt/okno_glowne.h"
 
 #include <QApplication>
@@ -13,9 +13,14 @@
 #include <QTest>
 #include <QTimer>
 
+// Lets a failed expectation show a text as text.
+inline void PrintTo(const QString& text, std::ostream* out) {
+    *out << '"' << text.toStdString() << '"';
+}
+
 namespace dorva::test {
 
-// A pixel of a strip of 4096 x 32 in which each tile is a pattern of 2 x 2 dots of its own.
+// A pixel of a strip in which each tile has a pattern of its own, made of dots of 2 x 2 pixels.
 inline std::uint32_t patternPixel(int shade, int tile, int x, int y) {
     return 0xFF000000U | static_cast<std::uint32_t>(tile << 16 | (y / 2 * 16 + x / 2) << 8 | shade);
 }
@@ -28,10 +33,10 @@ inline Bitmapa patternStrip(int shade) {
     return strip;
 }
 
-class Stanowisko : public Pulpit {
+class WindowDesk : public Desk {
 protected:
     void SetUp() override {
-        Pulpit::SetUp();
+        Desk::SetUp();
         okno = std::make_unique<OknoGlowne>(e);
         e.haki.loadPicture = [this](const fs::path& path, int, int) -> std::optional<Bitmapa> {
             const auto name = path.filename().string();
@@ -41,7 +46,7 @@ protected:
 
     void TearDown() override {
         okno.reset();
-        Pulpit::TearDown();
+        Desk::TearDown();
     }
 
     void open() {
@@ -61,7 +66,7 @@ protected:
 
     void click(const QString& name) { QTest::mouseClick(find(name), Qt::LeftButton); }
 
-    // Types text as a keyboard of any language does.
+    // Types text as a keyboard of any language would.
     static void type(QWidget* widget, const QString& text) {
         for (QChar c : text) {
             QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
@@ -80,7 +85,7 @@ protected:
         });
     }
 
-    // Answers the next message box with the button of this caption and keeps what it said.
+    // Presses the button with this caption in the next message box, and keeps the box's text in `said`.
     void whenAskedPress(const QString& caption) {
         whenAsked<QMessageBox>([this, caption](QMessageBox* box) {
             said.append(box->windowTitle() + "|" + box->text());

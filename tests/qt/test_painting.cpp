@@ -1,4 +1,4 @@
-#include "stanowisko.h"
+#include "window_desk.h"
 
 #include "stage/zbior_etapow.h"
 
@@ -14,16 +14,16 @@
 namespace dorva::test {
 namespace {
 
-// Sends a pointer event as a desktop would, with any gap to the one before.
+// Sends a pointer event as a desktop would: it may be far from the one before.
 void pointer(QWidget* widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
     QMouseEvent event(type, at, widget->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
 }
 
-class Malowanie : public Stanowisko {
+class Painting : public WindowDesk {
 protected:
     void SetUp() override {
-        Stanowisko::SetUp();
+        WindowDesk::SetUp();
         open();
         board = find("imgPG");
     }
@@ -42,7 +42,7 @@ protected:
     QWidget* board = nullptr;
 };
 
-TEST_F(Malowanie, AFastDragLeavesNoGapsAndMayLeaveTheBoard) {
+TEST_F(Painting, AFastDragLeavesNoGapsAndMayLeaveTheBoard) {
     clickSlot(14);
     press(5 * 40 + 3);
     moveTo(centreOf(5 * 40 + 23), Qt::LeftButton);
@@ -60,8 +60,8 @@ TEST_F(Malowanie, AFastDragLeavesNoGapsAndMayLeaveTheBoard) {
     EXPECT_EQ(cellOf(2 * 40 + 39), BOMBA);
 }
 
-// From corner to corner of cells, in pixels within a board that is otherwise earth.
-TEST_F(Malowanie, ADragPaintsTheCellsThatItsStraightWayCuts) {
+// Positions are in pixels. The board is earth otherwise.
+TEST_F(Painting, ADragPaintsTheCellsThatItsStraightWayCuts) {
     struct {
         QPoint from, to;
         std::set<std::pair<int, int>> painted; // column, row
@@ -90,7 +90,7 @@ TEST_F(Malowanie, ADragPaintsTheCellsThatItsStraightWayCuts) {
         }
 }
 
-TEST_F(Malowanie, ButtonsAndTools) {
+TEST_F(Painting, ButtonsAndTools) {
     clickSlot(13);
     press(85);
     pointer(board, QEvent::MouseButtonDblClick, centreOf(87), Qt::LeftButton, Qt::LeftButton);
@@ -114,7 +114,7 @@ TEST_F(Malowanie, ButtonsAndTools) {
     EXPECT_TRUE(corner == qRgb(255, 255, 255) || corner == qRgb(0, 0, 0)); // its line is there
 }
 
-TEST_F(Malowanie, OnlyWhatChangedIsRepainted) {
+TEST_F(Painting, OnlyWhatChangedIsRepainted) {
     struct Counter : QObject {
         QRegion region;
         bool eventFilter(QObject*, QEvent* event) override {
@@ -143,7 +143,7 @@ TEST_F(Malowanie, OnlyWhatChangedIsRepainted) {
     EXPECT_TRUE(ofPicker.region.contains(rectOf(16)) && ofPicker.region.contains(rectOf(56)));
 }
 
-TEST_F(Malowanie, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
+TEST_F(Painting, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
     QWidget* picker = find("imgZnak");
     const auto frameOf = [&](int slot) { // the colour of its border
         return picker->grab().toImage().pixel(rectOf(slot).topLeft());
@@ -172,7 +172,7 @@ TEST_F(Malowanie, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
     EXPECT_EQ(frameOf(0), IN_BUFOR);
 }
 
-TEST_F(Malowanie, AFrameLiesOnTheBlackLinesAroundATile) {
+TEST_F(Painting, AFrameLiesOnTheBlackLinesAroundATile) {
     QWidget* picker = find("imgZnak");
     const auto shot = [&] { return picker->grab().toImage(); };
     const auto emptyBufor = [&] {
@@ -200,8 +200,8 @@ TEST_F(Malowanie, AFrameLiesOnTheBlackLinesAroundATile) {
         }
 }
 
-// Runs once more on a screen of a fractional scale.
-TEST_F(Malowanie, TheOutlineLeavesNoTrail) {
+// CTest runs this one again at a fractional scale.
+TEST_F(Painting, TheOutlineLeavesNoTrail) {
     moveTo(centreOf(45), Qt::NoButton);
     QTest::qWait(30);
     const QImage before = okno->screen()->grabWindow(okno->winId()).toImage();
@@ -213,8 +213,8 @@ TEST_F(Malowanie, TheOutlineLeavesNoTrail) {
     EXPECT_EQ(okno->screen()->grabWindow(okno->winId()).toImage(), before);
 }
 
-// Of each world, and after the strips were read anew.
-TEST_F(Malowanie, PicturesAreTheStripsPixels) {
+// In each world, and after the strips were loaded again.
+TEST_F(Painting, PicturesAreTheStripsPixels) {
     for (int swiat : {0, 1, 2, 2}) {
         click(QString("optObiektyNR(%1)").arg(swiat));
         shade += 10;

@@ -1,4 +1,4 @@
-// A desk for the tests: a temporary folder tree, an editor on it, and a script of answers to what it asks.
+// A desk for the tests: a temporary folder tree, an editor that works on it, and answers to what it asks.
 #pragma once
 
 #include "edytor.h"
@@ -19,10 +19,10 @@ namespace dorva::test {
 
 namespace fs = std::filesystem;
 
-// Symbolic links for everyone, and names of any characters but one.
+// Whether symbolic links are for everyone, and names may hold any character but '/'.
 inline constexpr bool POSIX = fs::path::preferred_separator == '/';
 
-// A new folder, in memory where the system has a place for that.
+// A new folder, in memory if the system has a place for that.
 inline fs::path makeFolder() {
     const fs::path place = POSIX && fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path();
     fs::path folder = place;
@@ -45,7 +45,7 @@ inline Tekst ascii(std::string_view text) {
     return {std::string(text)};
 }
 
-// A stage image that a pack leaves as it is: walls of 5, earth, and values that tell stages apart.
+// The stored form of a stage that packing leaves as it is. Every number gives a different one.
 inline Bajty sampleEtap(int number) {
     Bajty image(ETAP_SIZE_BYTES, 0);
     for (std::size_t i = 0; i < SLOTY_COUNT; ++i)
@@ -70,7 +70,7 @@ inline const Bajty& sampleSzablon() {
     return szablon;
 }
 
-// Title lines that differ: 20 X, 20 Y, 20 Z.
+// Three title lines: 20 X, 20 Y, 20 Z.
 inline Bajty sampleLinie() {
     Bajty lines;
     for (const Bajt letter : {'X', 'Y', 'Z'})
@@ -78,7 +78,7 @@ inline Bajty sampleLinie() {
     return lines;
 }
 
-// What the base folder of every desk holds.
+// The files in the base folder of a desk.
 inline std::map<std::string, Bajty> sampleTree() {
     std::map<std::string, Bajty> files{{"PLIKI/DP1.DTA", sampleLinie()},
                                        {"PLIKI/DP2.DTA", sampleSzablon()},
@@ -100,7 +100,7 @@ inline Bajty sampleArchiwum() {
     return archive;
 }
 
-class Pulpit : public ::testing::Test {
+class Desk : public ::testing::Test {
 protected:
     void SetUp() override {
         root = makeFolder();
@@ -158,7 +158,7 @@ protected:
     fs::path root, base;
     Edytor e;
     std::vector<std::string> shown;   // texts of the message boxes
-    std::deque<bool> answers;         // to the message boxes, OK and Yes when used up
+    std::deque<bool> answers;         // to the message boxes; when used up, OK and Yes
     std::vector<DialogPliku> dialogs; // the file dialogs
     std::optional<fs::path> chosen;   // in the file dialogs
     std::vector<std::pair<fs::path, OknoProgramu>> started;

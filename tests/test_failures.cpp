@@ -1,6 +1,6 @@
-// Every file call of every operation fails, and the power goes after every call. Whatever happens: each file holds its
-// old or its new bytes, what a file of the working set held before is in it or in a copy, nothing else is left over,
-// the work is on the screen or on the disk, and the next operation works.
+// Each file call of each operation is made to fail, and the power is cut after each call. Whatever happens: every file
+// holds its old or its new bytes, the old content of the working set is in its files or in copies, nothing else is left
+// over, the user's work is on the screen or on the disk, and the next operation succeeds.
 #include "desk_in_memory.h"
 #include "output/obraz_gry.h"
 #include "stage/archiwum.h"
@@ -14,14 +14,14 @@ namespace dorva::test {
 namespace {
 
 const std::string ETAP_1 = at("praca/ETAPY/DETAP.1"), ETAP_2 = at("praca/ETAPY/DETAP.2"),
-                  LINIE = at("praca/PLIKI/DP1.DTA"), XEX = at("praca/PLIKI/TEST.XEX"), WYBRANY = at("wybrany");
+                  LINIE = at("praca/PLIKI/DP1.DTA"), XEX = at("praca/PLIKI/TEST.XEX"), CHOSEN = at("chosen");
 
 struct Scenario {
     const char* name;
     void (*prepare)(); // changes to the disk before the start
     void (*run)(Edytor&);
-    std::vector<std::string> targets; // files that a run brings to their new bytes, in this order
-    bool replacesScreen = false;      // then a failing call may cost what it held
+    std::vector<std::string> targets; // files that get new bytes, in this order
+    bool replacesScreen = false;      // then a failing call may cost what was on it
 };
 
 std::ostream& operator<<(std::ostream& out, const Scenario& s) {
@@ -39,16 +39,16 @@ void removeTileSets() {
 }
 
 void makeArchive() {
-    disk.put(WYBRANY, sampleArchiwum());
+    disk.put(CHOSEN, sampleArchiwum());
     damageTwo();
 }
 
 void makeStage() {
-    disk.put(WYBRANY, sampleEtap(9));
+    disk.put(CHOSEN, sampleEtap(9));
 }
 
 void makeOther() {
-    disk.put(WYBRANY, {1, 2, 3});
+    disk.put(CHOSEN, {1, 2, 3});
 }
 
 void startAgain(Edytor& e) {
@@ -66,11 +66,11 @@ const std::vector<Scenario> SCENARIOS{
     {"Switch", nothing, [](Edytor& e) { SelectEtapNR(e, 1); }, {ETAP_1}},
     {"SwitchToADamagedFileAndOn", damageTwo, visitTwoAndThree, {ETAP_1}},
     {"Load", makeStage, cmdLoad_Click, {}, true},
-    {"Save", makeOther, cmdSave_Click, {WYBRANY}},
+    {"Save", makeOther, cmdSave_Click, {CHOSEN}},
     {"Clear", nothing, cmdCzysc_Click, {}, true},
-    {"ArchiveSave", makeOther, cmdSaveArch_Click, {ETAP_1, WYBRANY}},
+    {"ArchiveSave", makeOther, cmdSaveArch_Click, {ETAP_1, CHOSEN}},
     {"ArchiveLoad", makeArchive, cmdLoadArch_Click, {ETAP_2, LINIE}, true},
-    {"GameBuild", makeOther, cmdCreate_Click, {ETAP_1, WYBRANY, XEX}},
+    {"GameBuild", makeOther, cmdCreate_Click, {ETAP_1, CHOSEN, XEX}},
     {"TestBuild", nothing, cmdTest_Click, {XEX}},
     {"Exit", nothing, Form_QueryUnload, {ETAP_1, LINIE}},
     {"ExitAfterAnEarlyEndOfStart", removeTileSets, Form_QueryUnload, {ETAP_1, LINIE}},
@@ -105,7 +105,7 @@ bool isIn(const Files& files, const std::string& name, const Bajty& bytes) {
 
 class Failures : public DeskInMemory, public ::testing::WithParamInterface<Scenario> {
 protected:
-    // A run without failures: what it makes of the disk, what it says, how many calls it takes.
+    // Runs without failures, to know the disk and the messages afterwards and the number of calls.
     void SetUp() override {
         open();
         before = disk.files();
@@ -124,7 +124,7 @@ protected:
         restart();
         cell(5, 5) = BOMBA;
         work = packed(e.okno);
-        chosen = root / "wybrany";
+        chosen = root / "chosen";
         shown.clear();
         disk.unsure.clear();
     }
@@ -133,12 +133,12 @@ protected:
     bool isNew(const Files& now, const std::string& name) {
         return now.contains(name) && isIn(after, name, now.at(name));
     }
-    // Whether what a replaced file held is still there; no one asked to keep a file that the user chose, or the test.
+    // Whether the old content of a file is still there. Only files of the working set are kept.
     bool isKept(const Files& now, const std::string& name) {
-        return name == WYBRANY || name == XEX || before.at(name).empty() || holds(now, name, before.at(name));
+        return name == CHOSEN || name == XEX || before.at(name).empty() || holds(now, name, before.at(name));
     }
-    // Whether a copy holds what its file held, or what a run without failures copies; in a copy of the whole game a
-    // stage that could not be read is an empty one.
+    // Whether a copy holds what its file held, or what a run without failures copies. A copy of the whole game may
+    // differ: a stage that could not be read is a default one in it.
     bool isRightCopy(const std::string& name, const Bajty& bytes) {
         return isCopy(name) &&
                (isIn(before, fileOf(name), bytes) || holds(after, name, bytes) || bytes.size() == ARCHIWUM_SIZE_BYTES);
@@ -161,7 +161,7 @@ protected:
         }
     }
 
-    // Runs the operation with one failing call, then once more without, then leaves the program.
+    // Runs the operation with one failing call, then again without one, and then ends the program.
     void expectNothingLost(const Failure& plan) {
         open();
         disk.failure = plan;
@@ -189,7 +189,7 @@ protected:
         EXPECT_TRUE(s.replacesScreen || isWorkSafe());
     }
 
-    // The next start on a disk: it works, and with a visit of stages and the exit it loses nothing.
+    // A start on this disk succeeds, and nothing is lost by it, by visiting stages and by the exit.
     void expectGoodStart(const Files& files) {
         disk = {};
         for (const auto& [name, bytes] : files)
@@ -205,7 +205,7 @@ protected:
             EXPECT_TRUE(bytes.empty() || isTemporary(name) || holds(disk.files(), name, bytes)) << name;
     }
 
-    // The power goes now.
+    // Cuts the power at this moment: every state in which the disk may be is a good one.
     void expectEveryCutWhole() {
         constexpr std::size_t UNSURE_MAX = 5; // the states would double with each
         ASSERT_LT(disk.unsure.size(), UNSURE_MAX) << "names whose folder was never flushed";
@@ -218,7 +218,7 @@ protected:
         disk = now;
     }
 
-    // A call that changes the disk, with a look at it afterwards.
+    // Makes a call that changes the disk, and cuts the power after it.
     template <auto Call, class... Args> static Result watched(Args... args) {
         const Result result = (memoryCalls()->*Call)(args...);
         if (!HasFailure() && ++running->changes % running->step == 0)
@@ -231,7 +231,7 @@ protected:
     Files before, after;
     std::vector<std::string> said;
     int callCount = 0, changes = 0, cuts = 0;
-    int step = 1; // the 32 stages of an archive go the same way, so a prime step meets each call for one of them
+    int step = 1; // an archive has the same calls for each of 32 stages, so a prime step meets every kind of call
     inline static Failures* running = nullptr;
 };
 
