@@ -1,5 +1,5 @@
-// Speed of the logic. Each operation stands beside its baseline: the plain work that it can't do without.
-// BM_X has its baseline in BM_XPlain, and scripts/bench.sh sets the ratio of the two beside its aim.
+// Speed of the logic. Each benchmark BM_X has a baseline BM_XPlain: the plain work that it can't do without.
+// scripts/bench.sh prints the ratio of the two beside its aim.
 #include "board/census.h"
 #include "board/plansza.h"
 #include "output/obraz_gry.h"
@@ -92,7 +92,7 @@ void plainCopy(const fs::path& path, Bajty& bytes, int number) {
     plainFlush(folder);
 }
 
-// The benchmarks go on for longer than anyone works: before the copies get more than they can be, they go.
+// Removes the copies now and then: a benchmark would make far more of them than a user ever has.
 void forgetCopies(benchmark::State& state, const fs::path& base, int round) {
     constexpr int ROUNDS = 100;
     if (round % ROUNDS != 0)
@@ -103,7 +103,7 @@ void forgetCopies(benchmark::State& state, const fs::path& base, int round) {
     state.ResumeTiming();
 }
 
-// Counts a board of 800 bytes by code, as plainly as can be.
+// Counts a board of 800 bytes by code, in the plainest way.
 void plainCount(const Bajty& board) {
     std::array<int, 256> bins{};
     for (Bajt b : board)
@@ -155,7 +155,7 @@ void BM_Stroke(benchmark::State& state) {
 }
 BENCHMARK(BM_Stroke);
 
-// Two counts of the board (each way ends in one) and the copying of the image.
+// Packing and unpacking each end with a count of the board; in between the image is copied.
 void BM_PackUnpackPlain(benchmark::State& state) {
     const Praca praca;
     const Bajty board = codesOf(praca.e);
@@ -178,7 +178,7 @@ void BM_PackUnpack(benchmark::State& state) {
 }
 BENCHMARK(BM_PackUnpack);
 
-// So that the stage differs from what its file holds.
+// Makes the stage differ from its file.
 void paint(Edytor& e, int round) {
     e.okno.imgPG[100 + round % 200].znak = znak(2 + round % 40);
 }
@@ -206,14 +206,14 @@ void BM_Switch(benchmark::State& state) {
 }
 BENCHMARK(BM_Switch)->UseRealTime();
 
-// The bare system calls of a whole operation: which files it must read and write, in its order.
+// The bare system calls of whole operations: the files that each must read and write, in order.
 struct Wywolania {
     Praca praca;
     Bajty etap = Bajty(ETAP_SIZE_BYTES), autor = Bajty(AUTOR_GRY_SIZE_BYTES), gra = Bajty(GRA_SIZE_BYTES);
     Bajty archiwum = Bajty(ARCHIWUM_SIZE_BYTES);
     int round = 0; // of the copies
 
-    // Writes back what has changed: it is read, copied, replaced.
+    // Replaces a changed stage: its file is read, copied and written.
     void replaceEtap(int number) {
         readEtap(number);
         plainCopy(sciezki::etap(praca.base, number), etap, round);
@@ -238,7 +238,7 @@ struct Wywolania {
 void BM_GameBuildPlain(benchmark::State& state) {
     Wywolania w;
     for (auto _ : state) {
-        w.readEtap(1); // what is about to be overwritten, and is the same
+        w.readEtap(1); // to see that it needn't be written
         w.readTemplate();
         w.everyEtap(&Wywolania::readEtap);
         w.writeChosen(w.gra);

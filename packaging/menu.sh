@@ -10,8 +10,8 @@ case ${1-} in
 esac
 
 mkdir -p "$(dirname "$wpis")"
-# Two levels of quoting: in a desktop entry's string a backslash is doubled, in a quoted argument of Exec the
-# characters " ` $ \ take one, and % is doubled.
+# Two levels of quoting: in a string of a desktop entry a backslash is doubled; in a quoted argument of Exec the
+# characters " ` $ \ get a backslash in front, and % is doubled.
 napis=$(printf %s "$PWD" | sed 's/\\/\\\\/g')
 program=$(printf %s "$PWD" | sed 's/[\\"`$]/\\&/g; s/\\/\\\\/g; s/%/%%/g')
 cat >"$wpis" <<KONIEC

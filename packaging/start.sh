@@ -2,13 +2,13 @@
 # Uruchamia Planszownik, a jeśli się nie da, mówi dlaczego.
 cd "$(dirname "$0")" || exit 1
 
-odmow() { # a message that is seen, also where no terminal is open; in letters that every X font has
+odmow() { # shows a message even if no terminal is open, in letters that every X font has
     echo "$1" >&2
     for okno in "zenity --warning --title=Planszownik --text" "kdialog --title Planszownik --sorry" "xmessage -center"; do
         # shellcheck disable=SC2086
         command -v "${okno%% *}" >/dev/null 2>&1 || continue
         $okno "$1"
-        break # the first of them that there is; how its window was closed doesn't matter
+        break # one of these programs is enough, however its window was closed
     done
     exit 1
 }

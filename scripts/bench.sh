@@ -1,14 +1,14 @@
 #!/bin/bash
-# Speed and size in one table: each figure beside the baseline of the same run, their ratio and its aim.
-# Benchmarks X and XPlain take turns; the medians of their repetitions are compared. Times in microseconds.
+# Prints speed and size in one table: each figure, the baseline from the same run, their ratio and its aim.
+# Benchmarks X and XPlain take turns; the medians of their repetitions are compared. Times are in microseconds.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh build tests python3 valgrind
 cmake --preset release >/dev/null
 cmake --build --preset release >/dev/null
 scripts/lay.sh build/release
-export QT_LOGGING_RULES='*=false' TMPDIR=${TMPDIR:-/var/tmp} # a disk, where flushing counts
-bench=build/release/bench results=build/release/wyniki.json
+export QT_LOGGING_RULES='*=false' TMPDIR=${TMPDIR:-/var/tmp} # on a disk, where flushing takes time
+bench=build/release/bench results=build/release/results.json
 
 compare() { # compare PROGRAM [FIGURE=AIM...]
     "$1" --benchmark_repetitions=15 --benchmark_min_time=0.05 --benchmark_enable_random_interleaving=true \
@@ -29,7 +29,7 @@ for name in micros:
 END
 }
 
-# Instructions up to the first frame, which nothing else on the machine can disturb.
+# Counts the instructions until the first frame. Unlike the time, they don't depend on what else the machine does.
 count_start() {
     printf 'instructions to first frame, in millions:'
     for mode in editor text bare; do

@@ -1,6 +1,6 @@
 #!/bin/bash
-# The checks that take longer than the test suite, a line each; a step that fails shows the end of its log
-# (build/checks). With the names of steps only those: scripts/checks.sh coverage play
+# Runs the checks that take longer than the test suite, and prints a line for each. A step that fails also shows the end
+# of its log (build/checks). With names of steps it runs only those: scripts/checks.sh coverage play
 # shellcheck disable=SC2317 # the steps are called by their names
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit
@@ -20,7 +20,7 @@ export QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*=false'
 logs=build/checks
 mkdir -p $logs
 
-# Builds all, and runs a command if what it needs came out of that; what could not be installed is left out, and said so.
+# Builds everything and runs a command. Says that it is skipped if a file that it needs can't be built here.
 with_built() { # with_built FILES COMMAND...
     cmake --preset release && cmake --build --preset release || return
     for file in $1; do
@@ -30,7 +30,7 @@ with_built() { # with_built FILES COMMAND...
 }
 window=src/qt/planszownik game=data/PLIKI/DP2.DTA
 
-# Each step is a function; what it says in its line is the end of its log, or what summary_STEP takes from it.
+# Each step is a function. Its line ends with the last line of its log, or with what summary_STEP takes from it.
 
 format() {
     find src tests bench game packaging \( -name '*.cpp' -o -name '*.h' -o -name '*.c' \) -print0 |
@@ -41,8 +41,8 @@ shell() {
     shellcheck -x scripts/*.sh packaging/*.sh tests/*.sh data/PLIKI/DP3.BAT .ci/run
 }
 
-# An include only points down, and within a floor never in a circle; a .cpp and its .h are one file. What knows of
-# Edytor, be it by another file, is an operation and stands above it.
+# Includes only point down and form no circle; a .cpp and its .h count as one file. Whatever includes edytor.h, even
+# through other files, is an operation and is above it.
 floors() {
     python3 - <<'END'
 import graphlib, pathlib, re
@@ -73,7 +73,7 @@ summary_sanitizers() { grep 'tests passed' "$1"; }
 # The logic and its tests without Qt, and the branches of the source that they reach.
 coverage() {
     local build=build/coverage pure=(src/stage src/board src/tiles src/output)
-    local tests=$build/tests/dorva_tests profile=$build/testy.profdata
+    local tests=$build/tests/dorva_tests profile=$build/tests.profdata
     cmake --preset coverage && cmake --build --preset coverage --target dorva_tests || return
     rm -f "$build"/*.profraw
     LLVM_PROFILE_FILE=$PWD/$build/%p.profraw "$tests" --gtest_brief || return
@@ -83,7 +83,7 @@ coverage() {
     report "${pure[@]}" | awk -v aim=95 '/^TOTAL/ { print "lines " $7 ", branches " $10; exit $10 + 0 < aim }'
 }
 
-findings() { # not in what another system's compiler builds, nor where Qt is missing
+findings() { # without the sources for Windows, and without the window if there is no Qt
     cmake --preset clang && cmake --build --preset clang --target dorva_swiaty || return
     find src game/tools packaging -name '*.cpp' ! -name '*_windows.cpp' |
         { if grep -q src/qt/main build/clang/compile_commands.json; then cat; else grep -v -e src/qt -e packaging; fi; } |

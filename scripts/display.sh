@@ -1,5 +1,5 @@
-# display.sh: for scripts that use the program by mouse and keys, read by them: a room for temporary files, a display of
-# their own, the program's window on it, and where its parts stand. What they start is ended with them.
+# display.sh: sourced by scripts that use the program by mouse and keys. Gives them a folder for temporary files, a
+# display of their own, the program's window on it, and the places of its controls. Ends what they start when they end.
 # shellcheck shell=sh disable=SC2034
 
 for tool in Xvfb openbox xdotool; do
@@ -35,13 +35,13 @@ open_display() { # open_display WIDTH HEIGHT
     DISPLAY=:$(cat "$room/display")
     export DISPLAY
     unset QT_QPA_PLATFORM
-    openbox >/dev/null 2>&1 & # focus by Tab, closing by keys
+    openbox >/dev/null 2>&1 & # for keyboard focus and for closing by key
     servers="$! $servers"
     sleep 1
 }
 
-# Starts the editor: editor is its process, window its window. Another window that closes meanwhile ends a search with an
-# error.
+# Starts the editor, and sets $editor to its process and $window to its window. A search ends with an error if another
+# window closes in the meantime.
 start() { # start COMMAND...
     "$@" &
     editor=$!
@@ -54,7 +54,7 @@ start() { # start COMMAND...
     sleep 1
 }
 close() {
-    for _ in $(seq 20); do # a key gets lost where the window hasn't the focus yet
+    for _ in $(seq 20); do # a key is lost if the window doesn't have the focus yet
         xdotool windowactivate "$window" sleep 0.5 key alt+F4 sleep 0.5 2>/dev/null || break
     done
     ! xdotool getwindowname "$window" >/dev/null 2>&1 || fail "the window closes"
@@ -62,7 +62,7 @@ close() {
     editor=''
 }
 
-# Where controls are pressed, in pixels: free of the text in boxes.
+# Where to press controls, in pixels; in text boxes beside the text.
 places='
 optEtapNR(0) 37 32       optEtapNR(1) 37 48       optObiektyNR(0) 776 32   optObiektyNR(1) 816 32
 optObiektyNR(2) 856 32   lblKolor(0) 840 110      lblKolor(4) 852 175      cmdCzysc 816 373
@@ -73,7 +73,7 @@ press() { # press CONTROL
     # shellcheck disable=SC2046 # two words: x and y
     click $(echo "$places" | xargs -n 3 | sed -n "s/^$1 //p")
 }
-# Board cells of 16 from 96, 16; picker slots of 32 from 168, 472.
+# Board cells are 16 pixels wide and begin at 96, 16; picker slots are 32 wide and begin at 168, 472.
 point() { xdotool mousemove --window "$window" "$1" "$2"; sleep 0.15; }
 click() { point "$1" "$2"; xdotool click 1; sleep 0.35; }
 point_cell() { point $((96 + 16 * $1 + 8)) $((16 + 16 * $2 + 8)); } # COLUMN ROW

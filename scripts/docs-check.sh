@@ -9,7 +9,7 @@ room=$(mktemp -d)
 trap 'rm -rf "$room"' EXIT
 scripts/lay.sh build/release "$room/folder"
 
-# Every example is a block of its own: the command, then what it prints.
+# An example is a block that starts with the command; the rest is what it prints.
 awk -v folder="$room/folder" '
     /^\$ od / { print; fflush(); system("cd \"" folder "\" && " substr($0, 3)); printed = 1 }
     /^```/ { printed = 0 }

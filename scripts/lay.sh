@@ -1,8 +1,8 @@
 #!/bin/sh
-# lay.sh BUILD [FOLDER]: lays the program folder, planszownik/ of the checkout, from a build.
-# Title lines and stages belong to the user: they are laid where they are missing, the stages only as a whole. Everything
-# else is renewed where the build's file is newer and differs; what it replaces is kept under a number (NAME.~1~), the
-# executable excepted. A symbolic link is left alone. A copy gets its name last, so nothing is ever half there.
+# lay.sh BUILD [FOLDER]: copies what a build has made into the program folder, planszownik/ in the checkout.
+# Title lines and stages belong to the user: they are copied only if they are missing, the stages only as a whole.
+# Any other file is replaced if the build's is newer and differs; the old one is kept under a number (NAME.~1~), except
+# for the executable. Symbolic links are left alone. A copy gets its name last, so an interrupted run leaves no half.
 set -eu
 
 cd "$(dirname "$0")/.."

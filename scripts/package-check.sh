@@ -1,6 +1,6 @@
 #!/bin/sh
 # package-check.sh [ARCHIVE]: unpacks the package into a folder with spaces and Polish letters in its name, starts, uses
-# and closes the program, and unpacks it again over the work, of which nothing may be lost. A zip is run under Wine.
+# and closes the program, and unpacks it again over the user's work. Nothing may be lost. A zip is run under Wine.
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -29,7 +29,7 @@ folder=$(echo "$place"/dorva-planszownik-*)
 expect "nothing that a user works on stands at its place" all absent
 expect "the game template does" [ -f "$folder/PLIKI/DP2.DTA" ]
 
-mkdir "$folder/ETAPY.nowe" # a first start that broke off
+mkdir "$folder/ETAPY.nowe" # left by a first start that was interrupted
 cp "$folder/wzorzec/ETAPY/DETAP.1" "$folder/ETAPY.nowe/DETAP.33"
 run
 close

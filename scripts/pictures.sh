@@ -1,12 +1,12 @@
 #!/bin/bash
-# pictures.sh: takes docs/obrazy/okno*.png anew from the running program, through a stage painted as the guide's first
-# ten minutes tell. Needs a build, Xvfb, openbox, xdotool and ImageMagick.
+# pictures.sh: takes the pictures docs/obrazy/okno*.png again from the running program, while it paints the stage of the
+# guide's first ten minutes. Needs a build, Xvfb, openbox, xdotool and ImageMagick.
 set -eu
 
 cd "$(dirname "$0")/.."
 . scripts/display.sh
 shop=/tmp/Planszownik # the path is in a picture
-mkdir "$shop"         # one that is there already is somebody else's
+mkdir "$shop"         # fails if it exists: then it is somebody else's
 trap 'finish; rm -rf "$shop"' EXIT
 scripts/lay.sh build/release "$shop/planszownik"
 
@@ -40,7 +40,7 @@ slot 0 1                # MASKA
 cell 12 5 && cell 24 11 && cell 28 13
 slot 6 0 && drag 24 12 27 12
 slot 8 0 && drag 5 4 7 4
-press "lblInfo(2)" # as many as there are: the goal
+press "lblInfo(2)" # makes the number of masks the goal
 press txtNazwa
 xdotool type --delay 60 'mój pierwszy etap'
 xdotool key Tab

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""play-check.py [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory. Says so
-and ends well where there is no emulator. --pictures: also renews docs/obrazy/gra-*.png and etap-*.png (needs Xvfb and
-ImageMagick)."""
+"""play-check.py [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory. Without
+the emulator it says so and ends with success. --pictures: also takes docs/obrazy/gra-*.png and etap-*.png again (needs
+Xvfb and ImageMagick)."""
 import os
 import re
 import shutil
@@ -27,7 +27,7 @@ BOARD, DORVA = 800, 63
 address = {}  # of each label of the game
 for line in (build / "game/src/szablon.lbl").read_text().splitlines():
     address.setdefault(line.split()[2][1:], int(line.split()[1], 16))
-field = {name: int(offset)  # where the fields of a stage record stand
+field = {name: int(offset)  # offsets of the fields of a stage record
          for name, offset in re.findall(r"^ETAP_(\w+) *= *(\d+)", Path("game/src/rekord.inc").read_text(), re.M)}
 stages = {number: (data / f"ETAPY/DETAP.{number}").read_bytes() for number in range(1, 33)}
 temporary = TemporaryDirectory()
@@ -50,13 +50,13 @@ def frames(token):
     return "".join(f"{line} \n" for line in frame) * int(count)
 
 def run_of(stage):
-    """The recorded run, its steps as taps of two frames in six. Its first move also ends the greeting, so it takes a
-    frame more than in the rules."""
+    """The recorded run of a stage: a step is a tap of two frames, then four frames of rest. The first move takes a frame
+    more than in the rules, since it also ends the greeting."""
     steps = Path(f"tests/gra/przejscia/etap{stage}.txt").read_text().split("\n", 1)[1].split()
     return "".join(f"{step[0]}2 -4 " * int(step[1:]) for step in steps).replace("2", "3", 1)
 
-# Commands to the emulator's monitor; a label stands for going on until the game comes there.
-label_at = {}  # where games were told to stop
+# Commands to the emulator's monitor. A label of the game means: go on until the program gets there.
+label_at = {}  # the labels at which games stop, by address
 
 def until(label, go_on="CONT"):
     label_at[address[label]] = label
@@ -71,7 +71,7 @@ def enter(stage):  # where a game has stopped at graj_etap
 Played = namedtuple("Played", "stops dumps log")  # where the game stopped, pieces of its memory, the monitor's words
 
 def play(file, tokens, commands, *machine, shown=False):
-    """Runs a game with recorded input, on a 130XE unless another is given: as fast as it goes, or shown."""
+    """Runs a game with recorded input: as fast as possible, or shown. The machine is a 130XE unless another is given."""
     folder = Path(mkdtemp(dir=temporary.name))
     recording = "Atari800 event recording, version: 1\n10387\n" + "".join(map(frames, tokens.split()))
     (folder / "input").write_text(recording)
@@ -89,7 +89,7 @@ def play(file, tokens, commands, *machine, shown=False):
     return Played(stops, defaultdict(bytes, {path.name: path.read_bytes() for path in folder.iterdir()}), log)
 
 def test_build(record):
-    """A game as a test build makes it: the stage in the place of stage 1, marked as the last."""
+    """A game like the one that a test build makes: the stage replaces stage 1 and is marked as the last one."""
     folder = Path(mkdtemp(dir=temporary.name))
     (folder / "etap").write_bytes(record)
     texts = ["Żółty Atarowiec", "", "TEST ETAPU"]
@@ -107,14 +107,14 @@ def title_lines(file):
 def shown_lines(played):
     return [played.dumps["ekran"][40 * row + 8:][:24] for row in (1, 3, 5)]
 
-# Each check yields what it looked at, what was there and what should be.
+# Each check yields what it looked at, what it found and what it expects.
 
 def title():
     played = play(game, TO_GAME, ["wcisniete", dump("ekran", 600)])
     yield "the title shows its three lines at their start columns", shown_lines(played), title_lines(game)
 
 def all_runs(system):
-    """The whole game in one go. Each stage waits for the stick, so the time in between may be ample."""
+    """The whole game in one go. A stage waits for the stick, so there may be any time between two."""
     commands = []
     for stage in stages:
         commands += ["graj_etap", "otworz", dump("brak_masek", 1, stage), "policz_premie",
@@ -178,14 +178,14 @@ def choice():
            (bytes([32]), bytes([1])))
 
 def overlay():
-    """In each world the two players lie over the heroine's cell and nowhere else."""
+    """In each world the two players cover the heroine's cell and nothing else."""
     commands = ["wcisniete", f"BPC {address['graj_etap']:X}"]
     for world in range(3):
         first = min(stage for stage in stages if stages[stage][field["SWIAT"]] == world)
         commands += [enter(first), "GTIA", "ANTIC", dump("gracz0", 512, world), dump("dorva_x", 1, world),
                      dump("dorva_y", 1, world)]
     played = play(game, "-9000", [*commands, dump("lista_planszy", 12)])
-    # The board's first scan line: the picture begins at line 8, and the lines of the display list in front of it.
+    # The board's first scan line: the picture begins at line 8, then come the lines in front of the board.
     top, instructions = 8, iter(played.dumps["lista_planszy"])
     while (instruction := next(instructions)) % 16 != 4:
         if instruction % 16 == 0:
@@ -232,7 +232,7 @@ def empty_board():
     yield "a board without a heroine: a word, then the title", played.stops, ["ekran_bez_dorvy", "rysuj_tytul"]
 
 def any_bytes():
-    """Stages of 931 bytes as they come, but for the heroine: the game lives and still takes ESC."""
+    """Stages of 931 random bytes and a heroine: the game goes on running and takes ESC."""
     for seed in 1, 2, 3:
         x, record = seed, bytearray()
         for _ in range(field["BAJTY"]):
@@ -243,7 +243,7 @@ def any_bytes():
         yield f"any bytes are a stage ({seed})", played.stops, ["ekran_konca", "wcisniete"]
 
 def pace(system):
-    """Boards full of what takes longest: no tick may outlast its frame."""
+    """Boards full of what takes longest: no tick may take longer than its frame."""
     for full in ([36, 37, 38, 39, 3, 0], [54, 14, 23, 24, 17], [18, 40, 41, 42, 24, 0], [24, 25, 35, 8, 1],
                  [43, 44, 45, 46, 19, 20, 0], [55, 0]):
         board = bytearray(full[(i * i + i * 7) % 31 % len(full)] for i in range(BOARD))
@@ -267,7 +267,7 @@ def machines():
         played = play(game, f"{TO_GAME} -60", ["wcisniete", "graj_etap", dump("plansza", BOARD)], machine)
         yield (f"stage 1 is there on a larger machine ({machine})", played.dumps["plansza"],
                part(stages[1], "PLANSZA", BOARD))
-    yield "a machine of 64 KB is told what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
+    yield "a machine of 64 KB shows what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
 
 CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (overlay,), (only_stage,),
           (all_stages,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
@@ -276,7 +276,7 @@ CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), 
 # Pictures for the documents.
 
 def look(name):
-    """Lets the game go on and takes a picture a second later."""
+    """Takes a picture a second later, while the game goes on."""
     return f"!(sleep 1; import -window root -crop 672x480+0+0 +repage {temporary.name}/{name}.png) &"
 
 def keep(*names):

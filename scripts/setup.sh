@@ -1,7 +1,7 @@
 #!/bin/sh
-# setup.sh PACKAGE...: says which of the Debian packages this machine lacks, and installs them. "build" stands for what
-# building the program needs, "tests" for what tests and benchmarks need besides. Where that can't be done, the caller
-# goes on with what can be done without.
+# setup.sh PACKAGE...: says which of these Debian packages are missing, and installs them. "build" stands for what
+# building the program needs, "tests" for what tests and benchmarks need in addition. If they can't be installed, the
+# caller goes on without them.
 set -u
 
 packages=

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Installs what is missing, builds everything, lays the program folder and runs the whole test suite. Needs no display.
+# Installs what is missing, builds everything, fills the program folder and runs the whole test suite. Needs no display.
 set -eu
 
 cd "$(dirname "$0")/.."

@@ -1,8 +1,8 @@
 #!/bin/bash
-# windows-check.sh: the Windows zip under Wine. The window's tests; then the program as a user has it, out of the zip and
-# in a folder with Polish letters, and the Linux program beside it: the same strokes, texts, dialogs and builds must make
-# the same files, byte for byte. Pictures of what is seen lie in build/windows/obrazy afterwards.
-# Called by windows.sh, which sets up Wine and has let package-check.sh look at what the zip lays.
+# windows-check.sh: tries the Windows zip under Wine. First the window's tests; then the program from the zip, in a
+# folder with Polish letters, beside the Linux program: the same strokes, texts, dialogs and builds must make the same
+# files, byte for byte. Leaves screenshots in build/windows/obrazy.
+# Called by windows.sh, which has set up Wine and run package-check.sh.
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -11,7 +11,7 @@ pictures=$PWD/build/windows/obrazy
 mkdir -p "$pictures"
 . scripts/display.sh
 
-# What the executable brings along.
+# The libraries that the executables need.
 folder="$room/Dorva - moja łódź"
 mkdir "$folder"
 unzip -q "$zip" -d "$folder"
@@ -20,7 +20,7 @@ imports() { x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/^.*DLL Name: //p'; }
 all_libraries_come() {
     local file name
     for file in "$folder"/*.exe "$folder"/*.dll "$folder"/platforms/*.dll; do
-        for name in $(imports "$file" | grep -v '^api-ms-win-'); do # names of sets of the system's own calls
+        for name in $(imports "$file" | grep -v '^api-ms-win-'); do # these stand for the system's own libraries
             [ -f "$folder/$name" ] || find /usr/lib/*/wine -iname "$name" | grep -q . ||
                 { echo "$file needs $name"; return 1; }
         done
@@ -32,9 +32,9 @@ expect "no console" eval "x86_64-w64-mingw32-objdump -p '$folder/planszownik.exe
 open_display 1920 1360 # room for twice the size
 setxkbmap pl
 
-# The window's tests, with the zip's own libraries. One is about the list in Qt's own file dialog, which isn't used there.
+# Runs the window's tests with the libraries of the zip, except the one for Qt's own file dialog, which isn't used there.
 run_tests() {
-    local place="$room/testy"
+    local place="$room/tests"
     mkdir "$place"
     cp -r "$folder"/*.dll "$folder/platforms" "$folder/qt.conf" build/windows/tests/qt/*.exe \
         "$QT_WINDOWS/bin/Qt6Test.dll" "$place"
@@ -45,7 +45,7 @@ run_tests() {
 start_windows() { start wine "$folder/planszownik.exe"; sleep 1; }
 picture() { import -window "$1" "$pictures/$2.png"; }
 dialog() { # dialog TITLE: waits for it
-    for _ in $(seq 40); do # a window that closes meanwhile ends a search of xdotool's own patience
+    for _ in $(seq 40); do # not by xdotool's own waiting: a window that closes in the meantime would end it
         xdotool search --onlyvisible --name "$1" >/dev/null 2>&1 && sleep 1 && return
         sleep 0.5
     done
@@ -87,7 +87,7 @@ work() { # work PICTURE_PREFIX
     sleep 1
 }
 
-set_dpi() { # holds for what is started from now on
+set_dpi() { # for programs that start from now on
     wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null
     wineserver -w
 }
@@ -127,7 +127,7 @@ wait "$editor" || true
 editor=''
 expect "the end of the session stores the stage" eval "! cmp -s '$room/before' '$folder/ETAPY/DETAP.1'"
 
-# Killed while it goes to and fro between stages and stores them; what is left over is swept by a start an hour later.
+# Kills the program while it switches between stages and stores them. A start an hour later removes what is left over.
 cp -r "$folder/ETAPY" "$room/stages"
 for moment in 0.2 0.4 0.6 0.8; do
     start_windows
@@ -138,7 +138,7 @@ for moment in 0.2 0.4 0.6 0.8; do
     kill -9 "$editor"
     wait "$editor" "$keys" || true
     editor=''
-    sleep 0.5 # its window goes
+    sleep 0.5 # until its window is gone
     expect "a kill leaves whole stages" diff -r -x '*.dp-tmp' -x KOPIE "$room/stages" "$folder/ETAPY"
     find "$folder" -name '*.dp-tmp' -exec touch -d '61 minutes ago' {} +
 done

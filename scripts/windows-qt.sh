@@ -1,6 +1,6 @@
 #!/bin/sh
-# windows-qt.sh FOLDER: builds Qt for Windows into it, once, from Debian's own source package. Only what the window
-# (core, gui, widgets) and its tests (testlib) need; shared libraries. Roughly an hour on two cores.
+# windows-qt.sh FOLDER: builds Qt for Windows into the folder, once, from Debian's own source package. Builds only what
+# the window (core, gui, widgets) and its tests (testlib) need, as shared libraries. Takes about an hour on two cores.
 set -eu
 
 target=$1
@@ -11,7 +11,7 @@ rm -rf "$work" "$target"
 mkdir -p "$work/lists/partial" "$work/archives/partial"
 as_root=$([ "$(id -u)" = 0 ] || echo sudo)
 
-# The source package comes from the mirror that this system uses, through a list of its own.
+# Gets the source package from the mirror that this system uses, without changing the system's lists.
 $as_root apt-get update -qq
 # shellcheck disable=SC2016
 apt-get indextargets --format 'deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $(REPO_URI) $(RELEASE) $(COMPONENT)' \
@@ -25,7 +25,7 @@ apt-get $own_list update -qq
 apt-get $own_list source -qq qt6-base/bookworm
 source=$(echo qt6-base-*/)
 
-# directwrite can't be linked without direct2d; letters are drawn by freetype.
+# directwrite can't be linked without direct2d. Freetype draws the letters.
 off=
 for feature in network sql dbus xml concurrent printsupport vulkan direct2d directwrite directwrite3 icu zstd glib \
     system_zlib pkg_config tabletevent jpeg gif ico textmarkdownreader textmarkdownwriter textodfwriter; do

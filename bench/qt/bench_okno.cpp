@@ -1,5 +1,5 @@
-// The window at work beside the barest widget that does the same: a stroke until its repaint has finished,
-// and a change of world. A benchmark X has its baseline in XPlain. Needs DORVA_DATA, the built data tree.
+// The window at work: a stroke until its repaint has finished, and a change to another world. Each benchmark X has a
+// baseline XPlain, the barest widget that does the same. DORVA_DATA is the built data tree.
 #include "edytor.h"
 #include "qt/aplikacja.h"
 #include "qt/okno_glowne.h"
@@ -109,7 +109,7 @@ void BM_OknoStroke(benchmark::State& state) {
 }
 BENCHMARK(BM_OknoStroke)->UseManualTime();
 
-// A bare widget that paints one finished picture of the board's size.
+// A bare widget that paints one picture of the board's size.
 void BM_OknoSwiatPlain(benchmark::State& state) {
     class Obraz : public QWidget {
         QImage image{BOARD, QImage::Format_RGB32};

@@ -1,6 +1,6 @@
-// Start-up to the first painted frame: the editor with its whole working folder beside a bare window of the
-// same size, and beside the same with one line of text, since the first letter brings the whole font system
-// in. Each run is a process of its own; the three take turns.
+// Start-up until the first frame is painted: the editor with its whole working folder, a bare window of the same size,
+// and such a window with one word, since the first letter loads the whole font system. Each run is a process of its
+// own; the three take turns.
 //
 //     dorva_bench_start FOLDER        FOLDER is a program folder, for example planszownik/
 #include "shell/start.h"
