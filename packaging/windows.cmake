@@ -1,13 +1,13 @@
-# The program's libraries, and what they want to be known.
+# The libraries that come with the program, and their licences.
 install(FILES $<TARGET_FILE:Qt6::Core> $<TARGET_FILE:Qt6::Gui> $<TARGET_FILE:Qt6::Widgets> DESTINATION ${FOLDER})
 install(FILES ${QT_WINDOWS}/plugins/platforms/qwindows.dll DESTINATION ${FOLDER}/platforms)
 install(FILES qt.conf DESTINATION ${FOLDER})
-foreach(biblioteka libgcc_s_seh-1 libstdc++-6 libwinpthread-1) # the compiler's own
-    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${biblioteka}.dll
-        OUTPUT_VARIABLE plik OUTPUT_STRIP_TRAILING_WHITESPACE)
-    execute_process(COMMAND ${CMAKE_STRIP} -o ${CMAKE_CURRENT_BINARY_DIR}/${biblioteka}.dll ${plik}
+foreach(library libgcc_s_seh-1 libstdc++-6 libwinpthread-1) # the compiler's own
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library}.dll
+        OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
+    execute_process(COMMAND ${CMAKE_STRIP} -o ${CMAKE_CURRENT_BINARY_DIR}/${library}.dll ${file}
         COMMAND_ERROR_IS_FATAL ANY)
-    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${biblioteka}.dll DESTINATION ${FOLDER})
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${library}.dll DESTINATION ${FOLDER})
 endforeach()
 
 configure_file(DP3-windows.BAT DP3.BAT @ONLY NEWLINE_STYLE CRLF)

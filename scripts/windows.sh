@@ -1,7 +1,7 @@
 #!/bin/sh
-# The Windows version, made on Debian 12: build/windows/dorva-planszownik-<version>-windows-x64.zip. Installs the tools,
-# builds Qt once into the user's cache (windows-qt.sh: roughly an hour), then the program.
-# --check: the logic's tests under Wine; where that Qt is there, also the zip, and all that Wine shows of it.
+# Makes the Windows version on Debian 12: build/windows/dorva-planszownik-<version>-windows-x64.zip. Installs the tools,
+# builds Qt once into the user's cache (windows-qt.sh: about an hour), then the program.
+# --check: runs the logic's tests under Wine; if that Qt is built already, also makes the zip and tries it under Wine.
 set -eu
 case $* in '' | --check) ;; *) echo "windows: no option $*; there is: --check" >&2 && exit 2 ;; esac
 
@@ -14,10 +14,10 @@ for tool in x86_64-w64-mingw32-g++-posix wine cmake; do
     command -v $tool >/dev/null || { echo "windows: skipped: $tool can't be installed here" && exit; }
 done
 
-# Wine for tests: a folder of its own, no window of its own, no word but the program's.
+# Wine for tests: with a folder of its own, without installation dialogs and without messages of its own.
 export WINEPREFIX="$PWD/$build/wine" WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
 libraries=$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)
-trap 'wineserver -k 2>/dev/null || true' EXIT # nothing of it goes on running
+trap 'wineserver -k 2>/dev/null || true' EXIT # so that nothing of it goes on running
 export WINEPATH="${libraries%/*};/usr/x86_64-w64-mingw32/lib"
 
 if [ $# = 0 ]; then
@@ -29,7 +29,7 @@ else
     [ -f "$QT_WINDOWS/ready" ] || { echo "the logic only: there is no Qt for Windows yet; scripts/windows.sh builds it" && exit; }
 fi
 scripts/run.sh --no-start
-cmake --build --preset release --target strony
+cmake --build --preset release --target pages
 cmake --preset windows -DQT_WINDOWS="$QT_WINDOWS"
 cmake --build --preset windows --target package
 [ $# = 0 ] || { scripts/package-check.sh $build/dorva-planszownik-*.zip && scripts/windows-check.sh; }

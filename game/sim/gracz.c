@@ -1,16 +1,17 @@
 /* The player of the stages, in the real rules:
-     gracz graj STAGE RUN     plays a recorded run; ends with 0 if she goes through the exit
-     gracz szukaj STAGE RUN   follows the plan of a run with care and prints the run anew
-     gracz smialek STAGE RUN  follows the plan without any fear, three lives long: prints lives lost, "tak" or "nie",
-   energy left
+     gracz play STAGE RUN      plays a recorded run; ends with 0 if Dorva goes through the exit
+     gracz search STAGE RUN    follows the plan of a run with care and prints a new run
+     gracz fearless STAGE RUN  follows the plan without any fear, with three lives: prints the lives lost, whether it
+                               got through ("yes" or "no"), and the energy left
 
-   STAGE is a stage file, RUN a text of two parts. Its first line is the plan, the rest its recording. Both consist of
-   letters with a count: `R12` is twelve steps to the right (L R U D), `F1` the trigger, `-3` waits three steps long. A
-   step is a tap of the stick, six ticks in all. A plan also knows `12,7`, go to column 12 of row 7, and `*`, take all
-   masks, keys and the torch within reach and go through the exit; every plan ends with such a one.
+   STAGE is a stage file, RUN a text whose first line is the plan; the rest is the recording. Both consist of letters
+   with counts: `R12` is twelve steps to the right (L R U D), `F1` the trigger, `-3` waits for three steps. A step is a
+   tap of the stick, six ticks in all. In a plan, `12,7` means: go to column 12 of row 7, and `*`: take all masks, keys
+   and the torch within reach and go through the exit. Every plan ends with `*`.
 
-   The careful player tries in the real rules what comes of going on; if that hurts, it tries to wait or to step aside
-   first and takes what hurts least. Nobody tells it where danger is, so a stage that it finishes can be finished. */
+   The careful player tries out, in the real rules, what happens if it goes on. If that hurts, it also tries to wait or
+   to step aside first, and does what hurts least. It knows nothing else of dangers, so a stage that it finishes can be
+   finished. */
 #include "reguly.h"
 #include <ctype.h>
 #include <fcntl.h>
@@ -18,85 +19,86 @@
 #include <string.h>
 #include <unistd.h>
 
-enum { PROBY = 6, KROKOW = 1500, CIERPLIWOSC = 150, DOTKNIECIE = 2, DALEKO = 0xFFFF, NIE = 255 };
-enum { RUCHOME = 61 };                            /* creatures and smoke: in the way now, gone tomorrow */
-enum { CZEKA = 4, SPUST = 5, WSZYSTKO = 0xFFFE }; /* CZEKA and SPUST follow the four directions */
-enum { POMYSLY = 32, CZEKANIA = 6, RUCHY = 3, SMIERC = 9000 };
-enum { DAWNIEJ = 4, CO_ILE = 10, POWROTY = 60 };
+enum { TRIES = 6, STEPS_MAX = 1500, PATIENCE = 150, TAP = 2, UNREACHED = 0xFFFF, NEVER = 255 };
+enum { MOVING = 61 };                                /* creatures and smoke: in the way now, but not for long */
+enum { WAIT = 4, TRIGGER = 5, EVERYTHING = 0xFFFE }; /* WAIT and TRIGGER follow the four directions */
+enum { IDEAS = 32, WAITS = 6, MOVES = 3, DEATH = 9000 };
+enum { EARLIER = 4, STEPS_APART = 10, RETURNS = 60 };
 
-/* What a cell costs to enter, by tile; NIE: not at all. Doors and the exit depend on more. */
-static const byte ceny[64] = {4,  4,   120, 4,   4,   NIE, NIE, NIE, 12,  NIE, NIE, 24,  4,   4,   4,   NIE,
-                              4,  NIE, NIE, 40,  40,  40,  40,  NIE, 61,  61,  61,  61,  61,  61,  61,  61,
-                              61, 61,  4,   100, 61,  61,  61,  61,  NIE, NIE, NIE, 40,  40,  40,  40,  40,
-                              40, 160, NIE, NIE, NIE, NIE, NIE, NIE, NIE, 4,   NIE, NIE, NIE, NIE, NIE, NIE};
-static const byte strach[4] = {60, 60, 30, 10}; /* by the distance to a creature */
+/* What a cell costs to enter, by tile; NEVER: it can't be entered. For doors and the exit see set_prices. */
+static const byte prices[64] = {
+    4,  4,     120,   4,     4,     NEVER, NEVER, NEVER, 12,    NEVER, NEVER, 24,    4,     4,     4,     NEVER,
+    4,  NEVER, NEVER, 40,    40,    40,    40,    NEVER, 61,    61,    61,    61,    61,    61,    61,    61,
+    61, 61,    4,     100,   61,    61,    61,    61,    NEVER, NEVER, NEVER, 40,    40,    40,    40,    40,
+    40, 160,   NEVER, NEVER, NEVER, NEVER, NEVER, NEVER, NEVER, 4,     NEVER, NEVER, NEVER, NEVER, NEVER, NEVER};
+static const byte fear[4] = {60, 60, 30, 10}; /* by the distance to a creature */
 
-static const int obok[4] = {-1, 1, -KOLUMNY, KOLUMNY};
-static const char litery[] = "LRUD-F";
-static const byte stan_drazka[4] = {15 - KIJ_LEWO, 15 - KIJ_PRAWO, 15 - KIJ_GORA, 15 - KIJ_DOL};
+static const int neighbour[4] = {-1, 1, -KOLUMNY, KOLUMNY};
+static const char letters[] = "LRUD-F";
+static const byte stick_states[4] = {15 - KIJ_LEWO, 15 - KIJ_PRAWO, 15 - KIJ_GORA, 15 - KIJ_DOL};
 
-static byte rekord[ETAP_BAJTY];
-static char tekst[6000];          /* the run as read; its plan */
-static char* plan;                /* what is still to be done of it */
-static char przebieg[KROKOW + 8]; /* a letter a step */
-static unsigned dlugosc;
-static unsigned ostatni_postep; /* the step of it that last brought something */
-static unsigned postep;
-static byte rany; /* energy lost otherwise than by wading, since it was set to 0 */
-static byte smialek;
-static unsigned los_stan;
+static byte record[ETAP_BAJTY];
+static char text[6000];         /* the plan, once the recording is cut off */
+static char* plan;              /* the part of it that is still to be done */
+static char run[STEPS_MAX + 8]; /* a letter for each step */
+static unsigned length;
+static unsigned last_progress; /* the last step with any progress */
+static unsigned progress;
+static byte wounds; /* energy lost since it was set to 0, without what wading takes */
+static byte fearless;
+static unsigned random_state;
 
-static byte cena[POLA];
-static unsigned odleglosc[POLA];
-static byte skad[POLA];
-static byte w_kolejce[POLA];
-static unsigned kolejka[1024];
-static byte droga[POLA]; /* the way to the goal, its last step first */
-static unsigned kroki_drogi;
-static byte droga_stad[POLA]; /* the same as it was before any idea */
-static unsigned kroki_stad;
+static byte price[POLA];
+static unsigned distance[POLA];
+static byte came_by[POLA];
+static byte is_queued[POLA];
+static unsigned queue[1024];
+static byte way[POLA]; /* the way to the goal, its last step first */
+static unsigned way_steps;
+static byte way_from_here[POLA]; /* the way before any idea was tried */
+static unsigned steps_from_here;
 
-/* The rules as they were at a moment. */
-struct chwila {
+/* The state of the rules at a moment. */
+struct moment {
     byte plansza[POLA], pod[POLA], stan[POLA], zapach[POLA], zp[128], bss[512];
-    unsigned dlugosc, los_stan;
+    unsigned length, random_state;
 };
-static struct chwila teraz;            /* before she tries out ideas */
-static struct chwila dawniej[DAWNIEJ]; /* moments to return to after a wound, the latest is the last */
-static byte ile_dawniej;
-static byte powroty; /* how often she may still return in this try */
+static struct moment now;              /* before ideas are tried */
+static struct moment earlier[EARLIER]; /* moments to return to after a wound, the latest one last */
+static byte earlier_count;
+static byte returns_left; /* how often this try may still return to one */
 
-/* What to do before going on: up to three moves of a kind, each a number of steps long. */
-static byte ruch[POMYSLY][RUCHY], ile[POMYSLY][RUCHY];
+/* An idea is what to do before going on: up to three moves, each of a number of steps. */
+static byte move[IDEAS][MOVES], count[IDEAS][MOVES];
 
-static void zapisz(struct chwila* c) {
+static void save(struct moment* c) {
     memcpy(c->plansza, plansza, POLA);
     memcpy(c->pod, pod, POLA);
     memcpy(c->stan, stan, POLA);
     memcpy(c->zapach, zapach, POLA);
-    memcpy(c->zp, zp_poczatek, zp_koniec - zp_poczatek);
-    memcpy(c->bss, bss_poczatek, bss_koniec - bss_poczatek);
-    c->dlugosc = dlugosc;
-    c->los_stan = los_stan;
+    memcpy(c->zp, zp_begin, zp_end - zp_begin);
+    memcpy(c->bss, bss_begin, bss_end - bss_begin);
+    c->length = length;
+    c->random_state = random_state;
 }
 
-static void przywroc(const struct chwila* c) {
+static void restore(const struct moment* c) {
     memcpy(plansza, c->plansza, POLA);
     memcpy(pod, c->pod, POLA);
     memcpy(stan, c->stan, POLA);
     memcpy(zapach, c->zapach, POLA);
-    memcpy(zp_poczatek, c->zp, zp_koniec - zp_poczatek);
-    memcpy(bss_poczatek, c->bss, bss_koniec - bss_poczatek);
-    dlugosc = c->dlugosc;
-    los_stan = c->los_stan;
+    memcpy(zp_begin, c->zp, zp_end - zp_begin);
+    memcpy(bss_begin, c->bss, bss_end - bss_begin);
+    length = c->length;
+    random_state = c->random_state;
 }
 
-static byte los(void) {
-    los_stan = los_stan * 25173u + 13849u;
-    return (byte)(los_stan >> 8);
+static byte random_byte(void) {
+    random_state = random_state * 25173u + 13849u;
+    return (byte)(random_state >> 8);
 }
 
-static unsigned tu(void) {
+static unsigned here(void) {
     return dorva_y * KOLUMNY + dorva_x;
 }
 
@@ -104,236 +106,236 @@ static byte znak(unsigned i) {
     return plansza[i] & 64 ? MUR_V : plansza[i] & 63;
 }
 
-static byte jest_stworem(byte z) {
+static byte is_creature(byte z) {
     return (z >= DUCH && z < WYBUCH) || (z >= TROPICIEL && z < MIOTNIK);
 }
 
-/* Where something stands in her way, so that a tap of the stick ends the greeting and does no more. */
-static byte w_mur(void) {
+/* A direction in which she can't go, so that a tap of the stick ends the greeting and does nothing else. */
+static byte into_wall(void) {
     byte k;
-    for (k = 0; k < 3 && ceny[znak(tu() + obok[k])] != NIE; ++k) {
+    for (k = 0; k < 3 && prices[znak(here() + neighbour[k])] != NEVER; ++k) {
     }
     return k;
 }
 
-/* One step of time: the stick is tapped, or the trigger, or nothing. The game waits for the first tap. */
-static void krok(byte co) {
-    byte i, bylo;
-    if (!dlugosc && co >= CZEKA)
-        co = w_mur();
-    if (dlugosc < KROKOW)
-        przebieg[dlugosc++] = litery[co];
-    drazek = co < CZEKA ? stan_drazka[co] : 15;
-    spust = co != SPUST;
+/* One step: taps the stick or the trigger, or waits. The game waits for the first tap. */
+static void step(byte action) {
+    byte i, before;
+    if (!length && action >= WAIT)
+        action = into_wall();
+    if (length < STEPS_MAX)
+        run[length++] = letters[action];
+    drazek = action < WAIT ? stick_states[action] : 15;
+    spust = action != TRIGGER;
     for (i = 0; i < KROK && !wynik; ++i) {
-        if (i == DOTKNIECIE) {
+        if (i == TAP) {
             drazek = 15;
             spust = 1;
         }
-        bylo = energia;
+        before = energia;
         takt();
-        if (energia + 4 < bylo)
-            rany += bylo - energia;
+        if (energia + 4 < before)
+            wounds += before - energia;
     }
 }
 
-static void zdrozej(unsigned i, byte o) {
-    if (i < POLA && cena[i] != NIE)
-        cena[i] = cena[i] > 250 - o ? 250 : cena[i] + o;
+static void raise_price(unsigned i, byte o) {
+    if (i < POLA && price[i] != NEVER)
+        price[i] = price[i] > 250 - o ? 250 : price[i] + o;
 }
 
-/* Prices of all cells: tiles, then what creatures and shooters make of their surroundings. */
-static void wycen(unsigned cel) {
+/* Sets the prices of all cells: by tile, and higher near creatures and shooters. */
+static void set_prices(unsigned goal) {
     unsigned i, j;
     byte z, k;
     signed char dx, dy;
-    memset(cena, NIE, POLA);
+    memset(price, NEVER, POLA);
     for (i = KOLUMNY + 1; i < POLA - KOLUMNY; i += 2)
-        for (k = 0; k < KOLUMNY - 2; ++k, ++i) { /* the edge is for nobody */
+        for (k = 0; k < KOLUMNY - 2; ++k, ++i) { /* nobody enters the edge */
             z = znak(i);
             if ((z == WYJSCIE && otwarte) || (z == DRZWI && klucze))
-                cena[i] = 8;
-            else if (ceny[z] != NIE)
-                cena[i] = smialek && ceny[z] == RUCHOME ? NIE : ceny[z] + (los() & 1);
+                price[i] = 8;
+            else if (prices[z] != NEVER)
+                price[i] = fearless && prices[z] == MOVING ? NEVER : prices[z] + (random_byte() & 1);
         }
-    if (cel < POLA && znak(cel) == MAGICZNY)
-        cena[cel] = 4;
-    for (i = 0; i < POLA && !smialek; ++i) {
+    if (goal < POLA && znak(goal) == MAGICZNY)
+        price[goal] = 4;
+    for (i = 0; i < POLA && !fearless; ++i) {
         z = znak(i);
-        if (jest_stworem(z))
+        if (is_creature(z))
             for (dy = -3; dy <= 3; ++dy)
                 for (dx = -3; dx <= 3; ++dx) {
                     k = (dx < 0 ? -dx : dx) + (dy < 0 ? -dy : dy);
                     if (k <= 3)
-                        zdrozej(i + dy * KOLUMNY + dx, strach[k]);
+                        raise_price(i + dy * KOLUMNY + dx, fear[k]);
                 }
         if (z == PROMIENNIK || (z >= MIOTNIK && z <= PLUJKA))
             for (k = 0; k < 4; ++k)
-                for (j = i + obok[k]; j < POLA && cena[j] != NIE; j += obok[k])
-                    zdrozej(j, 12);
+                for (j = i + neighbour[k]; j < POLA && price[j] != NEVER; j += neighbour[k])
+                    raise_price(j, 12);
     }
 }
 
-/* What a cell is worth: the smaller, the better; DALEKO: nothing. */
-static unsigned wartosc(unsigned i) {
+/* How little a cell is worth going to: 0 is best, UNREACHED is nothing. */
+static unsigned worth(unsigned i) {
     switch (znak(i)) {
     case WYJSCIE:
-        return otwarte ? 0 : DALEKO;
+        return otwarte ? 0 : UNREACHED;
     case MASKA:
-        return brak_masek ? 800 : DALEKO;
+        return brak_masek ? 800 : UNREACHED;
     case KLUCZ:
     case POCHODNIA:
         return 800;
     case ELIKSIR:
-        return energia < 60 && !smialek ? 680 : DALEKO;
+        return energia < 60 && !fearless ? 680 : UNREACHED;
     default:
-        return DALEKO;
+        return UNREACHED;
     }
 }
 
-/* Distances from the heroine to all cells, by price. */
-static void zmierz(void) {
-    unsigned glowa = 0, ogon = 0, i, j, d;
+/* Measures the distances from Dorva to all cells, by price. */
+static void measure(void) {
+    unsigned head = 0, tail = 0, i, j, d;
     byte k;
-    memset(odleglosc, 0xFF, sizeof(odleglosc));
-    memset(w_kolejce, 0, POLA);
-    odleglosc[tu()] = 0;
-    kolejka[ogon++] = tu();
-    while (glowa != ogon) {
-        i = kolejka[glowa];
-        glowa = (glowa + 1) & 1023;
-        w_kolejce[i] = 0;
+    memset(distance, 0xFF, sizeof(distance));
+    memset(is_queued, 0, POLA);
+    distance[here()] = 0;
+    queue[tail++] = here();
+    while (head != tail) {
+        i = queue[head];
+        head = (head + 1) & 1023;
+        is_queued[i] = 0;
         for (k = 0; k < 4; ++k) {
-            j = i + obok[k];
-            if (cena[j] == NIE)
+            j = i + neighbour[k];
+            if (price[j] == NEVER)
                 continue;
-            d = odleglosc[i] + cena[j];
-            if (d < odleglosc[j]) {
-                odleglosc[j] = d;
-                skad[j] = k;
-                if (!w_kolejce[j]) {
-                    w_kolejce[j] = 1;
-                    kolejka[ogon] = j;
-                    ogon = (ogon + 1) & 1023;
+            d = distance[i] + price[j];
+            if (d < distance[j]) {
+                distance[j] = d;
+                came_by[j] = k;
+                if (!is_queued[j]) {
+                    is_queued[j] = 1;
+                    queue[tail] = j;
+                    tail = (tail + 1) & 1023;
                 }
             }
         }
     }
 }
 
-/* Looks for the way to a cell, or to the best of WSZYSTKO. 1: there is one. */
-static byte znajdz_droge(unsigned cel) {
-    unsigned i, d, najlepszy = DALEKO;
-    kroki_drogi = 0;
-    wycen(cel);
-    zmierz();
-    if (cel == WSZYSTKO)
+/* Looks for the way to a cell, or with EVERYTHING to the best one. 1: there is a way. */
+static byte find_way(unsigned goal) {
+    unsigned i, d, best = UNREACHED;
+    way_steps = 0;
+    set_prices(goal);
+    measure();
+    if (goal == EVERYTHING)
         for (i = 0; i < POLA; ++i) {
-            d = wartosc(i);
-            if (d != DALEKO && odleglosc[i] != DALEKO && d + odleglosc[i] < najlepszy) {
-                najlepszy = d + odleglosc[i];
-                cel = i;
+            d = worth(i);
+            if (d != UNREACHED && distance[i] != UNREACHED && d + distance[i] < best) {
+                best = d + distance[i];
+                goal = i;
             }
         }
-    if (cel == WSZYSTKO || odleglosc[cel] == DALEKO)
+    if (goal == EVERYTHING || distance[goal] == UNREACHED)
         return 0;
-    for (i = cel; i != tu(); i -= obok[skad[i]])
-        droga[kroki_drogi++] = skad[i];
+    for (i = goal; i != here(); i -= neighbour[came_by[i]])
+        way[way_steps++] = came_by[i];
     return 1;
 }
 
-/* Goes a number of steps of the way, through thickets as well. A leap ends it. */
-static void idz(byte kroki) {
-    unsigned skok;
+/* Goes some steps of the way, also through thickets. A leap ends the way. */
+static void go(byte steps) {
+    unsigned next_cell;
     byte t;
-    for (; kroki && kroki_drogi && !wynik; --kroki) {
-        skok = tu() + obok[droga[--kroki_drogi]];
-        for (t = znak(skok) == ZAROSLA && !pochodnia ? 3 : 1; t && !wynik; --t)
-            krok(droga[kroki_drogi]);
-        if (tu() != skok && tu() != skok - obok[droga[kroki_drogi]])
-            kroki_drogi = 0;
+    for (; steps && way_steps && !wynik; --steps) {
+        next_cell = here() + neighbour[way[--way_steps]];
+        for (t = znak(next_cell) == ZAROSLA && !pochodnia ? 3 : 1; t && !wynik; --t)
+            step(way[way_steps]);
+        if (here() != next_cell && here() != next_cell - neighbour[way[way_steps]])
+            way_steps = 0;
     }
 }
 
-/* The first ideas are to wait, the next to go straight off, the others to wander. */
-static void wymysl(void) {
+/* Makes up ideas: first to wait, then to make one move, then to make two. */
+static void think_up(void) {
     byte i, k;
-    memset(ile, 0, sizeof(ile));
-    for (i = 1; i < POMYSLY; ++i) {
-        if (i < CZEKANIA) {
-            ruch[i][0] = CZEKA;
-            ile[i][0] = i < 4 ? i : i * 2;
+    memset(count, 0, sizeof(count));
+    for (i = 1; i < IDEAS; ++i) {
+        if (i < WAITS) {
+            move[i][0] = WAIT;
+            count[i][0] = i < 4 ? i : i * 2;
             continue;
         }
-        for (k = 0; k < RUCHY; ++k) {
-            ruch[i][k] = los() & 3;
-            ile[i][k] = (los() & 7) + 1;
+        for (k = 0; k < MOVES; ++k) {
+            move[i][k] = random_byte() & 3;
+            count[i][k] = (random_byte() & 7) + 1;
         }
-        ruch[i][2] = CZEKA;
+        move[i][2] = WAIT;
         if (i < 18)
-            ile[i][1] = 0;
+            count[i][1] = 0;
     }
 }
 
-/* What an idea does first, and the way from there. 0: there is none. */
-static byte zacznij(byte pomysl, unsigned cel) {
+/* Carries out an idea and finds the way from there. 0: there is no way. */
+static byte begin(byte idea, unsigned goal) {
     byte k, n;
-    for (k = 0; k < RUCHY; ++k)
-        for (n = ile[pomysl][k]; n && !wynik; --n)
-            krok(ruch[pomysl][k]);
-    if (pomysl >= CZEKANIA && !wynik)
-        return znajdz_droge(cel);
-    memcpy(droga, droga_stad, kroki_stad);
-    kroki_drogi = kroki_stad;
-    return kroki_drogi != 0;
+    for (k = 0; k < MOVES; ++k)
+        for (n = count[idea][k]; n && !wynik; --n)
+            step(move[idea][k]);
+    if (idea >= WAITS && !wynik)
+        return find_way(goal);
+    memcpy(way, way_from_here, steps_from_here);
+    way_steps = steps_from_here;
+    return way_steps != 0;
 }
 
-/* What an idea costs: wounds, her life, the way that is left. The longer nothing gets done, the less she minds a wound.
- */
-static unsigned sprawdz(byte pomysl, unsigned cel, const char* ciag, byte daleko) {
-    const unsigned zwloka = dlugosc - ostatni_postep;
+/* Tries an idea and returns its cost: wounds, death, the way that is left. Wounds count less the longer there has been
+   no progress. */
+static unsigned cost_of(byte idea, unsigned goal, const char* sequence, byte ahead) {
+    const unsigned idle = length - last_progress;
     byte n;
-    rany = 0;
-    if (!zacznij(pomysl, cel) && !ciag)
-        kroki_drogi = 100;
-    else if (ciag)
-        for (n = 0; n < daleko && ciag[n] && !wynik; ++n)
-            krok(strchr(litery, ciag[n]) - litery);
+    wounds = 0;
+    if (!begin(idea, goal) && !sequence)
+        way_steps = 100;
+    else if (sequence)
+        for (n = 0; n < ahead && sequence[n] && !wynik; ++n)
+            step(strchr(letters, sequence[n]) - letters);
     else
-        idz(daleko);
+        go(ahead);
     if (wynik == ETAP_PRZESZLA)
         return 0;
     if (wynik == DORVA_GINIE)
-        return SMIERC;
-    return kroki_drogi + (zwloka < 40 ? rany * 8 : zwloka < 90 ? rany * 2 : rany >> 2);
+        return DEATH;
+    return way_steps + (idle < 40 ? wounds * 8 : idle < 90 ? wounds * 2 : wounds >> 2);
 }
 
-/* The idea that costs least; one that doesn't hurt is good enough, if things get done at all. Steps of a sequence may
-   be put off, but she doesn't leave their place. */
-static byte wybierz(unsigned cel, const char* ciag, byte daleko) {
-    const byte pomysly = ciag ? CZEKANIA : POMYSLY;
-    byte i, najlepszy = 0;
-    unsigned strata, najmniej = DALEKO;
-    wymysl();
-    if (!ciag)
-        znajdz_droge(cel);
-    kroki_stad = kroki_drogi;
-    memcpy(droga_stad, droga, kroki_stad);
-    zapisz(&teraz);
-    for (i = 0; i < pomysly; ++i) {
-        strata = sprawdz(i, cel, ciag, daleko);
-        if (strata < najmniej) {
-            najmniej = strata;
-            najlepszy = i;
+/* Returns the idea that costs least. While there is progress, the first one that doesn't hurt will do. Before a step of
+   a sequence the only ideas are to wait, since its steps must begin where they are meant to. */
+static byte choose(unsigned goal, const char* sequence, byte ahead) {
+    const byte ideas = sequence ? WAITS : IDEAS;
+    byte i, best = 0;
+    unsigned cost, least = UNREACHED;
+    think_up();
+    if (!sequence)
+        find_way(goal);
+    steps_from_here = way_steps;
+    memcpy(way_from_here, way, steps_from_here);
+    save(&now);
+    for (i = 0; i < ideas; ++i) {
+        cost = cost_of(i, goal, sequence, ahead);
+        if (cost < least) {
+            least = cost;
+            best = i;
         }
-        przywroc(&teraz);
-        if (!rany && najmniej < SMIERC && (!i || dlugosc - ostatni_postep < 40))
+        restore(&now);
+        if (!wounds && least < DEATH && (!i || length - last_progress < 40))
             break;
     }
-    return najlepszy;
+    return best;
 }
 
-static byte cos_sie_rusza(void) {
+static byte anything_moves(void) {
     unsigned i;
     byte z;
     for (i = 0; i < POLA; ++i) {
@@ -344,208 +346,209 @@ static byte cos_sie_rusza(void) {
     return 0;
 }
 
-/* Whether the try still makes sense: it gets something done every now and then. */
-static byte jest_sens(void) {
-    const unsigned teraz = (brak_masek << 8) + (klucze << 6) + energia + (unsigned)plan;
-    if (teraz != postep) {
-        postep = teraz;
-        ostatni_postep = dlugosc;
+/* Whether the try still makes sense: there has been progress lately. */
+static byte makes_sense(void) {
+    const unsigned state = (brak_masek << 8) + (klucze << 6) + energia + (unsigned)plan;
+    if (state != progress) {
+        progress = state;
+        last_progress = length;
     }
-    return !wynik && dlugosc < KROKOW && dlugosc - ostatni_postep < CIERPLIWOSC;
+    return !wynik && length < STEPS_MAX && length - last_progress < PATIENCE;
 }
 
-/* Remembers this moment; after a wound she returns to an earlier one, as far as it goes, and tries something else. */
-static void rozwaz(void) {
-    if (rany && ile_dawniej && powroty > (wynik ? 0 : POWROTY / 2)) {
-        --powroty;
-        przywroc(dawniej);
-        ostatni_postep = dlugosc;
-        los_stan += powroty * 257u;
-        ile_dawniej = 1;
+/* Remembers this moment. After a wound it returns to the earliest one instead, to try something else, unless it has
+   done so too often. */
+static void reconsider(void) {
+    if (wounds && earlier_count && returns_left > (wynik ? 0 : RETURNS / 2)) {
+        --returns_left;
+        restore(earlier);
+        last_progress = length;
+        random_state += returns_left * 257u;
+        earlier_count = 1;
         return;
     }
-    if (rany)
-        ile_dawniej = 0;
-    else if (ile_dawniej && dlugosc < dawniej[ile_dawniej - 1].dlugosc + CO_ILE)
+    if (wounds)
+        earlier_count = 0;
+    else if (earlier_count && length < earlier[earlier_count - 1].length + STEPS_APART)
         return;
-    if (ile_dawniej == DAWNIEJ)
-        memmove(dawniej, dawniej + 1, --ile_dawniej * sizeof(struct chwila));
-    zapisz(&dawniej[ile_dawniej++]);
+    if (earlier_count == EARLIER)
+        memmove(earlier, earlier + 1, --earlier_count * sizeof(struct moment));
+    save(&earlier[earlier_count++]);
 }
 
-/* Goes to a cell or takes what it can get. */
-static void dojdz(unsigned cel, byte daleko) {
-    unsigned skad_idzie;
-    byte jest, pomysl;
-    ile_dawniej = 0;
-    for (rany = 0;; rany = 0) {
-        if (!smialek && wynik != ETAP_PRZESZLA)
-            rozwaz();
-        if (tu() == cel || !jest_sens())
+/* Goes to a cell, or with EVERYTHING takes all it can get. */
+static void reach(unsigned goal, byte ahead) {
+    unsigned from;
+    byte found, idea;
+    earlier_count = 0;
+    for (wounds = 0;; wounds = 0) {
+        if (!fearless && wynik != ETAP_PRZESZLA)
+            reconsider();
+        if (here() == goal || !makes_sense())
             return;
-        if (smialek || !cos_sie_rusza())
-            jest = znajdz_droge(cel);
+        if (fearless || !anything_moves())
+            found = find_way(goal);
         else {
-            pomysl = wybierz(cel, 0, daleko);
-            rany = 0;
-            jest = zacznij(pomysl, cel);
+            idea = choose(goal, 0, ahead);
+            wounds = 0;
+            found = begin(idea, goal);
         }
-        if (!jest) {
-            if (cel == WSZYSTKO && (*plan || !cos_sie_rusza()))
+        if (!found) {
+            if (goal == EVERYTHING && (*plan || !anything_moves()))
                 return;
-            krok(CZEKA);
+            step(WAIT);
             continue;
         }
-        skad_idzie = tu();
-        idz(smialek ? 1 : daleko / 2);
-        if (cel != WSZYSTKO && !kroki_drogi && tu() != skad_idzie) /* there, or leapt from there */
+        from = here();
+        go(fearless ? 1 : ahead / 2);
+        if (goal != EVERYTHING && !way_steps && here() != from) /* she is there, or has leapt from there */
             return;
     }
 }
 
-static void wykonaj(const char* ciag, byte daleko) {
-    for (; *ciag && jest_sens(); ++ciag) {
-        if (!smialek && strchr(litery, *ciag) < litery + CZEKA && cos_sie_rusza())
-            zacznij(wybierz(0, ciag, daleko), 0);
-        krok(strchr(litery, *ciag) - litery);
+static void carry_out(const char* sequence, byte ahead) {
+    for (; *sequence && makes_sense(); ++sequence) {
+        if (!fearless && strchr(letters, *sequence) < letters + WAIT && anything_moves())
+            begin(choose(0, sequence, ahead), 0);
+        step(strchr(letters, *sequence) - letters);
     }
 }
 
-static unsigned liczba(void) {
+static unsigned number(void) {
     unsigned n = 0;
     for (; isdigit(*plan); ++plan)
         n = n * 10 + (*plan - '0');
     return n;
 }
 
-/* Follows the plan from its start. 1: she is through the exit. */
-static byte sprobuj(byte proba) {
-    static char ciag[100];
-    const byte daleko = 8 + proba * 3;
+/* Follows the plan from its start. 1: she has gone through the exit. */
+static byte attempt(byte try_number) {
+    static char sequence[100];
+    const byte ahead = 8 + try_number * 3;
     unsigned n;
-    char litera;
+    char letter;
     byte k;
-    memcpy(plansza, rekord + ETAP_PLANSZA, POLA);
-    cel_masek = rekord[ETAP_CEL];
-    dlugosc = ostatni_postep = 0;
-    powroty = POWROTY;
-    los_stan = 1 + proba * 7919u;
+    memcpy(plansza, record + ETAP_PLANSZA, POLA);
+    cel_masek = record[ETAP_CEL];
+    length = last_progress = 0;
+    returns_left = RETURNS;
+    random_state = 1 + try_number * 7919u;
     spust = 1;
     nowy_etap();
     if (!start())
         return 0;
-    for (n = 0; n < proba * 5; ++n)
-        krok(CZEKA);
-    plan = tekst;
-    while (jest_sens()) {
-        for (k = 0;;) { /* steps in a row belong together */
+    for (n = 0; n < try_number * 5; ++n)
+        step(WAIT);
+    plan = text;
+    while (makes_sense()) {
+        for (k = 0;;) { /* successive steps make one sequence */
             while (*plan == ' ')
                 ++plan;
-            litera = *plan;
-            if (!litera || !strchr(litery, litera))
+            letter = *plan;
+            if (!letter || !strchr(letters, letter))
                 break;
             ++plan;
-            for (n = liczba(); n && k < 99; --n)
-                ciag[k++] = litera;
+            for (n = number(); n && k < 99; --n)
+                sequence[k++] = letter;
         }
-        ciag[k] = 0;
-        wykonaj(ciag, daleko);
-        if (isdigit(litera)) {
-            n = liczba();
+        sequence[k] = 0;
+        carry_out(sequence, ahead);
+        if (isdigit(letter)) {
+            n = number();
             ++plan;
-            dojdz(n + liczba() * KOLUMNY, daleko);
-        } else if (litera == '*') {
+            reach(n + number() * KOLUMNY, ahead);
+        } else if (letter == '*') {
             ++plan;
-            dojdz(WSZYSTKO, daleko);
+            reach(EVERYTHING, ahead);
         } else
             break;
     }
     return wynik == ETAP_PRZESZLA;
 }
 
-static void wypisz(void) {
+static void print_run(void) {
     unsigned i, j;
-    byte kolumna = 0;
-    printf("%s\n", tekst);
-    for (i = 0; i < dlugosc; i = j) {
-        for (j = i; j < dlugosc && przebieg[j] == przebieg[i]; ++j) {
+    byte column = 0;
+    printf("%s\n", text);
+    for (i = 0; i < length; i = j) {
+        for (j = i; j < length && run[j] == run[i]; ++j) {
         }
-        printf("%c%u%c", przebieg[i], j - i, ++kolumna % 24 && j < dlugosc ? ' ' : '\n');
+        printf("%c%u%c", run[i], j - i, ++column % 24 && j < length ? ' ' : '\n');
     }
 }
 
-static byte szukaj(void) {
+static byte search(void) {
     byte i;
-    for (i = 0; i < PROBY; ++i) {
+    for (i = 0; i < TRIES; ++i) {
         nowa_gra();
-        if (sprobuj(i)) {
-            wypisz();
+        if (attempt(i)) {
+            print_run();
             return 0;
         }
-        fprintf(stderr, "try %u: result %u after %u steps at %u,%u, masks %u, energy %u, plan %s\n", i, wynik, dlugosc,
+        fprintf(stderr, "try %u: result %u after %u steps at %u,%u, masks %u, energy %u, plan %s\n", i, wynik, length,
                 dorva_x, dorva_y, brak_masek, energia, plan);
     }
     return 1;
 }
 
-static byte badz_smialy(void) {
-    byte stracone;
-    smialek = 1;
+static byte be_fearless(void) {
+    byte lost;
+    fearless = 1;
     nowa_gra();
-    for (stracone = 0; stracone < 3; ++stracone)
-        if (sprobuj(stracone))
+    for (lost = 0; lost < 3; ++lost)
+        if (attempt(lost))
             break;
-    printf("%u %s %u\n", stracone, stracone < 3 ? "tak" : "nie", energia);
+    printf("%u %s %u\n", lost, lost < 3 ? "yes" : "no", energia);
     return 0;
 }
 
-static byte graj(const char* p) {
+static byte play(const char* p) {
     unsigned n;
     nowa_gra();
     nowy_etap();
-    memcpy(plansza, rekord + ETAP_PLANSZA, POLA);
-    cel_masek = rekord[ETAP_CEL];
+    memcpy(plansza, record + ETAP_PLANSZA, POLA);
+    cel_masek = record[ETAP_CEL];
     spust = 1;
     start();
     while (*p && !wynik) {
-        const char* litera = strchr(litery, *p++);
-        if (!litera || !litera[0])
+        const char* letter = strchr(letters, *p++);
+        if (!letter || !letter[0])
             continue;
         for (n = 0; isdigit(*p); ++p)
             n = n * 10 + (*p - '0');
         for (; n && !wynik; --n)
-            krok(litera - litery);
+            step(letter - letters);
     }
     printf("result %u energy %u masks %u at %u,%u\n", wynik, energia, brak_masek, dorva_x, dorva_y);
     return wynik != ETAP_PRZESZLA;
 }
 
-static int wczytaj(const char* nazwa, void* dokad, unsigned ile_bajtow) {
-    const int plik = open(nazwa, O_RDONLY);
-    const int bajty = plik < 0 ? -1 : read(plik, dokad, ile_bajtow);
-    if (plik >= 0)
-        close(plik);
-    return bajty;
+static int read_file(const char* name, void* to, unsigned size) {
+    const int file = open(name, O_RDONLY);
+    const int bytes = file < 0 ? -1 : read(file, to, size);
+    if (file >= 0)
+        close(file);
+    return bytes;
 }
 
 int main(int argc, char* argv[]) {
-    char* nagranie;
-    if (argc != 4 || wczytaj(argv[2], rekord, ETAP_BAJTY) != ETAP_BAJTY ||
-        wczytaj(argv[3], tekst, sizeof(tekst) - 1) <= 0) {
-        printf("usage: gracz graj|szukaj|smialek STAGE RUN\n");
+    char* recording;
+    if (argc != 4 || read_file(argv[2], record, ETAP_BAJTY) != ETAP_BAJTY ||
+        read_file(argv[3], text, sizeof(text) - 1) <= 0) {
+        printf("usage: gracz play|search|fearless STAGE RUN\n");
         return 2;
     }
-    nagranie = strchr(tekst, '\n');
-    if (nagranie)
-        *nagranie++ = 0;
+    recording = strchr(text, '\n');
+    if (recording)
+        *recording++ = 0;
     else
-        nagranie = tekst + strlen(tekst);
-    switch (argv[1][1]) {
-    case 'r':
-        return graj(nagranie);
-    case 'z':
-        return szukaj();
+        recording = text + strlen(text);
+    switch (argv[1][0]) {
+    case 'p':
+        return play(recording);
+    case 's':
+        return search();
     default:
-        return badz_smialy();
+        return be_fearless();
     }
 }

@@ -2,11 +2,16 @@
 #ifndef REGULY_H
 #define REGULY_H
 
-#include "stale.h" /* made of game/src/reguly.inc and rekord.inc */
+#include "constants.h" /* made of game/src/reguly.inc and rekord.inc */
 
 typedef unsigned char byte;
 
-enum { KIJ_GORA = 1, KIJ_DOL = 2, KIJ_LEWO = 4, KIJ_PRAWO = 8 }; /* bits of drazek, 0 where it is pushed */
+enum {
+    KIJ_GORA = 1,
+    KIJ_DOL = 2,
+    KIJ_LEWO = 4,
+    KIJ_PRAWO = 8
+}; /* bits of drazek; one is 0 while the stick is pushed that way */
 
 extern byte plansza[POLA];
 extern byte pod[1024], stan[1024], zapach[1024];
@@ -30,11 +35,11 @@ extern byte maszyna_stoi, pochodnia, otwarte, dorva_x, dorva_y;
 #pragma zpsym("dorva_x")
 #pragma zpsym("dorva_y")
 
-/* Where the variables of the rules begin and end, in page zero and behind the program. */
-extern byte* const zp_poczatek;
-extern byte* const zp_koniec;
-extern byte* const bss_poczatek;
-extern byte* const bss_koniec;
+/* The bounds of the rules' variables, in page zero and behind the program. */
+extern byte* const zp_begin;
+extern byte* const zp_end;
+extern byte* const bss_begin;
+extern byte* const bss_end;
 
 void nowa_gra(void);
 void nowy_etap(void);

@@ -1,4 +1,4 @@
-// Pictures of few colours, as Windows bitmaps of four bits a pixel.
+// Pictures of few colours, as Windows bitmaps with four bits per pixel.
 #pragma once
 
 #include "stage/tekst.h"

@@ -8,7 +8,7 @@ namespace {
 constexpr std::array<std::string_view, SLOTY_COUNT> NAZWY_SLOTOW{
     "klucze", "bomby", "maski", "energia", "grunt", "twarz", "ubranie", "woda", "tlo", "symbole", "znaki", "panel"};
 
-// The rest of a header line that has to start with `name`.
+// The rest of the next line, which has to start with `name`.
 std::string_view takeWartosc(Zrodlo& z, std::string_view name) {
     const auto [slowo, reszta] = splitSlowo(z.take());
     if (slowo != name)
@@ -16,7 +16,7 @@ std::string_view takeWartosc(Zrodlo& z, std::string_view name) {
     return reszta;
 }
 
-// A text of the game, as window text that is not longer than its box.
+// The text of the next line, which must not be longer than its box.
 Tekst takeTekst(Zrodlo& z, std::string_view name, std::size_t width) {
     Tekst tekst = toTekst(z, takeWartosc(z, name));
     if (tekst.size() > width)
@@ -24,7 +24,7 @@ Tekst takeTekst(Zrodlo& z, std::string_view name, std::size_t width) {
     return tekst;
 }
 
-// The colours of a line "kolory grunt 180 tlo 0", or none of "kolory standard".
+// The colours of a line such as "kolory grunt 180 tlo 0"; "kolory standard" has none.
 WybraneKolory takeKolory(Zrodlo& z) {
     WybraneKolory wybrane{};
     std::string_view pairs = takeWartosc(z, "kolory");
@@ -40,7 +40,7 @@ WybraneKolory takeKolory(Zrodlo& z) {
     return wybrane;
 }
 
-// The world's colours, under those that all stages share, under the stage's own.
+// The colours of a stage: its own, else those that all stages share, else the world's.
 std::array<Bajt, SLOTY_COUNT> mixKolory(std::size_t swiat, const Rysunki& rysunki, const WybraneKolory& wspolne,
                                         const WybraneKolory& wlasne) {
     std::array<Bajt, SLOTY_COUNT> kolory = KOLORY_STARTOWE[swiat];
@@ -66,7 +66,7 @@ void takePlansza(Zrodlo& z, const Legenda& legenda, std::span<Bajt> cells) {
     }
 }
 
-// How often a tile may stand on a board, in either form.
+// How often a tile may be on a board, in either form.
 struct Liczebnosc {
     Znak znak;
     int least, most;

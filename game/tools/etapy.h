@@ -1,4 +1,4 @@
-// Stages: text sources in, stage images and title lines out.
+// Makes stages and title lines from text sources.
 #pragma once
 
 #include "rysunki.h"
@@ -9,23 +9,23 @@
 
 namespace dorva {
 
-// Colours by slot, where a source gives any.
+// The colours that a source gives, by slot.
 using WybraneKolory = std::array<std::optional<Bajt>, SLOTY_COUNT>;
 
-// What all stages share: colours, and which tile code a character of a board stands for.
+// What all stages share: colours, and the codes of the characters that boards are painted with.
 struct Legenda {
     WybraneKolory kolory;
-    std::array<int, 128> kody; // by character; below 0 where it stands for nothing
+    std::array<int, 128> kody; // by character; negative if it stands for no tile
 };
 
 using Swiaty = std::array<Rysunki, SWIATY_COUNT>;
 
 Legenda parseLegenda(Zrodlo);
 
-// The stage image, 931 bytes.
+// The stage in its stored form, 931 bytes.
 Bajty parseEtap(Zrodlo, const Legenda&, const Swiaty&);
 
-// A stage file; fails where there is none of its length.
+// Reads a stage file; fails if it doesn't have 931 bytes.
 Bajty readEtap(const std::filesystem::path&);
 
 // The three title lines of the game, 60 bytes.

@@ -28,8 +28,8 @@ Ksztalt takeKsztalt(Zrodlo& z) {
     return ksztalt;
 }
 
-// The drawing of the tile `code`, or the earlier one that it mirrors: "lustro 26" left to right, "odbicie 28"
-// top to bottom.
+// The drawing of the tile `code`: its own, or an earlier one mirrored, "lustro 26" left to right, "odbicie 28" top to
+// bottom.
 Ksztalt takeRysunek(Zrodlo& z, const Rysunki& rysunki, int code) {
     const auto [slowo, numer] = splitSlowo(z.peek());
     if (slowo != "lustro" && slowo != "odbicie")

@@ -1,6 +1,6 @@
-// Checks a finished game template: its length, its chain of segments from the first byte to the
-// last, and every place that the builder lays stages and title lines over. Prints what is wrong
-// and ends with 1, so that a build with a displaced byte fails.
+// Checks a finished game template: its length, its chain of segments from the first byte to the last, and every place
+// where the builder puts stages and title lines. Prints what is wrong and ends with 1, so that a build with a displaced
+// byte fails.
 #include "output/szablon.h"
 #include "stage/etap_image.h"
 #include "zrodlo.h"
@@ -14,9 +14,9 @@
 
 using namespace dorva;
 
-// What the game's sources say of the record, the board and its tiles, beside what the editor says.
+// The constants of the game's sources, to be compared with the editor's.
 namespace gra {
-#include "stale.h" // made of ../src/reguly.inc and rekord.inc
+#include "constants.h" // made of ../src/reguly.inc and rekord.inc
 } // namespace gra
 static_assert(gra::ETAP_KOLORY == uklad::KOLORY && gra::ETAP_PLANSZA == uklad::PLANSZA &&
               gra::ETAP_CEL == uklad::CEL_MASEK && gra::ETAP_OSTATNI == uklad::OSTATNI &&
@@ -38,14 +38,14 @@ constexpr std::uint16_t WINDOW_END = 0x8000;
 constexpr std::uint16_t ROM_START = 0xC000;
 constexpr Bajt MAIN_MEMORY = 0xFF;
 
-// Each block of stages loads into a bank of its own; PORTB while it does.
+// The value of PORTB while a block of stages loads, each into its own bank.
 constexpr std::array<Bajt, 2> BANKS{0xE3, 0xE7};
 constexpr std::size_t SWITCH_AT = rekordOffset(BLOK_ETAPOW - 1) + ETAP_SIZE_BYTES; // the header of a bank switch
 
 struct Segment {
     std::uint16_t start = 0;
     std::size_t bytes = 0;
-    Bajt bank = MAIN_MEMORY; // PORTB when it is loaded
+    Bajt bank = MAIN_MEMORY; // the value of PORTB when it is loaded
 };
 
 int faults = 0;
@@ -61,7 +61,7 @@ std::uint16_t word(const Bajty& file, std::size_t at) {
     return static_cast<std::uint16_t>(file[at] | file[at + 1] << 8);
 }
 
-// Walks the file as a loader does. The key is the file offset of a segment's first data byte.
+// Walks through the file like a loader. The key is the file offset of a segment's first data byte.
 std::map<std::size_t, Segment> walk(const Bajty& file) {
     std::map<std::size_t, Segment> segments;
     Bajt bank = MAIN_MEMORY;

@@ -1,7 +1,7 @@
 // Game files to try the game with, made by the builder's own functions:
-//   zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP...   title lines and, from the first place on, stage files, the last
-//                                                      of which is marked as the last one of the game
-//   zloz_gre --tytul GRA                               the bytes of a game's title lines, a line each
+//   zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP...   makes a game with these title lines and, from stage 1 on, these
+//                                                      stage files; the game ends after the last of them
+//   zloz_gre --tytul GRA                               prints the bytes of a game's title lines, one line each
 #include "etapy.h"
 #include "output/szablon.h"
 #include "stage/etap_image.h"

@@ -58,7 +58,7 @@ int parseLiczba(const Zrodlo& z, std::string_view text, int min, int max) {
 }
 
 Tekst toTekst(const Zrodlo& z, std::string_view utf8) {
-    // Nothing beyond two bytes a character is needed: the Polish letters lie below U+0800.
+    // Two bytes per character are enough: the Polish letters are below U+0800.
     Tekst tekst;
     for (std::size_t i = 0; i < utf8.size(); ++i) {
         char32_t character = static_cast<Bajt>(utf8[i]);

@@ -1,4 +1,4 @@
-// Text sources: lines of UTF-8, with what is needed to say where a mistake stands.
+// Text sources: lines of UTF-8, with their numbers for messages about mistakes.
 #pragma once
 
 #include "stage/tekst.h"
@@ -16,14 +16,14 @@ struct BladZrodla : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// The lines of a source one after the other, without comments (from ";" on), trailing blanks and empty lines.
+// Gives the lines of a source one by one, without comments (from ";" on), trailing blanks and empty lines.
 class Zrodlo {
 public:
     Zrodlo(std::string nazwa, std::string_view tekst);
     static Zrodlo fromFile(const std::filesystem::path& path);
 
     [[nodiscard]] bool atEnd() const { return next == linie.size(); }
-    // The next line without taking it; empty at the end.
+    // The next line, which stays the next one; empty at the end.
     [[nodiscard]] std::string_view peek() const { return atEnd() ? std::string_view() : linie[next].tekst; }
     std::string_view take();
 
@@ -52,10 +52,10 @@ int parseLiczba(const Zrodlo&, std::string_view text, int min, int max);
 // UTF-8 as window text.
 Tekst toTekst(const Zrodlo&, std::string_view utf8);
 
-// A whole file; fails where it can't be read.
+// Reads a whole file; fails if it can't.
 Bajty readPlik(const std::filesystem::path& path);
 
-// Writes a file, making its folder where it is missing.
+// Writes a file, and makes its folder if it is missing; fails if it can't.
 void writePlik(const std::filesystem::path& path, const Bajty& bytes);
 
 } // namespace dorva

@@ -1,39 +1,39 @@
-/* Tests of the rules. `testy GROUP` runs one group and ends with the number of failed checks.
+/* Tests of the rules. `test_reguly GROUP` runs one group and ends with the number of failed checks.
 
-   Most of a group is a table. A row lays a board, makes moves and looks at the board and at figures.
+   Most groups are tables. A row sets up a board, makes moves, and checks the board and figures.
 
-   Board: rows of letters with '/' between them, from cell (1, 1) on, walls round about; `~` makes the next tile INV.
-   `2:` in front is the goal, else 1. A row without a board goes on where the last one ended.
+   Board: rows of letters with '/' between them, from cell (1, 1) on, with walls around; `~` makes the next tile INV.
+   `2:` in front is the goal, which is 1 otherwise. A row without a board goes on where the one before ended.
 
-   Moves: L R U D a tap of the stick, so one step; B a tap of the trigger; - a step's time; a number: ticks. l r u d b
-   hold the stick or the trigger on; `.` lets all go. `=e50` sets a figure. `:` a new stage begins; `!` the try is lost,
-   `?` begun anew at the player's wish, and the board laid anew.
+   Moves: L R U D taps the stick, which makes one step; B taps the trigger; - waits as long as a step takes; a number
+   waits for so many ticks. l r u d b hold the stick or the trigger; `.` lets everything go. `=e50` sets a figure. `:`
+   begins a new stage. `!` loses the try, `?` begins it anew at the player's wish; both set up the board again.
 
-   Board after: what must stand where, `#` anything; D is the heroine in any form.
+   Board after: the tiles that must be there, `#` for any; D is the heroine in any form.
 
-   Figures: letters of `liczby` with their values, h her column; f her form, x hundreds of points, j whether she is
-   there. */
+   Figures: letters of `figure_letters` with their values, and h her column, f her form, x hundreds of points, j whether
+   there is a heroine. */
 #include "reguly.h"
 #include <ctype.h>
 #include <stdio.h>
 #include <string.h>
 
-struct wiersz {
-    const char *plansza, *ruchy, *po, *liczby;
+struct row {
+    const char *plansza, *moves, *after, *figures;
 };
 
-static unsigned bledy;
+static unsigned failures;
 
-#define CHECK(warunek)                                                                                                 \
+#define CHECK(condition)                                                                                               \
     do {                                                                                                               \
-        if (!(warunek)) {                                                                                              \
-            printf("line %d: %s\n", __LINE__, #warunek);                                                               \
-            ++bledy;                                                                                                   \
+        if (!(condition)) {                                                                                            \
+            printf("line %d: %s\n", __LINE__, #condition);                                                             \
+            ++failures;                                                                                                \
         }                                                                                                              \
     } while (0)
 
-static const char litery[] = " .^,n|=%zE+wMKBSeO*Q!gLRdu$fTtmpPbo@iDs<>AVxX?";
-static const byte kody[] = {
+static const char letters[] = " .^,n|=%zE+wMKBSeO*Q!gLRdu$fTtmpPbo@iDs<>AVxX?";
+static const byte codes[] = {
     NIC,           ZIEMIA,           PULAPKA,       SLAD,        NACZYNIE,       MUR_V,           MUR_H,
     KRUCHY,        ZAROSLA,          WYJSCIE,       DRZWI,       WODA,           MASKA,           KLUCZ,
     BOMBA,         SKRZYNIA,         ELIKSIR,       BLOK,        PROMIENNIK,     ODPALONA,        DUCH,
@@ -42,35 +42,35 @@ static const byte kody[] = {
     MASZYNA,       POCHODNIA,        DORVA,         PO_OCZY + 1, PROMIEN + LEWO, PROMIEN + PRAWO, PROMIEN + GORA,
     PROMIEN + DOL, WYBUCH,           WYBUCH + 3,    70};
 
-static const char liczby[] = "ewzkbmoctapgh";
-static byte* const gdzie[] = {&energia, &wynik,     &zycia,        &klucze, &bomby,     &brak_masek, &otwarte,
-                              &monety,  &pochodnia, &maszyna_stoi, &premia, &komunikat, &dorva_x};
-static byte jest; /* there is a heroine */
+static const char figure_letters[] = "ewzkbmoctapgh";
+static byte* const figure_places[] = {&energia, &wynik,     &zycia,        &klucze, &bomby,     &brak_masek, &otwarte,
+                                      &monety,  &pochodnia, &maszyna_stoi, &premia, &komunikat, &dorva_x};
+static byte has_dorva;
 
-static byte tu(byte w, byte k) {
+static byte is_here(byte w, byte k) {
     return dorva_y == w && dorva_x == k;
 }
 
-static byte pole(byte w, byte k) {
+static byte cell(byte w, byte k) {
     return plansza[w * KOLUMNY + k];
 }
 
-static unsigned liczba(const char** p) {
+static unsigned number(const char** p) {
     unsigned n = 0;
     for (; isdigit(**p); ++*p)
         n = n * 10 + (**p - '0');
     return n;
 }
 
-/* The code of the next letter, with its INV. */
-static byte kod(const char** p) {
+/* The code of the next letter, with its INV bit. */
+static byte next_code(const char** p) {
     const byte inv = **p == '~' ? INV : 0;
     *p += inv ? 2 : 1;
-    return kody[strchr(litery, (*p)[-1]) - litery] | inv;
+    return codes[strchr(letters, (*p)[-1]) - letters] | inv;
 }
 
-static void uloz(const char* p) {
-    unsigned i = KOLUMNY + 1, od = i;
+static void lay(const char* p) {
+    unsigned i = KOLUMNY + 1, row_start = i;
     memset(plansza, MUR_V, POLA);
     cel_masek = 1;
     if (p[0] && p[1] == ':') {
@@ -79,119 +79,122 @@ static void uloz(const char* p) {
     }
     while (*p)
         if (*p == '/') {
-            i = od += KOLUMNY;
+            i = row_start += KOLUMNY;
             ++p;
         } else
-            plansza[i++] = kod(&p);
+            plansza[i++] = next_code(&p);
     drazek = 15;
     spust = 1;
-    jest = start();
+    has_dorva = start();
 }
 
-static void takty(unsigned n) {
+static void ticks(unsigned n) {
     while (n--)
         takt();
 }
 
-static void rusz(const char* p, const char* uklad) {
-    static const char kierunki[] = "udlr"; /* the bits of the stick, from the lowest on */
+static void act(const char* p, const char* layout) {
+    static const char directions[] = "udlr"; /* by bit of the stick, from the lowest on */
     byte i;
     while (*p) {
         const char c = *p++;
-        const char* kierunek = strchr(kierunki, tolower(c));
+        const char* direction = strchr(directions, tolower(c));
         if (isdigit(c)) {
             --p;
-            takty(liczba(&p));
+            ticks(number(&p));
         } else if (c == '=') {
-            i = strchr(liczby, *p++) - liczby;
-            *gdzie[i] = liczba(&p);
+            i = strchr(figure_letters, *p++) - figure_letters;
+            *figure_places[i] = number(&p);
         } else if (c == ':')
             nowy_etap();
         else if (c == '!' || c == '?') {
             c == '!' ? cofnij_probe() : powtorz_probe();
-            uloz(uklad);
+            lay(layout);
         } else if (c != ' ') {
             if (isupper(c) || c == '.')
                 drazek = 15;
-            if (kierunek)
-                drazek &= ~(1 << (kierunek - kierunki));
+            if (direction)
+                drazek &= ~(1 << (direction - directions));
             spust = tolower(c) == 'b' ? 0 : c == '.' ? 1 : spust;
             if (isupper(c) || c == '-') {
                 takt();
                 drazek = 15;
                 spust = 1;
-                takty(KROK - 1);
+                ticks(KROK - 1);
             }
         }
     }
 }
 
-static byte zgadza_sie(const char* po, const char* co) {
-    unsigned i = KOLUMNY + 1, od = i;
-    byte n, ma;
-    while (po && *po)
-        if (*po == '/') {
-            i = od += KOLUMNY;
-            ++po;
-        } else if (*po == '#') {
+static byte matches(const char* after, const char* figures) {
+    unsigned i = KOLUMNY + 1, row_start = i;
+    byte n, found;
+    while (after && *after)
+        if (*after == '/') {
+            i = row_start += KOLUMNY;
+            ++after;
+        } else if (*after == '#') {
             ++i;
-            ++po;
+            ++after;
         } else {
-            n = kod(&po);
-            if (plansza[i] != n && !(n == DORVA && tu(i / KOLUMNY, i % KOLUMNY)))
+            n = next_code(&after);
+            if (plansza[i] != n && !(n == DORVA && is_here(i / KOLUMNY, i % KOLUMNY)))
                 return 0;
             ++i;
         }
-    while (co && *co) {
-        const char c = *co++;
-        n = liczba(&co);
-        ma = c == 'f'   ? pole(dorva_y, dorva_x) & ~INV
-             : c == 'j' ? jest
-             : c == 'x' ? (punkty[1] >> 4) * 10 + (punkty[1] & 15)
-                        : *gdzie[strchr(liczby, c) - liczby];
-        if (ma != n)
+    while (figures && *figures) {
+        const char c = *figures++;
+        n = number(&figures);
+        found = c == 'f'   ? cell(dorva_y, dorva_x) & ~INV
+                : c == 'j' ? has_dorva
+                : c == 'x' ? (punkty[1] >> 4) * 10 + (punkty[1] & 15)
+                           : *figure_places[strchr(figure_letters, c) - figure_letters];
+        if (found != n)
             return 0;
-        while (*co == ' ')
-            ++co;
+        while (*figures == ' ')
+            ++figures;
     }
     return 1;
 }
 
-/* What is there instead, in the letters of the tables. */
-static void pokaz(void) {
+/* Prints the board and the figures in the letters of the tables. */
+static void show(void) {
     byte w, k, i;
     for (w = 1; w < 4; ++w) {
         for (k = 1; k < 30; ++k) {
-            const char* c = memchr(kody, pole(w, k) & ~INV, sizeof(kody));
-            printf("%s%c", pole(w, k) & INV ? "~" : "", tu(w, k) ? 'D' : c ? litery[c - (const char*)kody] : '#');
+            const char* c = memchr(codes, cell(w, k) & ~INV, sizeof(codes));
+            printf("%s%c", cell(w, k) & INV ? "~" : "",
+                   is_here(w, k) ? 'D'
+                   : c           ? letters[c - (const char*)codes]
+                                 : '#');
         }
         printf("\n");
     }
-    for (i = 0; liczby[i]; ++i)
-        printf("%c%u ", liczby[i], *gdzie[i]);
-    printf("f%u x%x\n", pole(dorva_y, dorva_x) & ~INV, punkty[1]);
+    for (i = 0; figure_letters[i]; ++i)
+        printf("%c%u ", figure_letters[i], *figure_places[i]);
+    printf("f%u x%x\n", cell(dorva_y, dorva_x) & ~INV, punkty[1]);
 }
 
-static void sprawdz(const struct wiersz* w, byte ile) {
+static void check_table(const struct row* w, byte count) {
     byte i;
-    const char* uklad = "";
-    for (i = 0; i < ile; ++i, ++w) {
+    const char* layout = "";
+    for (i = 0; i < count; ++i, ++w) {
         if (w->plansza) {
-            uklad = w->plansza;
+            layout = w->plansza;
             nowa_gra();
             nowy_etap();
-            uloz(uklad);
+            lay(layout);
         }
-        rusz(w->ruchy, uklad);
-        if (!zgadza_sie(w->po, w->liczby)) {
-            printf("row %u of %s, after %s:\n", i, uklad, w->ruchy);
-            pokaz();
-            ++bledy;
+        act(w->moves, layout);
+        if (!matches(w->after, w->figures)) {
+            printf("row %u of %s, after %s:\n", i, layout, w->moves);
+            show();
+            ++failures;
         }
     }
 }
 
-static const struct wiersz chodzenie[] = {
+static const struct row walking[] = {
     {"D   ", "RRRR", "   D", "f60"},
     {0, "---", "   D", "f63"},
     {0, "LU", "  D ", "f62"},
@@ -202,9 +205,9 @@ static const struct wiersz chodzenie[] = {
     {0, ". 2 r 10", "     D"},                /* a second press waits for no more than the pace of steps */
     {"D    /     /     ", "r 6 d 6", " /#D"}, /* the newest direction wins */
     {0, ".r 2 d 2 .r 6", "//##D"},            /* a tap between two steps counts */
-    {"D     ", "r 18 . 5 r 7", "    D"},      /* the same direction anew: held, it waits as at first */
+    {"D     ", "r 18 . 5 r 7", "    D"},      /* the same direction again: held, it waits as at first */
     {0, "4", "     D"},
-    {"D   ", "rd 10", " D"}, /* where the newest is barred she goes on in another one */
+    {"D   ", "rd 10", " D"}, /* if the newest direction is barred she goes on in another one */
     {0, "7", "   D"},
     {"D   /|| ", "r 3 d 9", "  D"},
     {0, "1", "/##D"},
@@ -220,7 +223,7 @@ static const struct wiersz chodzenie[] = {
     {"Ds", "R", "Ds"},
 };
 
-static const struct wiersz branie[] = {
+static const struct row taking[] = {
     {"2:DMMMKB$eE", "", 0, "m2 o0"},
     {0, "R", 0, "m1 o0 x1"},
     {0, "R", 0, "m0 o1"},
@@ -237,8 +240,8 @@ static const struct wiersz branie[] = {
     {0, "RRR", "     D", "b1"},
     {"D$$$$$$$$$$$$$$$$$$$$", "RRRRRRRRRRRRRRRRRRR", 0, "z3"}, /* twenty coins make a life */
     {0, "R", 0, "z4 x4"},
-    {0, "!", 0, "x0 c0 z4"},                 /* a lost try takes its points and coins along; */
-    {0, "RRRRRRRRRRRRRRRRRRRR", 0, "z4 x4"}, /* the life comes once a stage, not once a try */
+    {0, "!", 0, "x0 c0 z4"},                 /* a lost try costs its points and coins; */
+    {0, "RRRRRRRRRRRRRRRRRRRR", 0, "z4 x4"}, /* the life comes once in a stage, not in each try */
     {"D$ ", "=c19 : R", 0, "z4"},
     {0, "!", 0, "c19"},
     {"D$^$", "RRR", 0, "c2 e79 p99"},
@@ -251,7 +254,7 @@ static const struct wiersz branie[] = {
     {"Dwfzwz", "4000", "Dwf wz"}, /* a painted fire burns for ever */
 };
 
-static const struct wiersz pchanie[] = {
+static const struct row pushing[] = {
     {"DS ", "RR", " DS"},
     {"DSS ", "R", "DSS "},
     {"DS,S", "RL", "D SS"},
@@ -264,13 +267,13 @@ static const struct wiersz pchanie[] = {
     {"DS, ", "RRL", " D,S"}, /* what lay beneath comes back */
 };
 
-static const struct wiersz bomby_i_mury[] = {
+static const struct row bombs_and_walls[] = {
     {"   DB%  ", "R", 0, "b1"},
     {0, "BB", 0, "b0"},
     {0, "200", "#####%", "e99"}, /* it waits while she stands on it */
     {0, "LLLL", "D###Q"},
     {0, "130", "D###  ##|", "e99"},
-    {"D ", "b 9", 0, "g0"}, /* a trigger held since before the stage says nothing */
+    {"D ", "b 9", 0, "g0"}, /* a trigger held since before the stage does nothing */
     {0, ".-B", 0, "g4"},
     {"DB,  ", "RRBRR", "  Q D", "b0"}, /* on a track too */
     {"DQ ", "90", "Dxx", "e64"},       /* too near; the smoke stays for a while */
@@ -280,7 +283,7 @@ static const struct wiersz bomby_i_mury[] = {
     {" QB$/O|*L/D   ", "260", "#  $/%| ", "x1"}, /* a chain; blocks crack; coins and walls stay */
 };
 
-static const struct wiersz wedrowcy[] = {
+static const struct row wanderers[] = {
     {"L      /|||||||/D", "63", "      R"},
     {0, "63", "L"},
     {"d|D/,/ ", "9", " |D/d"}, /* a guard goes down and up */
@@ -291,7 +294,7 @@ static const struct wiersz wedrowcy[] = {
     {0, "60", 0, "e69"},
     {"DL", "R", "D", "e84"},
     {0, "4000", 0, "e0 w2"},
-    {"Dd", "R", "D", "e79"}, /* into their arms */
+    {"Dd", "R", "D", "e79"}, /* she runs into them */
     {"DT", "R", "DT", "e79"},
     {"D!", "R", "D!", "e87"},
     {"g..D", "9", "R"}, /* it wakes in her row only */
@@ -303,7 +306,7 @@ static const struct wiersz wedrowcy[] = {
     {"D      /T| || |/       ", "RRRDDRRR 144", 0, "e59"}, /* a tracker takes her way, round the corner */
 };
 
-static const struct wiersz strzelanie[] = {
+static const struct row shooting[] = {
     {" ,     / *  D  /       ", "108", " ,/ ~*  D"}, /* it blinks first */
     {0, "18", " A/<*> D/ V", "e99"},
     {0, "18", " A/<*>>D/ V", "e89"},
@@ -315,7 +318,7 @@ static const struct wiersz strzelanie[] = {
     {0, "54", "m", "e87"},
     {"m|/ |/D|", "45", "m", "e87"},
     {"mD /|  /|  ", "9 DR 60", "m", "e99"},          /* she can step aside */
-    {"m     |/||||||D/|||||||", "300", "m ", "e99"}, /* not through what is in between */
+    {"m     |/||||||D/|||||||", "300", "m ", "e99"}, /* not through what stands in between */
     {"P  S D", "400", "###S", "e99"},
     {"P  D", "60", 0, "e79"},
     {" pD", "180", 0, "e79"},
@@ -324,7 +327,7 @@ static const struct wiersz strzelanie[] = {
     {"D   p   ", "180", "####### ", "e79"},
 };
 
-static const struct wiersz zywioly[] = {
+static const struct row elements[] = {
     {"D^  ", "RR", "  D", "e79"},
     {"Dwwwwwwwwwwwwwwwwwwwwwwwwww", "RR", "#w", "e91"}, /* 4 a cell, so it carries 24 of them */
     {0, "RRRRRRRRRRRRRRRRRRRRRR", 0, "e3 h25"},
@@ -349,8 +352,8 @@ static const struct wiersz zywioly[] = {
     {"Do ", "RR", " oD"}, /* one alone is just passed */
 };
 
-/* INV forms do what the plain ones do, and what moves keeps its form. */
-static const struct wiersz inv[] = {
+/* INV forms do the same as STD forms, and what moves keeps its form. */
+static const struct row inv[] = {
     {"D~.~,~^~$~e~K~+~i~z~M~B~E", "RRRR", " ~,~, D", "e79 c1"},
     {0, "RRRRRRRR", 0, "e99 k0 t1"},
     {0, "40 RRR", 0, "m0 b1"},
@@ -365,51 +368,51 @@ static const struct wiersz inv[] = {
     {"D    ~Q~%~O", "200", "D      ~O", "e99"},
 };
 
-/* The edge: nobody enters, a heroine on it counts for nothing, no crate goes over it. */
-static void brzeg(void) {
-    uloz("D");
+/* The edge: nobody enters it, a heroine on it doesn't count, no crate is pushed onto it. */
+static void edge(void) {
+    lay("D");
     plansza[1] = NIC;
     plansza[2] = DORVA;
-    CHECK(start() == 1 && tu(1, 1));
-    rusz("UL", "");
-    CHECK(tu(1, 1));
-    uloz("SD");
+    CHECK(start() == 1 && is_here(1, 1));
+    act("UL", "");
+    CHECK(is_here(1, 1));
+    lay("SD");
     plansza[KOLUMNY] = NIC;
     start();
-    rusz("LL", "");
-    CHECK(tu(1, 2) && pole(1, 0) == NIC);
+    act("LL", "");
+    CHECK(is_here(1, 2) && cell(1, 0) == NIC);
 }
 
-/* Held and turned, the stick makes her as fast as on a straight way, wherever the corners are; pressed early, both ways
-   are held up to the corner. A tracker takes 6.75 ticks a cell. */
-static void zakrety(void) {
-    static const byte bity[2] = {KIJ_PRAWO, KIJ_DOL};
-    byte prosto, wczesniej, odcinek, krok, czeka;
-    unsigned ile, pola, i;
-    for (prosto = 1; prosto <= 5; ++prosto)
-        for (wczesniej = 0; wczesniej <= 4; ++wczesniej) {
-            const byte odcinki = 17 / prosto * 2;
+/* With a held stick she is as fast round corners as on a straight way, wherever they are; also if the next direction is
+   pressed early, so that two are held up to the corner. For comparison, a tracker takes 6.75 ticks for a cell. */
+static void corners(void) {
+    static const byte bits[2] = {KIJ_PRAWO, KIJ_DOL};
+    byte straight, early, leg, step, wait;
+    unsigned count, cells, i;
+    for (straight = 1; straight <= 5; ++straight)
+        for (early = 0; early <= 4; ++early) {
+            const byte legs = 17 / straight * 2;
             memset(plansza, MUR_V, POLA);
             plansza[i = KOLUMNY + 1] = DORVA;
-            for (odcinek = 0; odcinek < odcinki; ++odcinek)
-                for (krok = 0; krok < prosto; ++krok)
-                    plansza[i += odcinek & 1 ? KOLUMNY : 1] = NIC;
+            for (leg = 0; leg < legs; ++leg)
+                for (step = 0; step < straight; ++step)
+                    plansza[i += leg & 1 ? KOLUMNY : 1] = NIC;
             start();
-            ile = pola = 0;
-            for (odcinek = 0; odcinek < odcinki; ++odcinek)
-                for (krok = 0; krok < prosto; ++krok, ++pola)
-                    for (i = dorva_x + dorva_y, czeka = KROK; dorva_x + dorva_y == i && ile < 2000; ++ile, --czeka) {
-                        drazek = 15 - bity[odcinek & 1];
-                        if (pola && krok == prosto - 1 && czeka <= wczesniej)
-                            drazek -= bity[~odcinek & 1];
+            count = cells = 0;
+            for (leg = 0; leg < legs; ++leg)
+                for (step = 0; step < straight; ++step, ++cells)
+                    for (i = dorva_x + dorva_y, wait = KROK; dorva_x + dorva_y == i && count < 2000; ++count, --wait) {
+                        drazek = 15 - bits[leg & 1];
+                        if (cells && step == straight - 1 && wait <= early)
+                            drazek -= bits[~leg & 1];
                         takt();
                     }
-            CHECK(ile * 100 < pola * 620);
+            CHECK(count * 100 < cells * 620);
         }
 }
 
-/* Two effects sound at a time, and none of them on the voices of the tune. */
-static void dzwieki(void) {
+/* Two effects can sound at a time, and never on the voices of the tune. */
+static void sounds(void) {
     byte* const pokey = (byte*)0xD200; /* pitch and loudness of four voices; plain memory here */
     byte i;
     memset(pokey, 0xC3, 8);
@@ -418,7 +421,7 @@ static void dzwieki(void) {
     zagraj(EF_KROK);
     graj_dzwiek();
     CHECK((pokey[1] & 15) == 15 && (pokey[3] & 15));
-    zagraj(EF_MONETA); /* in the place of the step */
+    zagraj(EF_MONETA); /* replaces the step */
     zagraj(EF_KROK);
     graj_dzwiek();
     CHECK((pokey[1] & 15) == 15 && (pokey[3] & 15) == 8);
@@ -426,7 +429,7 @@ static void dzwieki(void) {
         graj_dzwiek();
     CHECK((pokey[1] & 15) == 15 && !pokey[3]);
     zagraj(EF_MASKA);
-    zagraj(EF_OTWARTE); /* the greater ones stay */
+    zagraj(EF_OTWARTE); /* the more important ones stay */
     zagraj(EF_MASKA);
     graj_dzwiek();
     CHECK((pokey[1] & 15) == 15 && (pokey[3] & 15) == 12);
@@ -435,60 +438,60 @@ static void dzwieki(void) {
     CHECK(!pokey[1] && !pokey[3]);
     for (i = 4; i < 8; ++i)
         CHECK(pokey[i] == 0xC3);
-    uloz("Dw");
-    rusz("r 1", "");
+    lay("Dw");
+    act("r 1", "");
     CHECK(efekt == EF_WODA);
-    uloz("Db");
-    rusz("r 1", "");
+    lay("Db");
+    act("r 1", "");
     CHECK(efekt == EF_BAGNO);
 }
 
-/* A trail is 128 steps long, however old the one before is. */
-static void trop(void) {
+/* A trail is 128 steps long, whatever older trail there is. */
+static void trail(void) {
     byte i;
     nowa_gra();
-    uloz("D        |    /|||||||||||||");
-    rusz("RRRRRRRR", "");
+    lay("D        |    /|||||||||||||");
+    act("RRRRRRRR", "");
     for (i = 0; i < 127 / 2; ++i)
-        rusz("LR", "");
+        act("LR", "");
     CHECK(zapach[44] == 0 && zapach[48] != 0);
 }
 
-static unsigned long ziarno_testu = 1;
-static byte losowy(void) {
-    ziarno_testu = ziarno_testu * 1103515245UL + 12345;
-    return (byte)(ziarno_testu >> 16);
+static unsigned long seed = 1;
+static byte random_byte(void) {
+    seed = seed * 1103515245UL + 12345;
+    return (byte)(seed >> 16);
 }
 
-/* Any 800 bytes: thousands of ticks with a shaken stick. Nothing outside the arrays and nothing on the edge
-   is ever written, the heroine stays inside, and the figures in their ranges. */
-static void losowe(void) {
-    byte* const przed = plansza - 256;
-    byte* const za = plansza + POLA;
-    static byte brzeg[POLA], straz[256];
-    static const byte zera[224];
+/* Boards of random bytes, thousands of ticks with random input. Nothing outside the arrays and nothing on the edge is
+   ever written, the heroine stays inside, and the figures stay in their ranges. */
+static void random_boards(void) {
+    byte* const before = plansza - 256;
+    byte* const behind = plansza + POLA;
+    static byte edge[POLA], marks[256];
+    static const byte zeros[224];
     byte n;
     unsigned i;
     for (n = 0; n < 10; ++n) {
         for (i = 0; i < POLA; ++i) {
-            plansza[i] = losowy();
+            plansza[i] = random_byte();
             if (n & 1)
                 plansza[i] &= 0xBF; /* tiles only */
             if (n & 2)
-                plansza[i] &= losowy(); /* more room */
+                plansza[i] &= random_byte(); /* more room */
         }
-        plansza[(1 + losowy() % 18) * KOLUMNY + 1 + losowy() % 38] = DORVA;
-        memcpy(brzeg, plansza, POLA);
-        memset(straz, 0xC3, 256);
-        memset(przed, 0xC3, 256);
-        memset(za, 0xC3, 224);
-        cel_masek = 1 + losowy() % 9;
+        plansza[(1 + random_byte() % 18) * KOLUMNY + 1 + random_byte() % 38] = DORVA;
+        memcpy(edge, plansza, POLA);
+        memset(marks, 0xC3, 256);
+        memset(before, 0xC3, 256);
+        memset(behind, 0xC3, 224);
+        cel_masek = 1 + random_byte() % 9;
         nowa_gra();
         CHECK(start());
         for (i = 0; i < 3000; ++i) {
             if (i % 7 == 0)
-                drazek = losowy() & 15;
-            spust = losowy() & 1;
+                drazek = random_byte() & 15;
+            spust = random_byte() & 1;
             takt();
             if (dorva_x < 1 || dorva_x > 38 || dorva_y < 1 || dorva_y > 18 || energia > 99 || bomby > 99)
                 break;
@@ -497,38 +500,41 @@ static void losowe(void) {
             wynik = 0;
         }
         CHECK(i == 3000);
-        CHECK(!memcmp(przed, straz, 256) && !memcmp(za, straz, 224));
-        CHECK(!memcmp(pod + POLA, zera, 224) && !memcmp(stan + POLA, zera, 224) && !memcmp(zapach + POLA, zera, 224));
+        CHECK(!memcmp(before, marks, 256) && !memcmp(behind, marks, 224));
+        CHECK(!memcmp(pod + POLA, zeros, 224) && !memcmp(stan + POLA, zeros, 224) &&
+              !memcmp(zapach + POLA, zeros, 224));
         for (i = 0; i < POLA; ++i)
-            if ((i < 40 || i >= 760 || i % 40 == 0 || i % 40 == 39) && plansza[i] != brzeg[i])
+            if ((i < 40 || i >= 760 || i % 40 == 0 || i % 40 == 39) && plansza[i] != edge[i])
                 break;
         CHECK(i == POLA);
     }
 }
 
-#define TABELA(nazwa, wiersze)                                                                                         \
-    { nazwa, wiersze, sizeof(wiersze) / sizeof(*wiersze), 0 }
+#define TABLE(name, rows)                                                                                              \
+    { name, rows, sizeof(rows) / sizeof(*rows), 0 }
 
 static const struct {
-    const char* nazwa;
-    const struct wiersz* wiersze;
-    byte ile;
+    const char* name;
+    const struct row* rows;
+    byte count;
     void (*test)(void);
-} grupy[] = {TABELA("chodzenie", chodzenie), TABELA("branie", branie),     TABELA("pchanie", pchanie),
-             TABELA("bomby", bomby_i_mury),  TABELA("wedrowcy", wedrowcy), TABELA("strzelanie", strzelanie),
-             TABELA("zywioly", zywioly),     TABELA("inv", inv),           {"brzeg", 0, 0, brzeg},
-             {"zakrety", 0, 0, zakrety},     {"dzwieki", 0, 0, dzwieki},   {"trop", 0, 0, trop},
-             {"losowe", 0, 0, losowe}};
+} groups[] = {TABLE("walking", walking),      TABLE("taking", taking),
+              TABLE("pushing", pushing),      TABLE("bombs", bombs_and_walls),
+              TABLE("wanderers", wanderers),  TABLE("shooting", shooting),
+              TABLE("elements", elements),    TABLE("inv", inv),
+              {"edge", 0, 0, edge},           {"corners", 0, 0, corners},
+              {"sounds", 0, 0, sounds},       {"trail", 0, 0, trail},
+              {"random", 0, 0, random_boards}};
 
 int main(int argc, char* argv[]) {
     byte i;
     nowa_gra();
     nowy_etap();
-    for (i = 0; i < sizeof(grupy) / sizeof(*grupy); ++i)
-        if (argc < 2 || !strcmp(argv[1], grupy[i].nazwa)) {
-            sprawdz(grupy[i].wiersze, grupy[i].ile);
-            if (grupy[i].test)
-                grupy[i].test();
+    for (i = 0; i < sizeof(groups) / sizeof(*groups); ++i)
+        if (argc < 2 || !strcmp(argv[1], groups[i].name)) {
+            check_table(groups[i].rows, groups[i].count);
+            if (groups[i].test)
+                groups[i].test();
         }
-    return bledy > 255 ? 255 : (int)bledy;
+    return failures > 255 ? 255 : (int)failures;
 }

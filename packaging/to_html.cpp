@@ -1,4 +1,4 @@
-// na_html FROM.md TO.html: a document of the package as a page that any browser shows.
+// to_html FROM.md TO.html: turns a document of the package into a page for any browser.
 #include <QFile>
 #include <QGuiApplication>
 #include <QRegularExpression>
@@ -17,7 +17,7 @@ code { background: #eee; }
 h2 { border-bottom: 1px solid #bbb; margin-top: 2em; }
 </style></head>)";
 
-// The anchor of a heading, as the documents' links spell it: lower case, no punctuation, dashes for spaces.
+// The anchor of a heading, as the documents' links have it: lower case, no punctuation, dashes for spaces.
 QString anchorOf(QString heading) {
     static const QRegularExpression TAG("<[^>]*>"),
         PUNCTUATION("[^\\w\\s-]", QRegularExpression::UseUnicodePropertiesOption);
@@ -37,7 +37,7 @@ QString withAnchors(QString html) {
     }
 }
 
-// Qt writes every look into the elements themselves; here the style sheet has the say, and links lead to pages.
+// Removes the styles that Qt writes into every element, since the page has a style sheet; makes links lead to pages.
 QString plain(QString html) {
     const struct {
         const char* pattern;
@@ -47,7 +47,7 @@ QString plain(QString html) {
                 {"<span style=\"[^\"]*monospace[^\"]*\">(.*?)</span>", "<code>\\1</code>"},
                 {"</?span[^>]*>", ""},
                 {" (style|width|cellspacing|cellpadding|border|title)=\"[^\"]*\"", ""},
-                {"</code></pre>\\s*<pre><code>", "\n"}, // Qt makes an element of every line
+                {"</code></pre>\\s*<pre><code>", "\n"}, // Qt makes every line of a block an element
                 {"(href=\"\\w+)\\.md", "\\1.html"}};
     for (const auto& change : CHANGES)
         html.replace(QRegularExpression(change.pattern, QRegularExpression::DotMatchesEverythingOption), change.with);
