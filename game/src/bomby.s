@@ -1,4 +1,4 @@
-; Bombs: the fuse, the blast, the smoke that is left.
+; Bombs: the fuse, the blast, and the smoke after it.
 .include "reguly.inc"
 .export odpalona, epicentrum, wybuch
 .importzp wsk, wpod, wstan, kod, kolej
@@ -33,7 +33,7 @@ odpalona:
         lda #0
         jmp ustaw_licznik
 
-; The blast: nine cells. Bombs in reach go off in their turn, blocks crack, the heroine is wounded.
+; The blast of nine cells. Bombs in reach go off when their turn comes, blocks crack, the heroine is wounded.
 epicentrum:
         dzwiek EF_WYBUCH
         ldx #LICZBA_POL - 1

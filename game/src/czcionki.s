@@ -1,5 +1,5 @@
-; Fonts, made at the start: the text font with Polish capitals, the panel's figures with icons, and the
-; character set of a world with a picture for the codes that are no tiles.
+; Fonts, made at the start: the text font with Polish capitals, and the panel's digits with icons. Also the character
+; set of a world, with a picture for the codes that are no tiles.
 .include "atari.inc"
 .include "reguly.inc"
 .export zrob_czcionki, wez_zestaw, otworz_wyjscie, czcionka, czcionka_panelu, zestaw
@@ -9,8 +9,7 @@ czcionka: .res 1024     ; the ROM font plus nine Polish capitals
 zestaw:          .res 1024              ; the world's tiles
 czcionka_panelu: .res 512 ; 64 characters for the wide panel
 
-; The character sets of the three worlds, as the companion tool exports them; tiles are characters 0..63, and 64 is the
-; exit when it is open.
+; The built character sets of the worlds: tiles are characters 0..63, and 64 is the open exit.
 .segment "ZNAKI"
 swiaty:
         .incbin "FNT01.ORN.ND", 0, 1024
@@ -18,8 +17,8 @@ swiaty:
         .incbin "FNT21.ORN.ND", 0, 1024
 
 .segment "RODATA"
-; Polish capitals stand on the codes of lower-case letters. Each is a plain capital with a mark
-; in the top row, in the bottom row, or, for L, a stroke in the middle.
+; Polish capitals have the codes of lower-case letters. Each is a plain capital with a mark in the top or bottom row, or
+; for L with a stroke in the middle.
 polskie:        .byte  97, 99,101,108,110,111,115,120,122   ; A, C, E, L, N, O, S, Z', Z.
 podstawa:       .byte  33, 35, 37, 44, 46, 47, 51, 58, 58
 gorny:          .byte   0,$0C,  0,  0,$0C,$0C,$0C,$0C,$18
@@ -28,7 +27,7 @@ LICZBA_POLSKICH = * - dolny
 KOD_L = 108
 SWIATLO = %00101000                     ; the two pixels of a gateway
 
-; icons of the panel, on the codes of signs that a panel never shows
+; icons of the panel; they have codes of characters that a panel never shows
 ikony:
         .byte %00000000, %01111000, %11001100, %11001111, %11001111, %11001101, %01111001, %00000000  ; key
         .byte %00001100, %00010000, %00111100, %01111110, %01111110, %01111110, %00111100, %00000000  ; bomb
@@ -111,7 +110,7 @@ zrob_czcionki:
         bpl @litera
         rts
 
-; dokad := address of the shape of character A (0..127) in the text font. Keeps X.
+; dokad := address of character A (0..127) in the text font. Keeps X.
 adres_znaku:
         ldy #0
         sty dokad+1
@@ -128,7 +127,7 @@ adres_znaku:
         sta dokad+1
         rts
 
-; The character set of world A (0..2) comes to where ANTIC reads it: 64 tiles, and a chequer for the other codes.
+; Copies the character set of world A (0..2) to where ANTIC reads it: 64 tiles, and a chequer for the other codes.
 wez_zestaw:
         asl
         asl
@@ -166,7 +165,7 @@ wez_zestaw:
         bne @krata
         rts
 
-; The exit looks open, whatever the colours of the stage: a light shines in the gateway by turns. Once a frame.
+; Called once a frame while the exit is open: a light in the gateway goes on and off, visible in any colours.
 otworz_wyjscie:
         lda RTCLOK+2
         and #16

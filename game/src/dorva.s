@@ -1,5 +1,5 @@
-; The heroine: what she is to do, her steps, what the ground does to her, how she looks. What each tile does as she
-; steps at it stands in wejscia.s.
+; The heroine: stick and trigger, her steps, what the ground does to her, how she looks. What each tile does when she
+; steps at it is in wejscia.s.
 .include "reguly.inc"
 .export dorva_takt, podstaw_dorve, rysuj_dorve, policz_wspolrzedne, dorva_inv
 .export na_pole, na_to, wejdz, mur, zapadnij, zostaw_zapach
@@ -9,15 +9,15 @@
 .import zran, zabierz, zglos_efekt
 
 KIERUNKI_DRAZKA = 4
-PIERWSZY_KROK = 10                      ; ticks from the step of a press to the first one of holding on, after a rest
+PIERWSZY_KROK = 10                      ; ticks from the step of a press to the first one of holding, after a rest
 ODPOCZYNEK = 6                          ; idle ticks that make a rest
-GLEBOKO   = 4                           ; so deep in the swamp she drowns
+GLEBOKO   = 4                           ; how deep in the swamp she drowns
 
 .segment "ZEROPAGE"
 dorva:   .res 2         ; her cell, 0..799
 dorva_x: .res 1         ; its column and row
 dorva_y: .res 1
-zegar:   .res 1         ; number of her latest step, 1..TROP and then 1 again
+zegar:   .res 1         ; number of her latest step, 1..TROP and then from 1 again
 kier:    .res 1         ; where she looks
 cel_kod: .res 1         ; the code of the tile that she steps at
 co_robi: .res 2         ; what it does
@@ -25,24 +25,24 @@ na_plansze: .res 1      ; a code on its way to the board
 odstep:  .res 1         ; ticks until she can make another step
 powtorka: .res 1        ; ticks until a direction that is held makes another step
 bezruch: .res 1         ; ticks without a step
-krzyk:   .res 1         ; ticks that she still screams
-ochrona: .res 1         ; ticks that nothing wounds her
+krzyk:   .res 1         ; ticks for which she still screams
+ochrona: .res 1         ; ticks for which nothing can wound her
 byl_spust: .res 1       ; the trigger was pressed in the tick before
 byl_drazek: .res 1      ; directions pressed in the tick before
-wybrany: .res 1         ; the newest of those that are held
+wybrany: .res 1         ; the newest of the directions held
 nowy:    .res 1         ; a direction pressed since the last step
-chce:    .res 1         ; the directions of which one is looked for
-zagrodzona: .res 1      ; not 0: there was no getting on in the direction just tried
+chce:    .res 1         ; the directions to choose from
+zagrodzona: .res 1      ; not 0: she couldn't go in the direction just tried
 glebokosc: .res 1       ; 0 on firm ground, 1 knees, 2 armpits, 3 eyes
 tonie:   .res 1         ; ticks since she sank deeper
 po_bagnie: .res 1       ; she has just come out of the swamp
-brodzi:  .res 1         ; ticks that she has stood in this water
+brodzi:  .res 1         ; ticks for which she has stood in this water
 opor:    .res 1         ; tugs at thickets since she came here
 naczynia: .res 1        ; jars broken so far
 wsk_dorvy: .res 2
 
 .segment "BSS"
-dorva_inv: .res 1       ; bit 7 of the tile that she started as
+dorva_inv: .res 1       ; bit 7 of the tile that stood for her at the start
 gdzie_lo: .res TROP     ; the cells of her last steps, by the number of the step
 gdzie_hi: .res TROP
 
@@ -72,7 +72,7 @@ podstaw_dorve:
         sta wybrany
         sta nowy
         lda #1
-        sta byl_spust                   ; a trigger that is held already means nothing
+        sta byl_spust                   ; a trigger that is held already has no effect
         sta zegar
         lda #DOL
         sta kier
@@ -80,7 +80,7 @@ podstaw_dorve:
         sta bezruch
         rts
 
-; Points at her own surroundings.
+; Points the four pointers at her own surroundings.
 wskaz_dorve:
         lda dorva
         ldx dorva+1
@@ -134,7 +134,7 @@ dorva_takt:
         jsr wez_kierunek
         cpx kier
         beq @od_nowa
-        lda bezruch                     ; a turn on the way doesn't slow her
+        lda bezruch                     ; a turn doesn't slow her down
         cmp #ODPOCZYNEK
         bcc @krok
 @od_nowa:
@@ -192,7 +192,7 @@ rysuj_dorve:
         sta (wsk_dorvy),y
         rts
 
-; What she stands in works on her: the swamp draws her down, fire wounds her, water takes some energy now and then.
+; The effect of what she stands in: the swamp draws her down, fire wounds her, water takes some energy now and then.
 otoczenie:
         lda glebokosc
         beq @grunt
@@ -238,8 +238,8 @@ zapadnij:
         sta wynik
         rts
 
-; wybrany := the direction that is held; the newest one wins while several are. nowy := one that has been pressed since
-; the last step, so a tap between two steps is not forgotten.
+; wybrany := the direction held, of several the newest. nowy := a direction pressed since the last step, so that a tap
+; between two steps isn't lost.
 sprawdz_drazek:
         lda drazek
         and #15
@@ -254,12 +254,12 @@ sprawdz_drazek:
 @stare: lda byl_drazek
         and wybrany
         bne @trzyma
-        lda byl_drazek                  ; the newest has been let go
+        lda byl_drazek                  ; the newest has been released
 @trzyma:
         sta wybrany
         rts
 
-; Fire, once a press: she lays a bomb where she stands. Its fuse starts when she goes.
+; The trigger, once for each press: she lays a bomb where she stands. Its fuse starts when she leaves.
 sprawdz_spust:
         lda spust
         bne @puszczony
@@ -288,7 +288,7 @@ sprawdz_spust:
         sta byl_spust
 @nic:   rts
 
-; A step in direction X, whatever comes of it.
+; Tries a step in direction X.
 zrob_krok:
         stx kier
         lda #KROK
@@ -312,15 +312,15 @@ zrob_krok:
         lda wejscia_hi,x
         sta co_robi+1
         jmp (co_robi)                   ; Y: where to
-; What bars her way altogether.
+; A tile that bars her way.
 mur:    inc zagrodzona
         rts
 
-; She goes on a tile that stays beneath her.
+; She goes there, and the tile stays beneath her.
 na_pole:
         dzwiek EF_KROK
 na_to:  lda cel_kod
-; She goes there, and A is beneath her.
+; She goes there, with A beneath her.
 wejdz:  sta na_plansze
         ldy #TU
         lda (wpod),y
@@ -364,8 +364,8 @@ krok_x: .byte <-1, 1, 0, 0
 krok_y: .byte 0, 0, <-1, 1
 .segment "CODE"
 
-; Her cell smells of this step. The number of a step comes again after TROP more; whatever cell still has it loses its
-; scent then, so no scent outlives its trail.
+; Puts the scent of this step into her cell. Step numbers repeat after TROP steps; the cell that still has the same
+; number then loses its scent, so no scent lasts longer than its trail.
 zostaw_zapach:
         ldx zegar
         inx

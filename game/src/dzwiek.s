@@ -1,11 +1,11 @@
-; Sound effects: voices 1 and 2, driven by the vertical blank; the tune has the other two. An effect takes the voice that
-; is free or has the lesser effect (see the list in reguly.inc). It waits for nothing: while both have greater ones, it is
-; lost.
+; Sound effects on voices 1 and 2, driven by the vertical blank; the tune has the other two. An effect takes the voice
+; that is free or has the less important effect (see the list in reguly.inc). If both have more important ones, it is
+; dropped.
 .include "atari.inc"
 .include "reguly.inc"
 .export zagraj, graj_dzwiek, cisza
 
-GLOS1 = 0                               ; a voice as an index: of its registers, of its bytes below
+GLOS1 = 0                               ; a voice: index into its registers and into the bytes below
 GLOS2 = 2
 
 .segment "ZEROPAGE"
@@ -17,8 +17,8 @@ dlugosc: .res 1
         .res 2
 
 .segment "RODATA"
-; By effect: pitch (AUDF), its change a frame, distortion and loudness (AUDC), length in frames. The loudness
-; falls towards the end.
+; By effect: pitch (AUDF), its change per frame, distortion and loudness (AUDC), length in frames. The loudness falls
+; towards the end.
 ;                 -   step dig push shot knock water coin take door bomb magic swamp mask pain blast open life
 wysokosc: .byte   0,  20,  60, 120,  24,  90,    6,  50,  80, 140, 100,  160,  220,  60,  90,  40, 120,  70
 zmiana:   .byte   0,   0,   8,   4,   6,  16,    4, <-6, <-5, <-9,   4,  <-9,    2, <-4,   9,   6, <-5, <-3
@@ -38,7 +38,7 @@ cisza:  lda #0
         sta AUDCTL
         rts
 
-; Starts effect A, unless both voices have greater ones.
+; Starts effect A, unless both voices have more important ones.
 zagraj: tay
         beq @nie
         ldx #GLOS1
@@ -55,7 +55,7 @@ zagraj: tay
         sta glos,x
         lda trwanie,y
         sta dlugosc,x
-        sty ktory,x                     ; the last, for a frame may begin amid this
+        sty ktory,x                     ; last, since an interrupt may come in the middle of this
 @nie:   rts
 
 ; One frame of the effects.

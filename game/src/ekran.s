@@ -21,7 +21,7 @@ panel_cyfr: .res 20
 .segment "BSS"
 kolory: .res 12                         ; the slots of the stage
 obraz:  .res 1          ; what ANTIC fetches for the picture to come
-po_liscie: .res 2       ; the first interrupt of the list on show
+po_liscie: .res 2       ; the first interrupt of the current display list
 
 .segment "LISTY"
 PUSTE8  = $70
@@ -35,7 +35,7 @@ TRYB6   = $06                           ; text, 20 columns in four colours
 SKOK    = $41
 
 OBRAZ   = $22                           ; playfield of 40 columns
-GRACZE  = $18                           ; players, a line of theirs on each scan line
+GRACZE  = $18                           ; players, at single-line resolution
 
 lista_planszy:
         .byte PUSTE8, PUSTE8, PUSTE2
@@ -131,7 +131,7 @@ pokaz:  stx CHBAS
         sta SDMCTL
         jmp czekaj_klatke
 
-; The tiles of a text screen wear the stage's colours.
+; Gives the tiles of a text screen the stage's colours.
 wez_kolory:
         ldx #4
 @kolor: lda kolory + 4,x
@@ -149,7 +149,7 @@ ustaw_dli:
         stx po_liscie+1
         rts
 
-; Takes the picture off the screen, until the next one is shown. Keeps X.
+; Switches the picture off until the next one is shown. Keeps X.
 zgas_ekran:
         lda #0
         sta SDMCTL
@@ -198,8 +198,8 @@ czekaj_klatki:
         bne czekaj_klatki
         rts
 
-; Every frame: the interrupts start anew, effects and tune go on.
-co_klatke: cld                             ; the score may be in the middle of a sum
+; Once a frame: resets the chain of interrupts and plays a frame of effects and tune.
+co_klatke: cld                             ; the interrupted program may be adding points in decimal mode
         lda po_liscie
         sta VDSLST
         lda po_liscie+1
@@ -222,7 +222,7 @@ dli_plansza:
         pha
         tya
         pha
-        lda #>zestaw                    ; all at hand: the first line of the board begins soon
+        lda #>zestaw                    ; load everything now: the first line of the board begins soon
         ldx kolory + 5
         ldy kolory + 6
         sta WSYNC

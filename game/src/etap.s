@@ -1,4 +1,4 @@
-; The stage set-up: takes a stage record out of its bank.
+; Loads a stage: copies its record out of its bank.
 .include "atari.inc"
 .include "rekord.inc"
 .include "reguly.inc"
@@ -18,19 +18,19 @@ gdzie:   .res 2
 .segment "BSS"
 ostatni: .res 1
 swiat:   .res 1
-swiat_zestawu: .res 1   ; whose tiles are at hand
+swiat_zestawu: .res 1   ; the world whose tiles are loaded
 powitanie: .res 32
 
 .segment "CODE"
 
-; Takes stage numer_etapu to be played: with the picture off, since the board on show is the one that changes, and with
-; the tiles as they were drawn, the exit closed.
+; Loads stage numer_etapu to be played. Switches the picture off, since it would show the board while it changes, and
+; loads the tiles again, so that the exit is closed.
 wczytaj_etap:
         jsr zgas_ekran
         lda #ZADEN
         sta swiat_zestawu
-; Takes stage numer_etapu: its board, colours, goal, flag, world, greeting, and the tiles if its world is another one than
-; before. The description stays where it is.
+; Loads stage numer_etapu: board, colours, goal, flag, world and greeting, and the tiles if the world changes. The game
+; doesn't use the description.
 wez_etap:
         ldx #BANK0
         lda numer_etapu
@@ -40,7 +40,7 @@ wez_etap:
         bcc :+
         ldx #BANK1
         sbc #ETAPY_W_BANKU
-:       stx PORTB                       ; interrupts may come: nothing of ours lies in the window
+:       stx PORTB                       ; interrupts may go on: nothing that they need is in the window
         asl
         asl
         adc #>OKNO
@@ -86,7 +86,7 @@ wez_etap:
         lda (rekord),y
         cmp #SWIATY
         bcc :+
-        lda #0                          ; a world that there is none of
+        lda #0                          ; there is no such world
 :       sta swiat
         ldx #0
 @litera:

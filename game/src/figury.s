@@ -1,4 +1,4 @@
-; The figures of play: energy, points, what she carries, and the tick's sound.
+; The figures of the game: energy, points, what she carries; also the sound of the tick.
 .include "reguly.inc"
 .export zran, zabierz, dodaj_energie, dodaj_bombe, dodaj_klucz, dodaj_monete, dodaj_punkty, otworz
 .export zglos_efekt, punkty
@@ -16,7 +16,7 @@ punkty: .res 3          ; six BCD digits, the highest first
 
 .segment "CODE"
 
-; Wounds her by A, unless the last wound is fresh. Keeps Y.
+; Wounds her by A, unless she was wounded a moment ago. Keeps Y.
 zran:   ldx ochrona
         bne bez_rany
         ldx #TAKTY_OCHRONY
@@ -26,7 +26,7 @@ zran:   ldx ochrona
         pha
         dzwiek EF_BOL
         pla
-; Takes A of her energy. Without any left she dies.
+; Takes A of her energy. When none is left she dies.
 zabierz:
         sta ile
         lda energia
@@ -42,7 +42,7 @@ zabierz:
 bez_rany:
         rts
 
-; The tick sounds like A, unless it sounds like something louder already. Keeps X and Y.
+; Makes A the sound of the tick, unless it has a more important one. Keeps X and Y.
 zglos_efekt:
         cmp efekt
         bcc :+
@@ -90,7 +90,7 @@ dodaj_klucz:
 :       dzwiek EF_BIERZE
         rts
 
-; A coin: points, and a life for every so many. A life that an earlier try on this stage has brought does not come again.
+; A coin: points, and a life for every so many coins, but not one that an earlier try on this stage has earned already.
 dodaj_monete:
         lda #$20
         ldx #$00

@@ -1,4 +1,4 @@
-; The game: a stage after the other, tries, lives, the end.
+; The game: one stage after the other, tries, lives, the end.
 .include "atari.inc"
 .include "reguly.inc"
 .export graj, pierwszy_etap
@@ -11,39 +11,39 @@
 .import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, ucisz_muzyke, dodaj_punkty
 
 CZAS_SMIERCI = 50
-PREMIA_KOLUMNA = 26                     ; 17 letters in the middle of 40, the figures last
+PREMIA_KOLUMNA = 26                     ; the message has 17 characters, centred in 40; digits come last
 ETAPY     = 32
 CH_ESC    = 28
 CH_BRAK   = $FF
-CZAS_PYTANIA = 50                       ; frames in which START or ESC may be pressed again
+CZAS_PYTANIA = 50                       ; frames within which START or ESC has to be pressed again
 
-; the keys of the game, a bit each
-KONSOLA   = %0111                       ; START, SELECT, OPTION as CONSOL has them, but 1 is down
+; the keys of the game, one bit each
+KONSOLA   = %0111                       ; START, SELECT, OPTION: the bits of CONSOL, but 1 means pressed
 ESC       = %1000
-W_GORZE   = %0100                       ; a bit of SKSTAT: no key of the keyboard is down
+W_GORZE   = %0100                       ; the bit of SKSTAT that is 1 while no key is down
 
-; what wynik says beside the rules' own results, once graj_etap has returned
+; values of wynik after graj_etap that the rules don't have
 PODDANA   = 0
 NOWA_GRA  = 3
 OD_NOWA   = 4
 
 .segment "ZEROPAGE"
 klatka:  .res 1         ; the frame that the tick began in
-spoznione: .res 1       ; ticks that took longer than their frame: none, and scripts/play-check.py looks
+spoznione: .res 1       ; ticks that took longer than their frame; scripts/play-check.py expects none
 
 .segment "BSS"
-pierwszy_etap: .res 1   ; the stage that the title offers and START begins at: chosen there, or reached in the last game
+pierwszy_etap: .res 1   ; the stage that the title offers and START begins with: chosen there, or reached in the last game
 do_panelu: .res 1       ; frames until the panel is written again
 powitanie_trwa: .res 1
 pauza:   .res 1
 klawisze: .res 1        ; the keys that are down
-byly_klawisze: .res 1   ; those that were in the frame before
+byly_klawisze: .res 1   ; those that were down in the frame before
 pytanie: .res 1         ; the message that asks for a second press, KOM_BRAK for none
 czas_pytania: .res 1
 
 .segment "CODE"
 
-; Plays from stage numer_etapu on, to the end of the game.
+; Plays the stages from numer_etapu on until the game ends.
 graj:   lda #0
         sta spoznione
         jsr ucisz_muzyke
@@ -100,12 +100,12 @@ graj:   lda #0
         sta pierwszy_etap
         jmp ekran_konca
 
-; Plays the stage on the board, which stands still until her first move and in a pause. wynik tells how it ends.
+; Plays the loaded stage. Nothing moves before her first move and during a pause. wynik says how the stage ended.
 graj_etap:
         lda #CH_BRAK
         sta CH
         lda #KONSOLA | ESC
-        sta byly_klawisze               ; what is held already is no press
+        sta byly_klawisze               ; a key that is held already doesn't count as pressed
         lda #1
         sta do_panelu
         sta powitanie_trwa
@@ -136,7 +136,7 @@ graj_etap:
         lda STRIG0
         sta spust
         jsr takt_dorvy
-        jsr rysuj_nakladke              ; before the beam comes to the board; the others may take longer
+        jsr rysuj_nakladke              ; before the beam gets to the board; the other tiles may come later
         jsr takt_innych
         lda otwarte
         beq :+
@@ -144,7 +144,7 @@ graj_etap:
 :       lda efekt
         jsr zagraj
         jsr info_takt
-        dec do_panelu                   ; the panel needs no more than every fourth frame
+        dec do_panelu                   ; every fourth frame is enough for the panel
         bne :+
         lda #4
         sta do_panelu
@@ -158,8 +158,8 @@ graj_etap:
 @koniec:
         jmp rysuj_panel
 
-; The keys mean the same in the greeting, in play and in a pause. START and ESC want a second press, since the first may
-; be a slip. C: one of them has ended the try, wynik tells how.
+; The keys mean the same in the greeting, in play and in a pause. START and ESC have to be pressed twice, since once may
+; be a slip. C: the try has ended, and wynik says how.
 sprawdz_klawisze:
         jsr czytaj_klawisze
         ldx #KOM_NOWA_GRA
@@ -179,7 +179,7 @@ sprawdz_klawisze:
         beq @nic
         dec czas_pytania
         bne @nic
-        lda #KOM_BRAK                   ; it has not been pressed again
+        lda #KOM_BRAK                   ; there was no second press
         sta pytanie
         lda pauza
         bne @slowo_pauzy
@@ -210,7 +210,7 @@ sprawdz_klawisze:
         sec
         rts
 
-; A := the keys that have been pressed in this frame. A key that is held repeats, but that is no press.
+; A := the keys pressed in this frame. The repeats of a held key don't count.
 czytaj_klawisze:
         lda CONSOL
         eor #$FF
@@ -224,7 +224,7 @@ czytaj_klawisze:
         lda SKSTAT
         and #W_GORZE
         bne @jest
-        lda byly_klawisze               ; a key is down: ESC, if it was
+        lda byly_klawisze               ; some key is down; it is ESC if ESC was down before
         and #ESC
         beq @jest
 @esc:   lda #ESC
@@ -237,7 +237,7 @@ czytaj_klawisze:
         stx byly_klawisze
         rts
 
-; A life is lost: a flash, her last cry, a word.
+; A life is lost: shows a flash and a message, and she screams.
 pokaz_strate:
         jsr rysuj_dorve
         jsr rysuj_nakladke
@@ -251,7 +251,7 @@ pokaz_strate:
         ldx #CZAS_SMIERCI
         jmp czekaj_klatki
 
-; The bonus for time in figures, at the end of its message.
+; Writes the bonus for time at the end of its message.
 pokaz_premie:
         lda premia
         jsr dwie_cyfry
@@ -259,7 +259,7 @@ pokaz_premie:
         sta linia_info + PREMIA_KOLUMNA + 1
         rts
 
-; What is left of the bonus for time turns into points, ten for each.
+; Turns what is left of the bonus for time into points, ten for each.
 policz_premie:
         lda #KOM_PREMIA
         sta komunikat

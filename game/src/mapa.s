@@ -1,7 +1,7 @@
 ; The loader map: every segment header, bank switch and filler of the file.
 ;
-; A loader copies each segment through the processor's own memory map, so a segment of one byte
-; at PORTB switches the bank for all that follow. The order here is the order in szablon.cfg.
+; A loader writes each segment to the memory that the processor sees, so a segment of one byte at PORTB switches the bank
+; for all that follow. The order is the same as in szablon.cfg.
 .include "atari.inc"
 .include "rekord.inc"
 .import sprawdz_pamiec, start
@@ -21,7 +21,7 @@
         .res bajty, 0
 .endmacro
 
-; A stage of the sample set, as it stands before a builder lays another one over it. A test build replaces the first.
+; A stage of the sample set. The builder replaces them all, a test build only the first.
 .macro etap bank, miejsce
         naglowek OKNO + miejsce * ETAP_ODSTEP, ETAP_BAJTY
         .incbin .sprintf("DETAP.%d", bank * 16 + miejsce + 1), 0, ETAP_BAJTY

@@ -1,11 +1,11 @@
-; The tune of the title: two voices, a step every few frames. It is silent while a stage is played.
+; The tune of the title, on two voices. There is none while a stage is played.
 .include "atari.inc"
 .export zacznij_muzyke, ucisz_muzyke, graj_muzyke
 
 KROK_MUZYKI = 9                         ; frames of an eighth
 GLOSNO_MELODII = 8
 GLOSNO_BASU = 5
-CZYSTY    = $A0                         ; distortion of a pure tone
+CZYSTY    = $A0                         ; distortion: none, a pure tone
 
 ; pitches: the divisor of the 64 kHz clock, from B below C to A two octaves up; C0 is about 131 Hz
 H_1 = 255
@@ -23,7 +23,7 @@ E1  = 96
 F1  = 91
 G1  = 81
 A1  = 72
-TRWA = 0                                ; the note before goes on
+TRWA = 0                                ; the note before is held
 
 .segment "RODATA"
 ; eight bars of eight eighths
@@ -37,7 +37,7 @@ melodia:
         .byte E1, D1, H0, D1,       E1, TRWA, Gs0, H0
         .byte A0, TRWA, E1, TRWA,   A1, TRWA, TRWA, TRWA
 OSEMEK = * - melodia
-; the bass, a note for two eighths
+; the bass, one note for two eighths
 bas:    .byte A0, E0, A0, E0
         .byte F0, C0, F0, C0
         .byte G0, D0, G0, D0
@@ -59,7 +59,7 @@ sila_basu: .res 1
 
 zacznij_muzyke:
         ldx gra
-        bne @juz                        ; the tune goes on from screen to screen
+        bne @juz                        ; it plays already, from one text screen to the next
         lda #OSEMEK - 1
         sta osemka
         lda #1
@@ -103,7 +103,7 @@ graj_muzyke:
         lda #GLOSNO_BASU * 2
         sta sila_basu
 @cichnie:
-        lda sila                        ; both fade, half a step of loudness a frame
+        lda sila                        ; both fade by half a step of loudness per frame
         lsr
         ora #CZYSTY
         sta AUDC3

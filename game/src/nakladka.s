@@ -1,5 +1,5 @@
-; The heroine's overlay: two players lie over her cell, so she has colours of her own on any board. The board keeps its
-; bytes. One player is her dress and hair, the other one her skin; their pixels are as large as those of a tile.
+; The heroine's overlay: two players cover her cell, so that she has colours of her own on any board. The board's bytes
+; don't change. One player is her dress and hair, the other her skin; their pixels are as large as those of a tile.
 .include "atari.inc"
 .include "reguly.inc"
 .export pokaz_nakladke, rysuj_nakladke, mrugnij_nakladka, schowaj_nakladke
@@ -8,7 +8,7 @@
 
 PIERWSZA_LINIA = 36                     ; scan line of the board's first row
 LEWY_BRZEG = 48                         ; colour clock of its first column
-SUKNIA    = $DE                         ; bright on the ground of every world
+SUKNIA    = $DE                         ; stands out from the ground of every world
 CERA      = $2A
 ZRANIONA  = $5A                         ; the dress while she flickers
 BIEL      = $0E                         ; all of her, as she blinks before her first move
@@ -18,22 +18,22 @@ WYS       = 8
 wsk_nakladki: .res 2    ; her cell on the board
 wiersze: .res 1         ; rows of her shape still to be drawn
 
-; Players at single-line resolution. ANTIC would find the missiles at the end of the board; none are on show.
+; Players at single-line resolution. The missiles would be where the board ends; none are shown.
 .segment "GRACZE"
 gracz0: .res 256
 gracz1: .res 256
 
 .segment "BSS"
-linia:  .res 1          ; where she has been drawn
+linia:  .res 1          ; the scan line where she was drawn
 
 .segment "RODATA"
-; a shape: eight rows, on the left the pixels of the dress, on the right those of the skin
+; a shape: eight rows; the left half are pixels of the dress, the right half those of the skin
 stojaca:   .byte %01100000, %10010110, %10010110, %01100000, %01101001, %01100000, %11110000, %00000110
 krzyczy: .byte %01101001, %00001111, %10010110, %10011001, %01100000, %01100000, %11110000, %00001001
 oczy:   .byte %01100000, %10010110, %10010110, %10010110, %00000000, %00000000, %00000000, %00000000
 pachy:  .byte %01100000, %10010110, %10010110, %01100000, %01101001, %00000000, %00000000, %00000000
 kolana: .byte %01100000, %10010110, %10010110, %01100000, %01101001, %01100000, %00000000, %00000000
-; each way in two frames
+; each direction in two frames
 w_dol:  .byte %01100000, %10010110, %10010110, %01100000, %01100001, %01101000, %11110000, %00000100
         .byte %01100000, %10010110, %10010110, %01100000, %01101000, %01100001, %11110000, %00000010
 w_prawo: .byte %01100000, %11000011, %11000011, %01100000, %01100001, %01100000, %11110000, %00001001
@@ -53,9 +53,9 @@ wzory:  .byte oczy - ksztalty, pachy - ksztalty, kolana - ksztalty, stojaca - ks
 
 .segment "CODE"
 
-; Begins to show her.
+; Starts to show the overlay.
 pokaz_nakladke:
-        lda #>gracz0 - 4                ; players begin a kilobyte behind the base
+        lda #>gracz0 - 4                ; players begin one kilobyte after PMBASE
         sta PMBASE
         lda #0
         tax
@@ -72,7 +72,7 @@ pokaz_nakladke:
         sta GRACTL
         jmp rysuj_nakladke
 
-; Blinks, so that nobody has to look for her: one frame of it.
+; One frame of blinking, so that nobody has to search for her.
 mrugnij_nakladka:
         lda RTCLOK+2
         and #24                         ; a quarter of the time
@@ -86,7 +86,7 @@ mrugnij_nakladka:
         sty PCOLR0+1
         rts
 
-; Takes her off the screen.
+; Hides the overlay.
 schowaj_nakladke:
         lda #0
         sta HPOSP0
@@ -96,7 +96,7 @@ schowaj_nakladke:
         sta GRAFP0+1
         rts
 
-; Lays the overlay where she is now.
+; Draws the overlay where she is now.
 rysuj_nakladke:
         ldx linia
         ldy #WYS

@@ -1,5 +1,5 @@
-; Texts. They are kept in screen codes; a lower-case letter is a Polish capital, as in the stage records:
-; a c e l n o s x z for A C E L N O S Z Z with their marks.
+; Texts, in screen codes. As in the stage records, lower-case letters are Polish capitals: a c e l n o s x z for
+; A C E L N O S Z Z with their marks.
 .include "atari.inc"
 .include "reguly.inc"
 .export pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi
@@ -18,7 +18,7 @@
 .endmacro
 
 .segment "ZEROPAGE"
-napis:  .res 2          ; the text to be written
+napis:  .res 2          ; where the text goes
 skad_pisze: .res 2
 
 .segment "RODATA"

@@ -26,7 +26,7 @@ MALO_ENERGII = 20
 
 .segment "ZEROPAGE"
 barwa_cyfr: .res 1
-zostalo: .res 1         ; frames that the message stays
+zostalo: .res 1         ; frames for which the message stays
 
 .segment "CODE"
 
@@ -136,7 +136,7 @@ czysc_info:
         sta napis+1
         rts
 
-; The number of the stage and its greeting fill the line: 8 + 32 characters.
+; Fills the info line with the number of the stage and its greeting: 8 + 32 characters.
 info_powitanie:
         jsr czysc_info
         lda #<t_etap_nr
@@ -165,7 +165,7 @@ info_komunikat:
         ldx komunikaty_hi,y
         jmp pisz_srodkiem
 
-; Every tick: a new message appears, an old one gives way to the greeting.
+; Called every tick: shows a new message; after a while the greeting replaces it.
 info_takt:
         lda komunikat
         bne info_komunikat

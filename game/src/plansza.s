@@ -1,7 +1,7 @@
-; The board: its cells, what lies beneath them, how a routine looks around and moves a tile.
+; The board: its cells, what is beneath them, and how routines look around and move tiles.
 ;
-; The board is its own picture: ANTIC shows the bytes of plansza. Three more arrays run beside it, all of them on page
-; borders, so that one low byte serves the pointers into all four.
+; The board is its own picture: ANTIC shows the bytes of plansza. Three more arrays belong to it. All four begin at the
+; start of a page, so that pointers to the same cell have the same low byte.
 ;   plansza   what stands in the cell
 ;   pod       what comes back when it leaves
 ;   stan      whose turn, edge flag, counter
@@ -21,11 +21,11 @@ stan:   .res 1024
 zapach: .res 1024
 
 .segment "ZEROPAGE"
-wsk:    .res 2          ; four pointers to the same cell, less TU
+wsk:    .res 2          ; four pointers to the same cell, minus TU
 wpod:   .res 2
 wstan:  .res 2
 wzap:   .res 2
-kolej:  .res 1          ; S_KOLEJ of the running turn
+kolej:  .res 1          ; S_KOLEJ in the current turn
 ziarno: .res 2          ; state of the random numbers
 pomoc:  .res 1
 
@@ -34,7 +34,7 @@ sasiad:   .byte TU - 1, TU + 1, TU - KOLUMNY, TU + KOLUMNY   ; by direction
 delta_lo: .byte <-1, 1, <-KOLUMNY, KOLUMNY
 delta_hi: .byte >-1, 0, >-KOLUMNY, 0
 
-; The properties of all 256 codes: 64 tiles, 64 codes that are none, and both again for INV.
+; The properties of all 256 codes: 64 tiles, 64 codes that are no tiles, and the same again for INV.
 .macro wlasnosci
         .byte C_PUSTE | C_DUCHOWE | C_KRUSZY                    ;  0 nothing
         .byte C_DUCHOWE | C_KRUSZY                              ;  1 earth
@@ -86,7 +86,7 @@ cechy:
 
 .segment "CODE"
 
-; Points wsk, wpod, wstan, wzap at the surroundings of the cell at A (low), X (high). The cell is none of the edge.
+; Points wsk, wpod, wstan, wzap at the surroundings of the cell at A (low), X (high), which is not on the edge.
 wskaz_pole:
         sec
         sbc #TU
@@ -111,7 +111,7 @@ wskaz_pole:
         sta wzap+1
         rts
 
-; Moves the four pointers one cell on in direction X.
+; Moves the four pointers to the next cell in direction X.
 przejdz:
         clc
         lda wsk
@@ -136,8 +136,8 @@ przejdz:
 @ta_sama:
         rts
 
-; A := properties of the cell at distance Y; 0 for the edge. Bit 7 (N) only for the heroine herself, other
-; pictures of her are statues. Keeps Y.
+; A := properties of the cell at distance Y; 0 on the edge. Bit 7 (N) is set only for the heroine herself; other tiles
+; that look like her are statues. Keeps Y.
 zbadaj: lda (wstan),y
         and #S_BRZEG
         bne @mur
@@ -161,7 +161,7 @@ zbadaj: lda (wstan),y
 @mur:   lda #0
         rts
 
-; Moves the tile of this cell to the cell at distance Y, where it gets the code A and the same counter.
+; Moves the tile of this cell to the cell at distance Y, where it gets the code A and keeps its counter.
 przesun:
         pha
         lda (wsk),y
@@ -181,7 +181,7 @@ przesun:
         sta (wstan),y
         rts
 
-; Puts a new tile A upon the cell at distance Y, with its turn taken and its counter at 0.
+; Puts a new tile A on the cell at distance Y. It has had its turn, and its counter is 0.
 wstaw:  pha
         lda (wsk),y
         sta (wpod),y

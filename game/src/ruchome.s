@@ -1,7 +1,7 @@
-; Moving things: whose turn it is, and what creatures, guards, ghosts, trackers and fire do in theirs.
+; Turns: whose turn it is, and what creatures, guards, ghosts, trackers and fire do then.
 ;
-; A turn goes over all cells inside the edge, two rows a tick, nine ticks in all. A tick acts on at most BUDZET tiles
-; and stops where it stands, so a board full of creatures slows the creatures, never the picture.
+; A turn goes through all cells inside the edge, two rows in a tick, so it takes nine ticks. In one tick at most BUDZET
+; tiles act, and the next tick goes on from there: a board full of creatures slows the creatures, never the picture.
 .include "reguly.inc"
 .export ruszaj, nowa_kolej, zwroc_pole, zapal
 .exportzp kod, kolumna, wiersz
@@ -13,11 +13,11 @@
 WIERSZE_NA_TAKT = 2
 BUDZET    = 16
 ZASIEG_STWORKA = 10                     ; how far a little creature sees
-TURY_BIEGU = 3                          ; every so many turns a tracker takes a second step on the scent
-PALI_SIE  = 5                           ; turns that a thicket burns: enough to look to all four sides
+TURY_BIEGU = 3                          ; once in so many turns a tracker on the scent takes two steps
+PALI_SIE  = 5                           ; turns for which a thicket burns: enough to spread to all four sides
 
 .segment "ZEROPAGE"
-skan:    .res 2         ; the row that is being looked at, in plansza
+skan:    .res 2         ; the row that is searched, in plansza
 wiersz:  .res 1         ; its number
 kolumna: .res 1         ; the column of the cell whose turn it is
 kod:     .res 1         ; its code
@@ -25,14 +25,14 @@ budzet:  .res 1
 rzedy:   .res 1
 czyn:    .res 2
 kier_tropiciela: .res 1
-rana_patrolu: .res 1    ; what a patrol's touch takes
+rana_patrolu: .res 1    ; the energy that a patrol's touch takes
 strona:  .res 1
 kroki_tropiciela: .res 1 ; steps that a tracker has left in this turn
 wiek:    .res 1         ; of a scent, in steps
 najmlodszy: .res 1      ; the freshest so far
 
 .segment "RODATA"
-; what each tile does in its turn
+; what each tile does when its turn comes
 .linecont +
 .define CZYNY \
         spi, spi, spi, spi, spi, spi, spi, spi, spi, wyjscie, spi, spi, spi, spi, spi, spi, \
@@ -61,7 +61,7 @@ nowa_kolej:
         stx kolumna
         rts
 
-; One tick's part of a turn.
+; The part of a turn that belongs to one tick.
 ruszaj: lda #BUDZET
         sta budzet
         lda #WIERSZE_NA_TAKT
@@ -98,10 +98,10 @@ ruszaj: lda #BUDZET
         ldy kolumna
         dec budzet
         bne @dalej
-        inc kolumna                     ; go on from the next cell in the next tick
+        inc kolumna                     ; the next tick goes on from the next cell
         cpy #KOLUMNY - 2
         bne @dosc
-        dec kolumna                     ; the last of its row: look at it once more, its turn is over
+        dec kolumna                     ; the last cell of a row is looked at again, but doesn't act again
 @dosc:  rts
 
 ; The tile kod in column kolumna of the row skan acts, unless it has acted in this turn.
@@ -134,14 +134,14 @@ zrob_pole:
         jmp (czyn)
 spi:    rts
 
-; This cell gets back what lay beneath.
+; Puts back into this cell what was beneath.
 zwroc_pole:
         ldy #TU
         lda (wpod),y
         sta (wsk),y
         rts
 
-; The open exit beckons in both of its forms.
+; The open exit changes between its two forms, to be seen.
 wyjscie:
         lda otwarte
         beq spi
@@ -150,7 +150,7 @@ wyjscie:
         sta (wsk),y
         rts
 
-; Creatures go left and right, guards down and up; both turn where they can't go on.
+; Creatures go left and right, guards down and up; both turn back where they can't go on.
 stwor:  lda #RANA_STWOR
         sta rana_patrolu
         lda kod
@@ -178,7 +178,7 @@ patrol: tax
 @atak:  lda rana_patrolu
         jmp zran
 
-; A little creature sleeps until the heroine comes near in its own row; then it grows and runs at her.
+; A little creature sleeps until the heroine comes near in its row; then it grows up and runs towards her.
 stworek:
         lda dorva_y
         cmp wiersz
@@ -195,7 +195,7 @@ stworek:
         cmp #ZASIEG_STWORKA + 1
         bcs spi
         txa
-; this cell := tile A in the form, STD or INV, that it had
+; this cell := tile A, in the form (STD or INV) that the cell had
 zmien:  eor kod
         and #$7F
         eor kod
@@ -203,9 +203,9 @@ zmien:  eor kod
         sta (wsk),y
         rts
 
-; A ghost wanders at random, through earth and thicket too. It shuns a heroine with a torch.
+; A ghost wanders at random, also through earth and thickets. It avoids a heroine with a torch.
 duch:   jsr los
-        cmp #50                         ; now and then another way without a reason
+        cmp #50                         ; now and then it turns for no reason
         bcc @skrec
         jsr licznik
         and #3
@@ -225,8 +225,8 @@ duch:   jsr los
         and #3
         jmp ustaw_licznik
 
-; A tracker goes where the heroine's scent is fresher than where it stands, and there it is nearly as fast as she is: every
-; third turn it takes two steps. Without a scent it goes straight on, and some other way where it can't.
+; A tracker follows the heroine's scent to where it is fresher. On the scent it is nearly as fast as she is: every third
+; turn it takes two steps. Without a scent it goes straight on, and turns at random where it can't.
 tropiciel:
         jsr wywesz
         bcc @bladzi
@@ -255,7 +255,7 @@ tropiciel:
         lda kod
         and #3
         sta kier_tropiciela
-; A tracker's step in direction kier_tropiciela. C: it has gone there; else it has wounded the heroine, or turned away at
+; A tracker's step in direction kier_tropiciela. C: it has gone there; otherwise it has wounded the heroine or turned at
 ; random.
 krok_tropiciela:
         ldx kier_tropiciela
@@ -288,7 +288,7 @@ krok_tropiciela:
         ora kier_tropiciela
         rts
 
-; C: the scent leads on from this cell, and kier_tropiciela tells where to.
+; C: the scent leads on from this cell, in direction kier_tropiciela.
 wywesz: lda #TROP
         sta najmlodszy
         ldy #TU
@@ -327,11 +327,11 @@ wywesz: lda #TROP
         sec
         adc zegar
         bcs :+
-        adc #TROP                       ; the numbers have begun anew since
+        adc #TROP                       ; the numbers have started again from 1 since then
 :       rts
 
-; Fire catches thickets next to it: a burning thicket all of them, one side a turn, until it has burnt down; a painted
-; fire, which burns for ever, now the one and now the other.
+; Fire spreads to thickets next to it: from a burning thicket to one side after the other, a turn each, until it has
+; burnt down; from a painted fire, which burns for ever, to a random side.
 ogien:  jsr licznik
         bne :+
         jsr los
@@ -358,7 +358,7 @@ ogien:  jsr licznik
 @wieczny:
         rts
 
-; The thicket at distance Y begins to burn.
+; Sets fire to the thicket at distance Y.
 zapal:  lda #OGIEN
         jsr wstaw
         lda #PALI_SIE

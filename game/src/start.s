@@ -1,4 +1,4 @@
-; The entry: takes the machine over, then title and game by turns.
+; The entry: takes over the machine, then runs title and game by turns.
 .include "atari.inc"
 .export start
 .import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj, pierwszy_etap

@@ -1,17 +1,17 @@
-; Emitters and their rays, those who throw and spit, and what they throw.
+; Emitters and their rays, launchers, throwers and spitters, and what these shoot.
 .include "reguly.inc"
 .export promiennik, promien, miotnik, miotacz, plujka, strzalka, kamyk
 .importzp wsk, kod, kolumna, wiersz, dorva_x, dorva_y, maszyna_stoi
 .import sasiad, przejdz, zbadaj, przesun, wstaw, licznik, ustaw_licznik, zran, zwroc_pole, zglos_efekt
 
 TURY_PROMIENNIKA = 14                   ; turns from one flash to the next
-TURY_PROMIENIA = 5                      ; turns that a ray shines, and so its length
+TURY_PROMIENIA = 5                      ; turns for which a ray shines, which also decides its length
 TURY_MIOTACZA = 12
 TURY_MIOTNIKA = 9
 TURY_PLUJKI = 7
-TURY_MRUGANIA = 4                       ; turns that an emitter or a launcher blinks first: even, so it ends as it was
-TURY_CELU = 3                           ; turns from the aim to the shot
-CELUJE    = 32                          ; a counter above it counts them
+TURY_MRUGANIA = 4                       ; turns of blinking before a shot; even, so that the form stays the same
+TURY_CELU = 3                           ; turns from aiming to the shot
+CELUJE    = 32                          ; counters above this one count those turns
 ZASIEG    = 14                          ; how far a shooter sees
 
 .segment "ZEROPAGE"
@@ -24,7 +24,7 @@ widzi:   .res 1
 
 .segment "CODE"
 
-; An emitter flashes on all four sides at once, as long as the machine runs.
+; An emitter sends rays to all four sides at once, as long as the machine runs.
 promiennik:
         lda #TURY_PROMIENNIKA
         jsr odlicz
@@ -42,7 +42,7 @@ promiennik:
         bpl @strona
 @nie:   rts
 
-; Counts one of A turns for an emitter or a launcher, as long as the machine runs; in the last ones it blinks. C: now.
+; Counts one of A turns for an emitter or a launcher, while the machine runs; it blinks in the last ones. C: it shoots.
 odlicz: sta okres
         lda maszyna_stoi
         bne @nie
@@ -65,7 +65,7 @@ odlicz: sta okres
         sec
         rts
 
-; The tile takes its other form. Keeps X.
+; Gives the tile its other form. Keeps X.
 mrugnij:
         ldy #TU
         lda kod
@@ -73,7 +73,7 @@ mrugnij:
         sta (wsk),y
         rts
 
-; Puts the missile A into the next cell in direction kier_strzalu, or wounds the heroine there by X.
+; Puts the missile A into the next cell in direction kier_strzalu, or wounds the heroine by X if she is there.
 wystrzel:
         sta pocisk
         stx rana_pocisku
@@ -91,7 +91,7 @@ wystrzel:
         lda rana_pocisku
         jmp zran
 
-; A ray puts forth the next one in its first turn, and goes out after a few.
+; A ray makes the next one in its first turn, and goes out after a few turns.
 promien:
         jsr licznik
         bne @swieci
@@ -158,8 +158,8 @@ plujka: jsr w_wierszu
 nie_strzela:
         rts
 
-; One turn of a shooter; C in: it sees her. As soon as it does it takes aim, which its other form tells, and shoots a few
-; turns later if it sees her still. Then it rests for A turns. C out: it shoots now.
+; One turn of a shooter. C in: it sees the heroine. When it does it takes aim, which its other form shows, and shoots a
+; few turns later if it still sees her. Then it rests for A turns. C out: it shoots now.
 celuj:  sta okres
         lda #0
         rol
@@ -189,7 +189,7 @@ celuj:  sta okres
         sec
         rts
 
-; C: the heroine is near in this row; kier_strzalu then tells the side.
+; C: the heroine is near in this row, in direction kier_strzalu.
 w_wierszu:
         lda dorva_y
         cmp wiersz
@@ -223,7 +223,7 @@ nie_widac:
         clc
         rts
 
-; Darts and stones fly two cells a turn and break at whatever stands in their way.
+; Darts and stones fly two cells per turn and break at anything in their way.
 strzalka:
         lda #RANA_STRZALKA
         sta rana_pocisku

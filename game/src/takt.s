@@ -1,8 +1,8 @@
-; A stage from start to end: reguly_start sets the rules up on the board, takt is one tick of play. The game runs its two
-; halves by themselves and shows her in between.
+; A stage from start to end: reguly_start prepares the rules for the board, takt is one tick of play. The game calls the
+; two halves of takt one by one and draws the heroine in between.
 ;
-; In: plansza and cel_masek before reguly_start; drazek (as STICK0: 0 bits are pressed) and spust (as STRIG0:
-; 0 is pressed) before takt. Out: wynik, efekt, komunikat and the figures of the panel.
+; In: plansza and cel_masek before reguly_start; drazek (like STICK0, bits are 0 while pushed) and spust (like STRIG0, 0
+; while pressed) before takt. Out: wynik, efekt, komunikat and the figures of the panel.
 .include "reguly.inc"
 .export reguly_start, takt, takt_dorvy, takt_innych, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .export cel_masek, monety, zycia_za_monety, zycia_w_probie, premia
@@ -28,9 +28,9 @@ brak_masek: .res 1      ; masks still to be taken
 maszyna_stoi: .res 1
 pochodnia: .res 1
 otwarte: .res 1
-po_przeskoku: .res 1    ; this tick has spent its time on a leap
+po_przeskoku: .res 1    ; this tick's time has been used up by a leap
 numer:  .res 1
-przegladane: .res 2     ; the cell that set-up looks at, 0..799
+przegladane: .res 2     ; the cell that reguly_start looks at, 0..799
 adres:  .res 2
 w_stanie: .res 2
 
@@ -45,7 +45,7 @@ do_premii: .res 1
 
 .segment "CODE"
 
-; Sets the figures that last from stage to stage.
+; Sets the figures that stay from stage to stage.
 nowa_gra:
         lda #ZYCIA_NA_START
         sta zycia
@@ -69,7 +69,7 @@ nowy_etap:
         sta zycia_za_monety
         beq nowe_sily
 
-; A lost try is forgotten, with its points and coins; the next one begins in full strength.
+; Forgets a lost try, with its points and coins; the next one begins with full energy.
 cofnij_probe:
         jsr bez_zdobyczy
 nowe_sily:
@@ -79,8 +79,7 @@ nowe_sily:
         sta premia
         rts
 
-; A try that the player begins anew is forgotten in the same way, but she keeps the energy that she has, and the next try
-; earns no bonus for time.
+; Forgets a try that the player begins anew. She keeps the energy that she has, and the next try earns no bonus for time.
 powtorz_probe:
         lda #0
         sta premia
@@ -94,8 +93,7 @@ bez_zdobyczy:
         sta monety
         rts
 
-; Sets the rules up on the board for a try; her energy and the bonus for time are set already. C: there is no heroine on
-; it.
+; Prepares the rules for a try on the board; her energy and the bonus for time are set already. C: there is no heroine.
 reguly_start:
         ldx #0
         txa
@@ -122,7 +120,7 @@ reguly_start:
         sta dorva+1
         lda #TAKTY_PREMII
         sta do_premii
-        lda #$5A                        ; the same chances in every try
+        lda #$5A                        ; the same random numbers in every try
         sta ziarno
         sta ziarno+1
         jsr oznacz_brzeg
@@ -230,11 +228,11 @@ spisz_plansze:
 
 ; One tick.
 takt:   jsr takt_dorvy
-; What follows her part: all other tiles.
+; The second half of a tick: all other tiles.
 takt_innych:
         lda wynik
         bne @koniec
-        lda po_przeskoku                ; a leap looks through the board; the others wait
+        lda po_przeskoku                ; a leap has searched the whole board, so the other tiles wait
         bne @po
         jsr ruszaj
 @po:    lda #0
@@ -249,7 +247,7 @@ takt_innych:
 @koniec:
         rts
 
-; Her part, the first of a tick.
+; The first half of a tick: the heroine.
 takt_dorvy:
         lda #EF_BRAK
         sta efekt

@@ -1,6 +1,6 @@
-; The memory check: runs while the file is still loading, before anything else of it comes into memory.
-; It puts BASIC away, and with it the OS's screen out of the way of what follows. A machine without the four extra banks
-; says so in one line and stays there. The banks are not put back: the rest of the file fills all four of them.
+; The memory check: runs before anything else of the file is loaded. It switches BASIC off and moves the OS's screen out
+; of the way of what follows. On a machine without the four extra banks it shows one line of text and stops. It doesn't
+; restore the banks, since the rest of the file fills all four.
 .include "atari.inc"
 .export sprawdz_pamiec
 

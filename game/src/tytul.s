@@ -1,7 +1,7 @@
-; Text screens: the title, the end of a game, the closing screen, and the word about a board without a heroine.
+; Text screens: the title, the end of a game, the closing screen, and the message about a board without a heroine.
 ;
-; The three lines of the builder stand in a field of 24 columns in the middle of the 40-column screen: a line's
-; start column 2..12 counts from the left edge of that field.
+; The three title lines are in a field of 24 columns in the middle of the 40-column screen: a line's start column, 2..12,
+; counts from the left edge of that field.
 .include "atari.inc"
 .include "rekord.inc"
 .include "reguly.inc"
@@ -19,7 +19,7 @@ PROSTO    = %1100                       ; the stick's bits for left and right
 W_LEWO    = %1000
 W_PRAWO   = %0100
 KLATKI_KROKU = 7
-PIERWSZE_POWTORZENIE = 25               ; frames that the stick is held until it counts again,
+PIERWSZE_POWTORZENIE = 25               ; frames for which the stick is held until it counts again,
 POWTORZENIE = 5                         ; and from then on
 POSCIG    = 5                           ; the tracker's distance
 LOGO_TLO  = 3                           ; screen column of the first letter's left edge
@@ -36,7 +36,7 @@ LOGO_TLO  = 3                           ; screen column of the first letter's le
 .endmacro
 
 .segment "RODATA"
-; DORVA in tiles: five letters of five columns, a bit a tile
+; DORVA in tiles: five letters of five columns, a bit for each tile
 litery: .byte %11110, %10001, %10001, %10001, %11110
         .byte %01110, %10001, %10001, %10001, %01110
         .byte %11110, %10001, %11110, %10010, %10001
@@ -59,11 +59,11 @@ parzyste: .res 1        ; the two tiles of the frame
 nieparzyste: .res 1
 poczatek: .res 1
 barwa_tekstu: .res 1    ; the colour behind the text
-swieto: .res 1          ; it changes all the time
+swieto: .res 1          ; not 0: it changes all the time
 
 .segment "CODE"
 
-; The title screen. Returns when the player starts; numer_etapu is the stage that the player has chosen.
+; The title screen. Returns when the player starts; numer_etapu is then the chosen stage.
 tytul:  lda pierwszy_etap
         sta numer_etapu
         lda #1
@@ -118,7 +118,7 @@ tytul:  lda pierwszy_etap
         jsr nazwij_etap
         jmp @czekaj
 
-; C: the first stage is the last one too, as in a test game, so there is nothing to choose.
+; C: the first stage is also the last one, as in a test build, so there is nothing to choose.
 bez_wyboru:
         lda numer_etapu
         cmp #1
@@ -130,7 +130,7 @@ bez_wyboru:
 @jest:  clc
         rts
 
-; Shows the title for stage numer_etapu: the logo wears its world and colours.
+; Shows the title for stage numer_etapu: the logo has the tiles and colours of that stage.
 rysuj_tytul:
         jsr wczytaj_etap
         lda #MUR_H
@@ -173,7 +173,7 @@ ekran_konca:
         jsr pisz_wynik
         jmp czekaj_na_gracza
 
-; The last stage is behind her.
+; The last stage is done.
 ekran_wygranej:
         inc swieto
         lda #MASKA
@@ -190,7 +190,7 @@ ekran_bez_dorvy:
         jsr rysuj_logo
         pisz_w 4, t_brak
         pisz_w 6, t_brak2
-; Shows the screen until fire or START.
+; Shows the screen until the trigger or START is pressed.
 czekaj_na_gracza:
         pisz_w 12, t_dalej
         jsr zacznij_muzyke
@@ -213,7 +213,7 @@ czekaj_na_puszczenie:
         beq czekaj_na_puszczenie
         rts
 
-; Z: fire or START is pressed.
+; Z: the trigger or START is pressed.
 wcisniete:
         lda CONSOL
         and #1
@@ -242,7 +242,7 @@ pisz_wynik:
         bne @cyfry
         rts
 
-; An empty text screen between two rows of tiles, A and Y by turns, and at its top the name in the world's own stones.
+; Prepares an empty text screen between two rows of tiles, A and Y by turns, with the name in blocks at the top.
 rysuj_logo:
         sta parzyste
         sty nieparzyste
@@ -307,7 +307,7 @@ rysuj_logo:
         bne @rzad
         rts
 
-; Below the name the heroine goes her way, and a tracker goes it after her.
+; Below the name the heroine walks across the screen, followed by a tracker.
 idz_pod_logo:
         dec do_kroku
         bne @nic
@@ -335,7 +335,7 @@ idz_pod_logo:
         sta logo + (LOGO_WIERSZE - 1) * 40 - POSCIG,x
 @nic:   rts
 
-; Writes the three lines, each from its start column on, up to the first 155.
+; Writes the three title lines, each from its start column on, up to the first 155.
 pisz_linie:
         lda #<tytuly
         sta skad_tytul
@@ -349,7 +349,7 @@ pisz_linie:
 @linia: ldy #0
         lda (skad_tytul),y
         clc
-        adc linijka                     ; the column, less one for the byte in front of the text
+        adc linijka                     ; the column, minus one for the byte in front of the text
         sta linijka
         bcc :+
         inc linijka+1

@@ -1,5 +1,5 @@
-; What happens as the heroine steps at a tile: one routine a tile. It comes with the code in cel_kod, the direction in
-; kier, and Y at the tile's cell; it either lets her go there (na_pole, na_to, wejdz) or just returns.
+; What happens when the heroine steps at a tile, one routine for each kind of tile. A routine gets the code in cel_kod,
+; the direction in kier, and Y for the tile's cell. It either lets her go there (na_pole, na_to, wejdz) or just returns.
 .include "reguly.inc"
 .export wejscia_lo, wejscia_hi
 .importzp wsk, wpod, wstan, dorva, kier, cel_kod, opor, naczynia
@@ -14,11 +14,11 @@ CO_NACZYNIE = 15
 
 .segment "ZEROPAGE"
 parzysty: .res 1        ; the magic object is the second of its pair
-pozycja: .res 1         ; low byte of the cell that is looked at
+pozycja: .res 1         ; low byte of the cell that is examined
 wsk_magii: .res 2
 
 .segment "RODATA"
-; what happens at a step to each tile
+; the routines, by tile
 .linecont +
 .define WEJSCIA \
         na_pole, kop, w_pulapke, na_pole, naczynie, mur, mur, mur, \
@@ -35,7 +35,7 @@ wejscia_hi: .hibytes WEJSCIA
 
 .segment "CODE"
 
-; earth: dug, and a trace is left
+; earth: she digs through and leaves a trace
 kop:    dzwiek EF_KOPIE
         lda cel_kod
         and #INV
@@ -47,7 +47,7 @@ w_pulapke:
         jsr zran
         jmp na_puste
 
-; A jar is broken by stepping at it. What is inside goes round: coins, strength, coins, a bomb.
+; She breaks a jar. What is inside goes in turn: coins, energy, coins, a bomb.
 naczynie:
         dzwiek EF_STUK
         lda naczynia
@@ -69,7 +69,7 @@ na_puste:
         lda #NIC
         jmp wejdz
 
-; A thicket lets her through after a few tugs; with a torch she sets fire to it.
+; A thicket lets her in after a few tugs; with a torch she sets fire to it.
 zarosla:
         lda pochodnia
         bne @pal
@@ -102,13 +102,13 @@ drzwi:  lda klucze
 @nie:   powiedz KOM_KLUCZ
         jmp mur
 
-; Water costs strength; it wounds nobody, so a fresh wound is no shelter.
+; Water costs energy. That is no wound, so a recent wound doesn't protect her from it.
 w_wode: lda #RANA_WODA
         jsr zabierz
         dzwiek EF_WODA
         jmp na_to
 
-; A burning thicket lets nobody in before it has burnt down; a fire that burns for ever does, and wounds.
+; Nobody can enter a burning thicket before it has burnt down. A painted fire can be entered, and wounds.
 w_ogien:
         lda (wstan),y
         and #S_LICZNIK
@@ -144,7 +144,7 @@ eliksir:
 moneta: jsr dodaj_monete
         jmp na_puste
 
-; The torch burns thickets and keeps ghosts away, to the end of the stage.
+; The torch burns thickets and keeps ghosts away until the end of the stage.
 pochodnie:
         lda #1
         sta pochodnia
@@ -152,7 +152,7 @@ pochodnie:
         powiedz KOM_OGIEN
         jmp na_puste
 
-; A touch stops the machine and with it all emitters and launchers; the next one starts it again.
+; A touch stops the machine, and with it all emitters and launchers; the next touch starts it again.
 maszyna:
         lda maszyna_stoi
         eor #1
@@ -168,7 +168,7 @@ maszyna:
 :       stx komunikat
         rts
 
-; A crate goes on to a free cell; a trap, water, fire or swamp is filled by it.
+; A crate is pushed to a free cell, or fills a trap, water, fire or swamp.
 skrzynia:
         ldx kier
         jsr przejdz                     ; the crate's own surroundings
@@ -212,7 +212,7 @@ skrzynia:
         jmp na_to
 @nie:   jmp mur
 
-; The swamp: every step into it is one deeper.
+; The swamp: she gets deeper with every step.
 w_bagno:
         jsr zapadnij
         lda wynik
@@ -220,8 +220,8 @@ w_bagno:
         jmp na_to
 @tonie: rts
 
-; A magic object takes her to its other half: the next one on the board for the first, third..., the one before
-; for the second, fourth... One without a partner does nothing.
+; A magic object takes her to its partner: for the first, third... object on the board that is the next one, for the
+; second, fourth... the one before. One without a partner does nothing.
 magiczny:
         lda (wstan),y                   ; odd or even, counted at the start of the stage
         and #1
@@ -240,7 +240,7 @@ magiczny:
         sta wsk_magii
         lda parzysty
         bne @wstecz
-@dalej: iny                             ; wsk_magii and Y: the cell that is looked at
+@dalej: iny                             ; wsk_magii and Y: the cell that is examined
         bne :+
         inc wsk_magii+1
         lda wsk_magii+1
@@ -270,7 +270,7 @@ magiczny:
 @nie_ma:
         rts
 
-; Takes her to the cell at wsk_magii + Y. C = 0: it is none inside the edge. Keeps Y.
+; Takes her to the cell at wsk_magii + Y. C = 0: that isn't inside the edge. Keeps Y.
 przenies:
         sty pozycja
         lda wsk_magii+1
@@ -305,7 +305,7 @@ przenies:
         clc
         rts
 
-; Creatures that she runs into
+; creatures that she runs into
 duch:   lda #RANA_DUCH
         ldx pochodnia
         beq rani
@@ -322,7 +322,7 @@ ognista:
         lda #RANA_OGIEN
 rani:   jmp zran
 
-; Rays and missiles she can break through.
+; rays and missiles: she can break through them
 promien:
         lda #RANA_PROMIEN
         bne przez
