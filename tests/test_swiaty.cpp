@@ -98,14 +98,14 @@ TEST_F(BuiltStages, TheEditorFindsNoFaultAndKeepsEveryByte) {
     }
 }
 
-void expectReported(const std::function<void(const Zrodlo&)>& parse,
+void expectReported(const std::function<void(const Source&)>& parse,
                     const std::map<std::string, std::string>& mistakes) {
     for (const auto& [source, message] : mistakes) {
         std::string reported;
         try {
             parse({"s", source});
-        } catch (const BladZrodla& blad) {
-            reported = blad.what();
+        } catch (const SourceError& error) {
+            reported = error.what();
         }
         EXPECT_EQ(reported.substr(0, message.size()), message) << source;
     }
@@ -114,7 +114,7 @@ void expectReported(const std::function<void(const Zrodlo&)>& parse,
 TEST(Compiler, MistakesAreReportedWithTheirLine) {
     const std::string kolory = "grunt 1\ntwarz 2\nubranie 3\nwoda 4\ntlo 5\n";
     const std::string pusty = "0 NIC\n....\n....\n....\n....\n....\n....\n....\n....\n";
-    expectReported([](const Zrodlo& zrodlo) { parseRysunki(zrodlo); },
+    expectReported([](const Source& source) { parseRysunki(source); },
                    {{"grunt 300\n", "s:1: a number from 0 to 255"},
                     {kolory + "\n; uwaga\n0 NICO\n", "s:8: the tile \"0 NIC\""},
                     {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
@@ -124,8 +124,8 @@ TEST(Compiler, MistakesAreReportedWithTheirLine) {
     const std::string head = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n";
     const std::string row = std::string(40, '.') + "\n";
     expectReported(
-        [](const Zrodlo& zrodlo) {
-            parseEtap(zrodlo, parseLegenda({"l", "kolory standard\n. 0 NIC\n~ 139 WODA ; INV\n"}), {});
+        [](const Source& source) {
+            parseEtap(source, parseLegenda({"l", "kolory standard\n. 0 NIC\n~ 139 WODA ; INV\n"}), {});
         },
         {{"swiat 4\n", "s:1: a number from 1 to 3"},
          {"swiat 1\nkolory niebo 4\n", "s:2: no colour"},
@@ -134,7 +134,7 @@ TEST(Compiler, MistakesAreReportedWithTheirLine) {
          {head + std::string(39, '.') + "?\n", "s:8: the legend"},
          {head + row, "s:8: the file ends"}});
     const std::string barwy = "kolory tlo 4\n";
-    expectReported([](const Zrodlo& zrodlo) { parseLegenda(zrodlo); }, {{barwy + "ab 0 NIC\n", "s:2"},
+    expectReported([](const Source& source) { parseLegenda(source); }, {{barwy + "ab 0 NIC\n", "s:2"},
                                                                         {barwy + ". 0 NIC\n. 1 ZIEMIA\n", "s:3"},
                                                                         {barwy + ". 64 NIC\n", "s:2"},
                                                                         {barwy + ". 1 NIC\n", "s:2"},
@@ -152,8 +152,8 @@ TEST(Compiler, ABoardHasOneDorvaOneExitAndAtMostOneTorchAndMachine) {
         try {
             (void)parseEtap({"s", source}, legenda, {});
             return true;
-        } catch (const BladZrodla& blad) {
-            EXPECT_TRUE(std::string(blad.what()).find("the board") != std::string::npos) << blad.what();
+        } catch (const SourceError& error) {
+            EXPECT_TRUE(std::string(error.what()).find("the board") != std::string::npos) << error.what();
             return false;
         }
     };
@@ -162,8 +162,8 @@ TEST(Compiler, ABoardHasOneDorvaOneExitAndAtMostOneTorchAndMachine) {
     for (const char* bad : {"", "D", "W", "DDW", "DdW", "DWW", "DWPP", "DWMM"})
         EXPECT_FALSE(isTaken(bad)) << bad;
     const fs::path stages = DORVA_STAGES;
-    EXPECT_NO_THROW((void)parseEtap(Zrodlo::fromFile(stages / "szablon.txt"),
-                                    parseLegenda(Zrodlo::fromFile(stages / "legenda.txt")), {}));
+    EXPECT_NO_THROW((void)parseEtap(Source::fromFile(stages / "szablon.txt"),
+                                    parseLegenda(Source::fromFile(stages / "legenda.txt")), {}));
 }
 
 TEST(Compiler, AStagesColoursAreTheWorldsUnderTheSharedUnderItsOwn) {

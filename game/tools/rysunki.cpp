@@ -12,16 +12,16 @@ constexpr std::string_view PIKSELE = ".gtu"; // tło, grunt, twarz, ubranie
 constexpr std::array<std::string_view, KOLORY_SIZE_BYTES> NAZWY_KOLOROW{"grunt", "twarz", "ubranie", "woda", "tlo"};
 constexpr Bajt WODA = 3, TLO = 4; // places in the colour file
 
-Ksztalt takeKsztalt(Zrodlo& z) {
+Ksztalt takeKsztalt(Source& source) {
     Ksztalt ksztalt{};
     for (auto& row : ksztalt) {
-        const std::string_view line = z.take();
+        const std::string_view line = source.take();
         if (line.size() != row.size())
-            z.fail("a row of a tile has four pixels");
+            source.fail("a row of a tile has four pixels");
         for (std::size_t x = 0; x < row.size(); ++x) {
             const std::size_t pixel = PIKSELE.find(line[x]);
             if (pixel == std::string_view::npos)
-                z.fail("a pixel is one of .gtu");
+                source.fail("a pixel is one of .gtu");
             row[x] = static_cast<Bajt>(pixel);
         }
     }
@@ -30,13 +30,13 @@ Ksztalt takeKsztalt(Zrodlo& z) {
 
 // The drawing of the tile `code`: its own, or an earlier one mirrored, "lustro 26" left to right, "odbicie 28" top to
 // bottom.
-Ksztalt takeRysunek(Zrodlo& z, const Rysunki& rysunki, int code) {
-    const auto [slowo, numer] = splitSlowo(z.peek());
-    if (slowo != "lustro" && slowo != "odbicie")
-        return takeKsztalt(z);
-    z.take();
-    Ksztalt ksztalt = rysunki.ksztalty[parseLiczba(z, numer, 0, code - 1)];
-    if (slowo == "odbicie") {
+Ksztalt takeRysunek(Source& source, const Rysunki& rysunki, int code) {
+    const auto [word, number] = splitWord(source.peek());
+    if (word != "lustro" && word != "odbicie")
+        return takeKsztalt(source);
+    source.take();
+    Ksztalt ksztalt = rysunki.ksztalty[parseNumber(source, number, 0, code - 1)];
+    if (word == "odbicie") {
         std::ranges::reverse(ksztalt);
         return ksztalt;
     }
@@ -70,28 +70,28 @@ std::vector<Rgb> barwy(std::span<const Bajt> kolory) {
 
 } // namespace
 
-Rysunki parseRysunki(Zrodlo z) {
+Rysunki parseRysunki(Source source) {
     Rysunki rysunki;
     for (std::size_t i = 0; i < KOLORY_SIZE_BYTES; ++i) {
-        const auto [nazwa, value] = splitSlowo(z.take());
+        const auto [nazwa, value] = splitWord(source.take());
         if (nazwa != NAZWY_KOLOROW[i])
-            z.fail("the colour " + std::string(NAZWY_KOLOROW[i]) + " should stand here");
-        rysunki.kolory[i] = static_cast<Bajt>(parseLiczba(z, value, 0, 255));
+            source.fail("the colour " + std::string(NAZWY_KOLOROW[i]) + " should stand here");
+        rysunki.kolory[i] = static_cast<Bajt>(parseNumber(source, value, 0, 255));
     }
     for (std::size_t i = 0; i < ZNAKI_COUNT; ++i) {
         const std::string title = std::to_string(i) + " " + std::string(NAZWY_ZNAKOW[i]);
-        if (z.take() != title)
-            z.fail("the tile \"" + title + "\" should stand here");
-        rysunki.ksztalty[i] = takeRysunek(z, rysunki, static_cast<int>(i));
+        if (source.take() != title)
+            source.fail("the tile \"" + title + "\" should stand here");
+        rysunki.ksztalty[i] = takeRysunek(source, rysunki, static_cast<int>(i));
     }
     for (const auto& [nazwa, ksztalt] : {std::pair{"otwarte", &rysunki.otwarte}, {"obcy", &rysunki.obcy}}) {
-        if (z.take() != nazwa)
-            z.fail("the drawing \"" + std::string(nazwa) + "\" should stand here");
-        *ksztalt = takeKsztalt(z);
+        if (source.take() != nazwa)
+            source.fail("the drawing \"" + std::string(nazwa) + "\" should stand here");
+        *ksztalt = takeKsztalt(source);
     }
-    if (!z.atEnd()) {
-        z.take();
-        z.fail("nothing should stand behind the last drawing");
+    if (!source.atEnd()) {
+        source.take();
+        source.fail("nothing should stand behind the last drawing");
     }
     return rysunki;
 }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "bmp.h"
+#include "source.h"
 #include "tiles/paleta_barw.h"
-#include "zrodlo.h"
 
 #include <array>
 
@@ -23,7 +23,7 @@ struct Rysunki {
     std::array<Bajt, KOLORY_SIZE_BYTES> kolory{}; // as the colour file has them
 };
 
-Rysunki parseRysunki(Zrodlo);
+Rysunki parseRysunki(Source);
 
 // The character set as the Atari reads it, 1024 bytes.
 Bajty BuildZnaki(const Rysunki&);

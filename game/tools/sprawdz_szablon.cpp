@@ -2,8 +2,8 @@
 // where the builder puts stages and title lines. Prints what is wrong and ends with 1, so that a build with a displaced
 // byte fails.
 #include "output/szablon.h"
+#include "source.h"
 #include "stage/etap_image.h"
-#include "zrodlo.h"
 
 #include <algorithm>
 #include <array>
@@ -141,7 +141,7 @@ void checkRun(const Bajty& file, const std::map<std::size_t, Segment>& segments)
 
 int main(int argc, char** argv) {
     try {
-        const Bajty file = readPlik(argc == 2 ? argv[1] : "");
+        const Bajty file = readFile(argc == 2 ? argv[1] : "");
         expect(file.size() == GRA_SIZE_BYTES, "the file doesn't have 118433 bytes", file.size());
         if (faults)
             return 1;
@@ -153,7 +153,7 @@ int main(int argc, char** argv) {
         }
         if (!faults)
             std::printf("szablon: %zu segments, %zu bytes, all in place\n", segments.size(), file.size());
-    } catch (const BladZrodla& error) {
+    } catch (const SourceError& error) {
         expect(false, error.what(), 0);
     }
     return faults ? 1 : 0;

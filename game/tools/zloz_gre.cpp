@@ -13,27 +13,27 @@ using namespace dorva;
 
 namespace {
 
-using Argumenty = std::vector<std::string>;
+using Arguments = std::vector<std::string>;
 
 constexpr std::size_t FIRST_LINIA = 2, FIRST_ETAP = FIRST_LINIA + LINIE_COUNT; // arguments
 
-Tekst linia(const Argumenty& a, std::size_t index) {
-    return toTekst(Zrodlo("title line", ""), a[FIRST_LINIA + index]);
+Tekst linia(const Arguments& a, std::size_t index) {
+    return toTekst(Source("title line", ""), a[FIRST_LINIA + index]);
 }
 
-void makeGra(const Argumenty& a) {
-    const SzablonGry szablon = readPlik(a[0]);
+void makeGra(const Arguments& a) {
+    const SzablonGry szablon = readFile(a[0]);
     if (szablon.size() != GRA_SIZE_BYTES || a.size() - FIRST_ETAP > ETAPY_COUNT)
-        throw BladZrodla(a[0] + ": no game template, or too many stages for it");
+        throw SourceError(a[0] + ": no game template, or too many stages for it");
     std::vector<EtapImage> etapy;
     for (std::size_t i = FIRST_ETAP; i < a.size(); ++i)
         etapy.push_back(readEtap(a[i]));
     etapy.back()[uklad::OSTATNI] = 1;
-    writePlik(a[1], buildGra(szablon, etapy, {linia(a, 0), linia(a, 1), linia(a, 2)}));
+    writeFile(a[1], buildGra(szablon, etapy, {linia(a, 0), linia(a, 1), linia(a, 2)}));
 }
 
 void printTytul(const std::string& name) {
-    const Bajty gra = readPlik(name);
+    const Bajty gra = readFile(name);
     for (std::size_t i = 0; i < LINIE_COUNT * LINIA_TYTULU_SIZE_BYTES; ++i)
         std::cout << int{gra.at(LINIE_TYTULU_OFFSET + i)} << ((i + 1) % LINIA_TYTULU_SIZE_BYTES ? ' ' : '\n');
 }
@@ -41,14 +41,14 @@ void printTytul(const std::string& name) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const Argumenty arguments(argv + 1, argv + argc);
+    const Arguments arguments(argv + 1, argv + argc);
     try {
         if (arguments.size() == 2 && arguments[0] == "--tytul")
             printTytul(arguments[1]);
         else if (arguments.size() > FIRST_ETAP)
             makeGra(arguments);
         else
-            throw BladZrodla("usage: zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP..., or zloz_gre --tytul GRA");
+            throw SourceError("usage: zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP..., or zloz_gre --tytul GRA");
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 1;

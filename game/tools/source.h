@@ -12,50 +12,50 @@
 namespace dorva {
 
 // What is wrong with a source, as "file:line: text".
-struct BladZrodla : std::runtime_error {
+struct SourceError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
 // Gives the lines of a source one by one, without comments (from ";" on), trailing blanks and empty lines.
-class Zrodlo {
+class Source {
 public:
-    Zrodlo(std::string nazwa, std::string_view tekst);
-    static Zrodlo fromFile(const std::filesystem::path& path);
+    Source(std::string name, std::string_view text);
+    static Source fromFile(const std::filesystem::path& path);
 
-    [[nodiscard]] bool atEnd() const { return next == linie.size(); }
+    [[nodiscard]] bool atEnd() const { return next == lines.size(); }
     // The next line, which stays the next one; empty at the end.
-    [[nodiscard]] std::string_view peek() const { return atEnd() ? std::string_view() : linie[next].tekst; }
+    [[nodiscard]] std::string_view peek() const { return atEnd() ? std::string_view() : lines[next].text; }
     std::string_view take();
 
     // Reports a mistake in the line taken last.
     [[noreturn]] void fail(const std::string& text) const;
 
 private:
-    struct Linia {
-        int numer;
-        std::string tekst;
+    struct Line {
+        int number;
+        std::string text;
     };
-    std::string nazwaPliku;
-    std::vector<Linia> linie;
+    std::string fileName;
+    std::vector<Line> lines;
     std::size_t next = 0;
 };
 
 // The first word of a line and the rest, without the blanks between them.
-struct Slowa {
-    std::string_view pierwsze, reszta;
+struct Words {
+    std::string_view first, rest;
 };
-Slowa splitSlowo(std::string_view line);
+Words splitWord(std::string_view line);
 
 // A whole decimal number in min..max; fails otherwise.
-int parseLiczba(const Zrodlo&, std::string_view text, int min, int max);
+int parseNumber(const Source&, std::string_view text, int min, int max);
 
 // UTF-8 as window text.
-Tekst toTekst(const Zrodlo&, std::string_view utf8);
+Tekst toTekst(const Source&, std::string_view utf8);
 
 // Reads a whole file; fails if it can't.
-Bajty readPlik(const std::filesystem::path& path);
+Bajty readFile(const std::filesystem::path& path);
 
 // Writes a file, and makes its folder if it is missing; fails if it can't.
-void writePlik(const std::filesystem::path& path, const Bajty& bytes);
+void writeFile(const std::filesystem::path& path, const Bajty& bytes);
 
 } // namespace dorva
