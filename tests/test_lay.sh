@@ -1,5 +1,5 @@
 #!/bin/sh
-# A program folder that someone works in is laid anew, and nothing of theirs is lost.
+# Lays a program folder again while somebody works in it: nothing of theirs is lost.
 set -eu
 
 room=$(mktemp -d)
