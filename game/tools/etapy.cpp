@@ -74,12 +74,13 @@ struct TileCount {
 constexpr std::array<TileCount, 4> TILE_COUNTS{{{DORVA, 1, 1}, {WYJSCIE, 1, 1}, {POCHODNIA, 0, 1}, {MASZYNA, 0, 1}}};
 
 void checkTileCounts(const Source& source, std::span<const Bajt> cells) {
-    for (const auto& [tile, least, most] : TILE_COUNTS) {
-        const auto isTile = [&](Bajt cell) { return cell % INV == kod(tile); };
+    for (const TileCount& tile : TILE_COUNTS) {
+        const auto isTile = [&](Bajt cell) { return cell % INV == kod(tile.znak); };
         const auto count = std::ranges::count_if(cells, isTile);
-        if (count < least || count > most)
+        if (count < tile.least || count > tile.most)
             source.fail("the board has " + std::to_string(count) + " of the tile " +
-                        std::string(NAZWY_ZNAKOW[kod(tile)]) + (least == most ? ", not one" : ", more than one"));
+                        std::string(NAZWY_ZNAKOW[kod(tile.znak)]) +
+                        (tile.least == tile.most ? ", not one" : ", more than one"));
     }
 }
 
