@@ -32,8 +32,10 @@ void OknoGlowne::showRecord() {
 }
 
 void OknoGlowne::closeEvent(QCloseEvent* event) {
-    if (auto* box = dynamic_cast<PoleEdycji*>(focusWidget()))
+    if (auto* box = dynamic_cast<PoleEdycji*>(focusWidget())) {
         box->endComposition();
+        box->onLeave(); // a full text would be stored as typed, and codes of small letters are those of Polish capitals
+    }
     run([](Edytor& e) {
         Form_QueryUnload(e);
         Form_Unload(e);

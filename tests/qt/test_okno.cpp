@@ -40,7 +40,7 @@ TEST_F(MainWindow, TextsAreTypedSelectedAndBroughtToTheirForm) {
     QTest::mousePress(find("imgPG"), Qt::LeftButton, {}, centreOf(200)); // painting does not leave a box
     EXPECT_EQ(box("txtAutorGry(0)")->text(), QString(20, 'x'));
     okno->close();
-    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA")[0], 'x');
+    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA")[0], 'X') << "closing leaves the box";
 }
 
 TEST_F(MainWindow, TextThatABoxCannotShowSurvives) {
