@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace dorva {
@@ -46,7 +47,8 @@ std::string copyName(const fs::path& file, int number, Time made, std::string_vi
 std::optional<int> numberOf(const fs::path& file, const fs::path& copy, std::string_view ending) {
     constexpr std::size_t NUMBER_MAX_DIGITS = 9;
     const auto isDigit = [](auto letter) { return letter >= '0' && letter <= '9'; };
-    const fs::path::string_type name = copy.native(), start = file.filename().native() + fs::path(".").native(),
+    const fs::path::string_type& name = copy.native();
+    const fs::path::string_type start = file.filename().native() + fs::path(".").native(),
                                 end = fs::path(ending).native();
     if (!name.starts_with(start) || !name.ends_with(end) || name.size() < start.size() + end.size() + TIME_FORM.size())
         return std::nullopt;
@@ -65,7 +67,6 @@ std::optional<int> numberOf(const fs::path& file, const fs::path& copy, std::str
 struct Copy {
     int number = 0;
     fs::path name;
-    auto operator<=>(const Copy&) const = default;
 };
 
 // The copies of a file, the oldest first. Nothing if the folder can't be read.
@@ -77,7 +78,7 @@ std::optional<std::vector<Copy>> copiesOf(const SystemCalls& system, const fs::p
     for (const fs::path& name : names)
         if (const auto number = numberOf(file, name, ending))
             copies.push_back({*number, name});
-    std::ranges::sort(copies);
+    std::ranges::sort(copies, {}, [](const Copy& copy) { return std::pair(copy.number, copy.name); });
     return copies;
 }
 
