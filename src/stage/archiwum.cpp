@@ -37,11 +37,13 @@ std::span<const Bajt> etapOf(std::span<const Bajt> archiwum, int number) {
 // Makes a copy of the whole game, with the current stage and the title lines as they are on the screen. A stage whose
 // file is missing or too short goes in as the one that a new window holds.
 void keepGra(const Edytor& e) {
+    const EtapImage first = packed(defaultOkno());
     std::array<EtapImage, ETAPY_COUNT> etapy;
     for (int number = 1; number <= ETAPY_COUNT; ++number) {
         const auto stored = readFirst(*e.system, sciezki::etap(e.KatalogBazowy, number), ETAP_SIZE_BYTES);
-        etapy[number - 1] = number == e.NumerEtapu ? packed(e.okno) : stored.value_or(packed(defaultOkno()));
+        etapy[number - 1] = stored.value_or(first);
     }
+    etapy[e.NumerEtapu - 1] = packed(e.okno);
     const Bajty archiwum = assemble(packedAutorGry(e.okno), etapy);
     if (archiwum.size() == ARCHIWUM_SIZE_BYTES)
         (void)keepCopy(*e.system, e.KatalogBazowy / sciezki::ARCHIWUM, archiwum, e.system->now(),
