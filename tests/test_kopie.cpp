@@ -157,9 +157,16 @@ public:
         keepWork(e);
         cell(5, 5) = z;
     }
-    void killed() { restart(); }
     void passes(minutes time) { disk.clock += time; }
     [[nodiscard]] Bajty screen() const { return packed(e.okno); }
+    // Some time passes, an operation runs, and the program is killed; gives what was on the screen.
+    Bajty killedAfter(minutes time) {
+        passes(time);
+        Bajty lost = screen();
+        act([](Edytor&) {});
+        restart();
+        return lost;
+    }
     void choose(const std::string& name, const Bajty& bytes) {
         chosen = root / name;
         disk.put(chosen->generic_string(), bytes);
@@ -226,11 +233,7 @@ const Slip SLIPS[]{
     {"killed after six minutes",
      [](Slips& d) {
          d.paint(BOMBA);
-         d.passes(minutes(6));
-         Bajty lost = d.screen();
-         d.act(nothing);
-         d.killed();
-         return lost;
+         return d.killedAfter(minutes(6));
      }},
     {"the same twice",
      [](Slips& d) {
@@ -259,19 +262,12 @@ const Slip SLIPS[]{
      [](Slips& d) {
          d.act(nothing);
          d.paint(BOMBA);
-         d.passes(-hours(24));
-         Bajty lost = d.screen();
-         d.act(nothing);
-         d.killed();
-         return lost;
+         return d.killedAfter(-hours(24));
      }},
     {"killed, started again and painted on",
      [](Slips& d) {
          d.paint(BOMBA);
-         d.passes(minutes(6));
-         Bajty lost = d.screen();
-         d.act(nothing);
-         d.killed();
+         Bajty lost = d.killedAfter(minutes(6));
          d.paint(KLUCZ);
          d.act(goToTwo);
          d.act(Form_QueryUnload);
