@@ -40,12 +40,12 @@ bool prepareFolder(const std::filesystem::path& folder) {
     if (!error)
         return true;
     const QString why = error == std::errc::no_space_on_device
-                            ? "Dysk jest pełny. Zrób miejsce i uruchom program znowu."
+                            ? "Dysk jest pełny. Zrób miejsce i uruchom program jeszcze raz."
                         : error == std::errc::permission_denied || error == std::errc::read_only_file_system
                             ? "Brak prawa do zapisu. Przenieś cały folder tam, gdzie możesz tworzyć pliki."
                             : QString::fromLocal8Bit(error.message());
-    const QString text =
-        "Nie udało się ułożyć plików w folderze\n" + QDir::toNativeSeparators(nameOfPath(folder)) + "\n" + why;
+    const QString text = "Nie udało się skopiować dołączonych plików do folderu\n" +
+                         QDir::toNativeSeparators(nameOfPath(folder)) + "\n" + why;
     (void)showMessageBox(nullptr, {"Dorva Planszownik", text.toStdString(), Ikona::Warning, Przyciski::Ok});
     return false;
 }

@@ -17,7 +17,7 @@
 namespace dorva {
 namespace {
 
-constexpr std::string_view PODPIS = " - edytor etapów i budowniczy gry";
+constexpr std::string_view PODPIS = " - edytor etapów gry na Atari XL/XE";
 
 void setTitle(Edytor& e, std::string_view version) {
     e.okno.caption = "Dorva Planszownik [wersja " + std::string(version) + "]" + std::string(PODPIS);
