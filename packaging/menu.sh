@@ -1,5 +1,5 @@
 #!/bin/sh
-# Dodaje Planszownik do menu programów bieżącego użytkownika. Z opcją --usun: usuwa go stamtąd.
+# Dodaje Planszownik do menu pulpitu bieżącego użytkownika. Z opcją --usun: usuwa go stamtąd.
 set -eu
 cd "$(dirname "$0")"
 wpis=${XDG_DATA_HOME:-$HOME/.local/share}/applications/dorva-planszownik.desktop
@@ -19,7 +19,7 @@ cat >"$wpis" <<KONIEC
 Type=Application
 Name=Dorva Planszownik
 GenericName=Edytor etapów
-Comment=Edytor etapów i budowniczy gry na Atari XL/XE
+Comment=Edytor etapów gry na Atari XL/XE
 Exec="$program/start.sh"
 Path=$napis
 Icon=$napis/planszownik.png

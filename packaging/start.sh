@@ -13,7 +13,7 @@ odmow() { # shows a message even if no terminal is open, in letters that every X
     exit 1
 }
 
-[ -f planszownik ] || odmow "W folderze $PWD brakuje pliku planszownik. Rozpakuj archiwum jeszcze raz."
+[ -f planszownik ] || odmow "W folderze $PWD brakuje pliku planszownik. Rozpakuj jeszcze raz plik .tar.gz."
 [ -x planszownik ] || chmod +x planszownik 2>/dev/null # a copy from a stick may have lost the right
 [ -x planszownik ] || odmow "Folder $PWD jest bez prawa wykonywania (noexec). Skopiuj go do swojego folderu domowego."
 [ -w . ] || odmow "Brak prawa do zapisu w folderze $PWD. Skopiuj go do swojego folderu domowego."
