@@ -1,6 +1,7 @@
 #!/bin/bash
-# pictures.sh: takes the pictures docs/obrazy/okno*.png again from the running program, while it paints the stage of the
-# guide's first ten minutes. Needs a build, Xvfb, openbox, xdotool and ImageMagick.
+# pictures.sh: draws the pictures docs/obrazy/znaki*.png from the built tile sets, and takes okno*.png again from the
+# running program, while it paints the stage of the guide's first ten minutes. Needs a build, Xvfb, openbox, xdotool and
+# ImageMagick.
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -13,6 +14,12 @@ scripts/lay.sh build/release "$shop/planszownik"
 open_display 1280 720
 export HOME="$room/dom"
 mkdir "$HOME"
+copies=$shop/planszownik/ETAPY/KOPIE/DETAP.7
+mkdir -p "$copies"
+for copy in '0121 2026-11-24 17.40' '0122 2026-11-24 18.05' '0123 2026-11-25 18.32'; do
+    cp "$shop/planszownik/ETAPY/DETAP.7" "$copies/DETAP.7.$copy"
+    touch -d "$(echo "$copy" | sed 's/^[0-9]* //; s/\./:/')" "$copies/DETAP.7.$copy"
+done
 start "$shop/planszownik/planszownik" 2>/dev/null
 
 drag() { # from COLUMN ROW to COLUMN ROW
@@ -60,9 +67,10 @@ slot 10 0 && cell 20 16 # a door without a key, an odd object, no heroine
 slot 18 1 && cell 22 16
 slot 1 0 && cell 6 6
 shot info
-press cmdCreate
-sleep 0.8
-shot zapis root
+press cmdLoad
+xdotool type "$copies"
+xdotool key Return sleep 0.8 mousemove 600 400 click 1 sleep 0.8 mousemove 500 226 click 1 sleep 0.4
+shot kopie root
 xdotool key Escape sleep 0.4
 close
 
@@ -74,15 +82,34 @@ keep pierwszy-etap okno-pierwszy-etap 96
 keep paleta okno-paleta 256 440x380+648+58
 keep info okno-info 64 660x40+86+354
 keep pytanie okno-pytanie 64 420x150+430+285
-keep zapis okno-zapis 64 762x486+259+108
+keep kopie okno-kopie 64 762x486+259+98
 
 # The numbers of the guide's table, each at its place in the window.
+font=src/qt/zasoby/czcionki/LiberationSans
 number=0 marks=()
-for place in 82,13 84,302 420,60 874,14 874,94 872,282 872,328 738,358 374,357 866,362 \
-    310,406 881,408 81,470 153,470 520,505 521,567 543,562 663,562 883,562 883,607; do
+for place in 82,13 70,334 420,60 874,14 874,94 880,270 872,328 738,358 374,357 866,362 \
+    310,406 881,408 80,534 153,470 520,505 521,567 540,560 659,560 785,560 785,606; do
     number=$((number + 1)) x=${place%,*} y=${place#*,}
     marks+=(-fill '#c8102e' -stroke white -strokewidth 1.5 -draw "circle $x,$y $((x + 10)),$y")
     marks+=(-stroke none -fill white -annotate "+$((x - (number > 9 ? 7 : 3)))+$((y - 8))" "$number")
 done
-convert "$room/okno.png" -font src/qt/zasoby/czcionki/LiberationSans-Bold.ttf -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/opis.png"
+convert "$room/okno.png" -font "$font-Bold.ttf" -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/opis.png"
 keep opis okno-opis 96
+
+# Every tile of the picker with its name, in the three worlds, down the columns; some tiles STD above INV.
+convert build/release/data/OBIEKTY/ORN_EXPORT/*.BMP -append +repage -crop 32x32 +repage -bordercolor gray60 -border 1 "$room/tile-%d.png"
+tiles() { for place; do echo "$room/tile-$place.png"; done; }
+mapfile -t codes < <(sed '1,/WYBOR_ORDER{/d' src/board/znak.h | grep -oE '[0-9]+')
+entries=()
+for i in "${!codes[@]}"; do
+    code=${codes[i % 4 * 11 + i / 4]} entries+=("$room/entry-$i.png")
+    # shellcheck disable=SC2046 # names without spaces
+    convert $(tiles "$code" $((code + 128)) $((code + 256))) \( -size 4x34 xc:white \) \
+        \( -size 100x34 -gravity West -font "$font-Regular.ttf" -pointsize 11 \
+        caption:"$(sed -n "s/^$code \([^a-z]*\)$/\1/p" game/art/swiat1.txt)" \) +append "${entries[i]}"
+done
+montage "${entries[@]}" -tile 4x11 -geometry +3+2 "$room/znaki.png"
+keep znaki znaki 64
+# shellcheck disable=SC2046
+convert \( $(tiles 2 8 9 11 24 63) +append \) \( $(tiles 66 72 73 75 88 127) +append \) -append -scale 200% "$room/inv.png"
+keep inv znaki-inv 64
