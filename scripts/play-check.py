@@ -225,6 +225,20 @@ def all_stages():
         yield (f"stage {stage} as it was painted: board, tiles, colours, greeting", [*shown[:3], shown[3][8:]],
                [part(record, "PLANSZA", BOARD), tiles[:512], part(record, "KOLORY", 12), part(record, "NAZWA", 32)])
 
+def motion():
+    """In each world the tiles that have a second drawing show it, and then the first again."""
+    second, first = 32, 40  # frames in which all of them show one
+    commands = ["wcisniete"]
+    for world in range(3):
+        number = min(stage for stage in stages if stages[stage][field["SWIAT"]] == world)
+        commands += [f"BPC {address['graj_etap']:X}", enter(number), *["ozyw_znaki"] * second, dump("zestaw", 512, f"{world}b"),
+                     *["ozyw_znaki"] * (first - second), dump("zestaw", 512, f"{world}a")]
+    dumps = play(game, "-9000", commands).dumps
+    for world in range(3):
+        tiles = (data / f"OBIEKTY/ORN_EXPORT/FNT{world}1.ORN.ND").read_bytes()
+        yield (f"world {world + 1}: tiles move to and fro", [dumps[f"zestaw{world}{which}"][8:] for which in "ba"],
+               [tiles[520:], tiles[8:512]])
+
 def empty_board():
     empty = part(stages[1], "PLANSZA", BOARD).replace(bytes([DORVA]), bytes([0]))
     played = play(test_build(patched(stages[1], field["PLANSZA"], empty)), f"{TO_GAME} -100 F10 -100",
@@ -270,7 +284,7 @@ def machines():
     yield "a machine of 64 KB shows what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
 
 CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (overlay,), (only_stage,),
-          (all_stages,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
+          (all_stages,), (motion,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
           (reset, "-basic"), (machines,)]
 
 # Pictures for the documents.

@@ -1,15 +1,16 @@
 ; Fonts, made at the start: the text font with Polish capitals, and the panel's digits with icons. Also the character
-; set of a world, with a picture for the codes that are no tiles.
+; set of a world, with a picture for the codes that are no tiles, and the second drawings of tiles that move.
 .include "atari.inc"
 .include "reguly.inc"
-.export zrob_czcionki, wez_zestaw, otworz_wyjscie, czcionka, czcionka_panelu, zestaw
+.export zrob_czcionki, wez_zestaw, otworz_wyjscie, ozyw_znaki, czcionka, czcionka_panelu, zestaw
 
 .segment "CZCIONKI"
 czcionka: .res 1024     ; the ROM font plus nine Polish capitals
 zestaw:          .res 1024              ; the world's tiles
 czcionka_panelu: .res 512 ; 64 characters for the wide panel
 
-; The built character sets of the worlds: tiles are characters 0..63, and 64 is the open exit.
+; The built character sets of the worlds: tiles are characters 0..63, 64 is the open exit, and 64 + n is the second
+; drawing of tile n.
 .segment "ZNAKI"
 swiaty:
         .incbin "FNT01.ORN.ND", 0, 1024
@@ -38,9 +39,20 @@ ikony:
 IKONY_BAJTY = * - ikony
 ZERO = 16
 
+; The tiles that move. In every frame two of the first list and one of the second are drawn, so the first change every
+; eighth frame and the second every sixteenth.
+szybkie: .byte STWOR, STWOR + 1, STRAZNIK, STRAZNIK + 1, TROPICIEL, TROPICIEL + 1, TROPICIEL + 2, TROPICIEL + 3
+        .byte OGIEN, POCHODNIA, MIOTNIK, PLUJKA, PROMIENNIK, MIOTACZ, ODPALONA, MAGICZNY
+        .assert * - szybkie = 16, error, "two tiles in each of eight frames"
+wolne:  .byte WODA, BAGNO, DUCH, STWOREK, MONETA, MASZYNA, ELIKSIR, MASKA
+        .assert * - wolne = 8, error, "a tile in each of eight frames"
+
 .segment "BSS"
 otwarte_wyjscie: .res 8
 blask:  .res 1
+strona_swiata: .res 1   ; the page where the built set of the world begins
+faza:   .res 1          ; frames since the set was loaded
+drugi:  .res 1          ; 2 for the second drawing, 0 for the first: their distance in pages
 
 .segment "ZEROPAGE"
 zrodlo: .res 2
@@ -132,10 +144,12 @@ wez_zestaw:
         asl
         asl
         adc #>swiaty
+        sta strona_swiata
         sta zrodlo+1
         lda #>zestaw
         sta dokad+1
         ldy #0
+        sty faza
         sty zrodlo
         sty dokad
         ldx #2
@@ -179,3 +193,51 @@ otworz_wyjscie:
         dex
         bpl :-
         rts
+
+; One frame of the tiles that move: gives some of them the drawing that is due.
+ozyw_znaki:
+        inc faza
+        lda faza
+        and #8
+        lsr
+        lsr
+        sta drugi
+        lda faza
+        and #7
+        tax
+        lda szybkie,x
+        jsr rysuj_znak
+        lda szybkie + 8,x
+        jsr rysuj_znak
+        lda faza
+        and #16
+        lsr
+        lsr
+        lsr
+        sta drugi
+        lda wolne,x
+; Gives tile A one of its two drawings. Keeps X.
+rysuj_znak:
+        ldy #0
+        sty dokad+1
+        asl
+        asl
+        rol dokad+1
+        asl
+        rol dokad+1
+        sta zrodlo
+        sta dokad
+        lda dokad+1
+        ora strona_swiata
+        ora drugi
+        sta zrodlo+1
+        lda dokad+1
+        ora #>zestaw
+        sta dokad+1
+        ldy #7
+:       lda (zrodlo),y
+        sta (dokad),y
+        dey
+        bpl :-
+        rts
+        .assert <swiaty = 0 && >swiaty & 3 = 0 && >zestaw & 3 = 0, lderror, "character sets begin at a kilobyte"

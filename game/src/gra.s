@@ -6,7 +6,7 @@
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
 .import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
-.import linia_info, dwie_cyfry
+.import linia_info, dwie_cyfry, ozyw_znaki
 .import zacznij_panel, rysuj_panel, info_powitanie, info_takt
 .import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, ucisz_muzyke, dodaj_punkty
 
@@ -124,6 +124,7 @@ graj_etap:
         lda powitanie_trwa
         beq @gra
         jsr mrugnij_nakladka
+        jsr ozyw_znaki
         lda STICK0
         and #15
         eor #15
@@ -137,6 +138,7 @@ graj_etap:
         sta spust
         jsr takt_dorvy
         jsr rysuj_nakladke              ; before the beam gets to the board; the other tiles may come later
+        jsr ozyw_znaki
         jsr takt_innych
         lda otwarte
         beq :+

@@ -8,6 +8,7 @@
 .export tytul, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
 .import pierwszy_etap, zacznij_muzyke, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
+.import ozyw_znaki
 .import czysc_tekst, pokaz_tekst, wez_kolory, czekaj_klatke, wczytaj_etap, wez_etap, ostatni, powitanie
 .import t_cel, t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
 .import t_dalej, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
@@ -309,6 +310,7 @@ rysuj_logo:
 
 ; Below the name the heroine walks across the screen, followed by a tracker.
 idz_pod_logo:
+        jsr ozyw_znaki
         dec do_kroku
         bne @nic
         lda #KLATKI_KROKU

@@ -28,14 +28,14 @@ Ksztalt takeKsztalt(Source& source) {
     return ksztalt;
 }
 
-// The drawing of the tile `code`: its own, or an earlier one mirrored, "lustro 26" left to right, "odbicie 28" top to
+// A drawing: its own rows, or that of a tile up to `last` mirrored, "lustro 26" left to right, "odbicie 28" top to
 // bottom.
-Ksztalt takeRysunek(Source& source, const Rysunki& rysunki, int code) {
+Ksztalt takeRysunek(Source& source, const Ksztalty& ksztalty, int last) {
     const auto [word, number] = splitWord(source.peek());
     if (word != "lustro" && word != "odbicie")
         return takeKsztalt(source);
     source.take();
-    Ksztalt ksztalt = rysunki.ksztalty[parseNumber(source, number, 0, code - 1)];
+    Ksztalt ksztalt = ksztalty[parseNumber(source, number, 0, last)];
     if (word == "odbicie") {
         std::ranges::reverse(ksztalt);
         return ksztalt;
@@ -82,16 +82,20 @@ Rysunki parseRysunki(Source source) {
         const std::string title = std::to_string(i) + " " + std::string(NAZWY_ZNAKOW[i]);
         if (source.take() != title)
             source.fail("the tile \"" + title + "\" should stand here");
-        rysunki.ksztalty[i] = takeRysunek(source, rysunki, static_cast<int>(i));
+        rysunki.ksztalty[i] = takeRysunek(source, rysunki.ksztalty, static_cast<int>(i) - 1);
     }
     for (const auto& [nazwa, ksztalt] : {std::pair{"otwarte", &rysunki.otwarte}, {"obcy", &rysunki.obcy}}) {
         if (source.take() != nazwa)
             source.fail("the drawing \"" + std::string(nazwa) + "\" should stand here");
         *ksztalt = takeKsztalt(source);
     }
-    if (!source.atEnd()) {
-        source.take();
-        source.fail("nothing should stand behind the last drawing");
+    rysunki.drugie = rysunki.ksztalty;
+    while (!source.atEnd()) {
+        const auto [word, number] = splitWord(source.take());
+        if (word != "ruch")
+            source.fail("only second drawings, \"ruch 11\", may stand here");
+        const int code = parseNumber(source, number, 1, ZNAKI_COUNT - 1);
+        rysunki.drugie[code] = takeRysunek(source, rysunki.drugie, code);
     }
     return rysunki;
 }
@@ -101,7 +105,7 @@ Bajty BuildZnaki(const Rysunki& rysunki) {
     for (std::size_t code = 0; bytes.size() < ZNAKI_SIZE_BYTES; ++code)
         for (const auto& row : code < ZNAKI_COUNT    ? rysunki.ksztalty[code]
                                : code == ZNAKI_COUNT ? rysunki.otwarte
-                                                     : rysunki.obcy)
+                                                     : rysunki.drugie[code - ZNAKI_COUNT])
             bytes.push_back(static_cast<Bajt>(row[0] << 6 | row[1] << 4 | row[2] << 2 | row[3]));
     return bytes;
 }
