@@ -1,32 +1,28 @@
 #include "board/census.h"
 
 #include "board/bufor.h"
+#include "board/spis.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 namespace dorva {
 namespace {
 
-// A tile counts in both its forms, STD and INV.
 EtapInfo countPlansza(const Plansza& plansza, int celMasek) {
-    std::array<int, 256> byCode{};
-    for (const PokazanyZnak& cell : plansza)
-        ++byCode[kod(cell.znak)];
-    const auto count = [&](Znak z) { return byCode[kod(z)] + byCode[kod(z) + INV]; };
+    const Spis spis = countZnaki(plansza, &PokazanyZnak::znak);
     return {
-        .jestDorva = count(DORVA) > 0,
-        .jestWyjscie = count(WYJSCIE) > 0,
-        .maski = count(MASKA),
+        .jestDorva = spis.dorvy > 0,
+        .jestWyjscie = spis.wyjscia > 0,
+        .maski = spis.maski,
         .celMasek = celMasek,
-        .klucze = count(KLUCZ),
-        .drzwi = count(DRZWI),
-        .bomby = count(BOMBA),
-        .pulapki = count(PULAPKA),
-        .przedmioty = count(PRZEDMIOT),
-        .maszyny = count(MASZYNA),
-        .pochodnia = count(POCHODNIA) > 0,
+        .klucze = spis.klucze,
+        .drzwi = spis.drzwi,
+        .bomby = spis.bomby,
+        .pulapki = spis.pulapki,
+        .przedmioty = spis.przedmioty,
+        .maszyny = spis.maszyny,
+        .pochodnia = spis.pochodnie > 0,
     };
 }
 
@@ -40,14 +36,14 @@ InfoFigura number(int count, bool broken = false) {
 
 void showMaski(Okno& okno) {
     const EtapInfo& etap = okno.etapInfo;
-    const bool tooFew = etap.maski < etap.celMasek;
+    const bool tooFew = tooFewMaski(etap.maski, etap.celMasek);
     okno.lblInfo[info::MASKI] = number(etap.maski, tooFew);
     okno.lblInfo[info::CEL_MASEK] = number(etap.celMasek, tooFew);
 }
 
 void showInfo(Okno& okno) {
     const EtapInfo& etap = okno.etapInfo;
-    const bool tooFewKeys = etap.klucze < etap.drzwi;
+    const bool tooFewKeys = tooFewKlucze(etap.klucze, etap.drzwi);
     okno.lblInfo[info::DORVA] = presence(etap.jestDorva);
     okno.lblInfo[info::WYJSCIE] = presence(etap.jestWyjscie);
     showMaski(okno);
@@ -55,7 +51,7 @@ void showInfo(Okno& okno) {
     okno.lblInfo[info::DRZWI] = number(etap.drzwi, tooFewKeys);
     okno.lblInfo[info::BOMBY] = number(etap.bomby);
     okno.lblInfo[info::PULAPKI] = number(etap.pulapki);
-    okno.lblInfo[info::PRZEDMIOTY] = number(etap.przedmioty, etap.przedmioty % 2 != 0);
+    okno.lblInfo[info::PRZEDMIOTY] = number(etap.przedmioty, unpaired(etap.przedmioty));
     okno.lblInfo[info::MASZYNY] = number(etap.maszyny);
     okno.lblInfo[info::POCHODNIA] = number(etap.pochodnia ? 1 : 0);
 }
