@@ -2,6 +2,7 @@
 
 #include "sciezki.h"
 #include "shell/komunikaty.h"
+#include "stage/autor_gry.h"
 #include "stage/etap.h"
 #include "stage/kopie_ekranu.h"
 #include "stage/zapis_jako.h"
@@ -11,7 +12,6 @@
 
 #include <array>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -21,18 +21,6 @@ namespace {
 constexpr std::string_view FILTR_ZAPISU = "Plik archiwum|*.dpa|Wszystkie pliki (*.*)|*.*";
 constexpr std::string_view FILTR_ODCZYTU = "Pliki archiwum|*.dpa|Wszystkie pliki (*.*)|*.*";
 constexpr std::string_view NAZWA_ARCHIWUM = "DPArchiwum.dpa";
-
-Bajty assemble(const Bajty& autorGry, const std::array<EtapImage, ETAPY_COUNT>& etapy) {
-    Bajty archiwum = autorGry;
-    for (const EtapImage& image : etapy)
-        archiwum.insert(archiwum.end(), image.begin(), image.end());
-    return archiwum;
-}
-
-// The bytes of stage `number` in an archive.
-std::span<const Bajt> etapOf(std::span<const Bajt> archiwum, int number) {
-    return archiwum.subspan(AUTOR_GRY_SIZE_BYTES + (number - 1) * ETAP_SIZE_BYTES, ETAP_SIZE_BYTES);
-}
 
 // Makes a copy of the whole game, with the current stage and the title lines as they are on the screen. A stage whose
 // file is missing or too short goes in as the one that a new window holds.
@@ -44,7 +32,7 @@ void keepGra(const Edytor& e) {
         etapy[number - 1] = stored.value_or(first);
     }
     etapy[e.NumerEtapu - 1] = packed(e.okno);
-    const Bajty archiwum = assemble(packedAutorGry(e.okno), etapy);
+    const Bajty archiwum = assembleArchiwum(packedAutorGry(e.okno), etapy);
     if (archiwum.size() == ARCHIWUM_SIZE_BYTES)
         (void)keepCopy(*e.system, e.KatalogBazowy / sciezki::ARCHIWUM, archiwum, e.system->now(),
                        sciezki::ARCHIWUM_ENDING);
@@ -61,7 +49,7 @@ void cmdSaveArch_Click(Edytor& e) {
     const auto etapy = readOrCreateAllEtapy(e);
     if (!etapy)
         return;
-    const Bajty archiwum = assemble(fillAutorGry(e), *etapy);
+    const Bajty archiwum = assembleArchiwum(fillAutorGry(e), *etapy);
     if (archiwum.size() != ARCHIWUM_SIZE_BYTES) {
         askMessage(e.haki, komunikaty::NIE_MOZNA_PLIKU);
         return;

@@ -2,13 +2,11 @@
 #pragma once
 
 #include "edytor.h"
+#include "stage/archiwum_image.h"
 
-#include <cstddef>
 #include <span>
 
 namespace dorva {
-
-inline constexpr std::size_t AUTOR_GRY_SIZE_BYTES = LINIE_COUNT * LINIA_WIDTH;
 
 // The three lines as they are stored, 60 bytes unless one is too long. Changes nothing in the window.
 Bajty packedAutorGry(const Okno&);
