@@ -1,81 +1,29 @@
 #include "tiles/zestaw.h"
 
 #include "board/plansza.h"
-#include "sciezki.h"
-#include "system/pliki.h"
 #include "tiles/kolory.h"
+#include "tiles/paski.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <filesystem>
-#include <memory>
-#include <optional>
-#include <utility>
-#include <vector>
 
 namespace dorva {
-namespace {
-
-// On Windows the case of a name doesn't count, neither for the ending nor for the order.
-constexpr bool IGNORES_CASE = std::filesystem::path::preferred_separator != '/';
-
-std::filesystem::path::string_type comparable(const std::filesystem::path& name) {
-    auto text = name.native();
-    if (IGNORES_CASE)
-        for (auto& c : text)
-            c -= c >= 'a' && c <= 'z' ? 'a' - 'A' : 0;
-    return text;
-}
-
-// The files "*.ND" of a folder, sorted. Hidden ones are left out: some systems leave a "._NAME" beside each file on a
-// memory stick.
-std::vector<std::filesystem::path> listZestawy(const Edytor& e, const std::filesystem::path& folder) {
-    static const auto end = std::filesystem::path(".ND").native();
-    auto names = listNames(*e.system, folder, "");
-    std::erase_if(names, [&](const std::filesystem::path& name) {
-        return name.native().starts_with('.') || !comparable(name).ends_with(end) ||
-               !lengthOf(*e.system, folder / name);
-    });
-    std::ranges::sort(names, {}, comparable);
-    return names;
-}
-
-std::optional<Bitmapa> loadStrip(const Edytor& e, const std::filesystem::path& path) {
-    auto strip = askPicture(e.haki, path, PASEK_WIDTH, OBRAZ_SIDE);
-    return strip && strip->isWhole() ? std::move(strip) : std::nullopt;
-}
-
-void cutStrip(Magazyn& frmZestawy, const Bitmapa& picTiles, Swiat swiat) {
-    for (StripPosition position = 0; position < PASEK_TILES; ++position)
-        frmZestawy.imgZnak[swiat][kodOfPosition(position)] =
-            std::make_shared<const ZnakObraz>(cutTile(picTiles, position));
-    ++frmZestawy.wersja;
-}
-
-} // namespace
-
 bool ScanZestawy(Edytor& e) {
-    const auto folder = e.KatalogBazowy / sciezki::EKSPORT;
-    const auto names = listZestawy(e, folder);
-    const int count = names.size();
+    const auto zestawy = listZestawy(*e.system, e.KatalogBazowy);
+    const int count = zestawy.size();
     for (Swiat swiat = 0; swiat < SWIATY_COUNT; ++swiat) {
         // Only the last world may be without a tile set.
         if (swiat > count)
             return false;
         if (swiat < count)
-            LoadZestaw(e, folder / names[swiat], swiat);
+            LoadZestaw(e, zestawy[swiat], swiat);
     }
     return true;
 }
 
 void LoadZestaw(Edytor& e, const std::filesystem::path& path, Swiat swiat) {
-    auto stripPath = path;
-    stripPath += ".TILES.BMP";
-    const auto picTiles = loadStrip(e, stripPath);
-    if (!picTiles)
+    if (!loadPasek(e.frmZestawy, e.haki, path, swiat))
         return;
-    cutStrip(e.frmZestawy, *picTiles, swiat);
-
     if (!readOrCreateKolory(e, swiat))
         return;
     if (swiat != e.BiezacySwiat)
