@@ -144,6 +144,17 @@ bool writeKeeping(const SystemCalls& system, const fs::path& file, std::span<con
     return writeKeeping(system, file, bytes, file);
 }
 
+std::vector<Kopia> listCopies(const SystemCalls& system, const fs::path& file, std::string_view ending) {
+    std::vector<Kopia> kopie;
+    for (const Copy& copy : copiesOf(system, file, ending).value_or(std::vector<Copy>())) {
+        const std::string name = copy.name.string();
+        const std::size_t length = TIME_FORM.size() - 1; // without the space before it
+        kopie.push_back({folderOf(file) / copy.name, name.substr(name.size() - ending.size() - length, length)});
+    }
+    std::ranges::reverse(kopie);
+    return kopie;
+}
+
 void trimCopies(const SystemCalls& system, const fs::path& file, std::string_view ending) {
     const auto copies = copiesOf(system, file, ending).value_or(std::vector<Copy>());
     for (std::size_t i = 0; i + COPIES_MAX < copies.size(); ++i)

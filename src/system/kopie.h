@@ -7,7 +7,9 @@
 
 #include <filesystem>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace dorva {
 
@@ -22,6 +24,15 @@ namespace dorva {
 [[nodiscard]] bool writeKeeping(const SystemCalls&, const std::filesystem::path& file, std::span<const Bajt> bytes,
                                 const std::filesystem::path& keptAs);
 [[nodiscard]] bool writeKeeping(const SystemCalls&, const std::filesystem::path& file, std::span<const Bajt> bytes);
+
+// A copy on the disk, and when its content was made, as its name says: "2026-11-25 18.32", local time.
+struct Kopia {
+    std::filesystem::path path;
+    std::string made;
+};
+
+// The copies of a file, the newest first.
+std::vector<Kopia> listCopies(const SystemCalls&, const std::filesystem::path& file, std::string_view ending = "");
 
 // Removes all copies of a file but the newest 200. Files with names of another form are left alone.
 void trimCopies(const SystemCalls&, const std::filesystem::path& file, std::string_view ending = "");
