@@ -42,11 +42,11 @@ shell() {
 }
 
 # Includes only point down and form no circle; a .cpp and its .h count as one file. Whatever includes edytor.h, even
-# through other files, is an operation and is above it.
+# through other files, is an operation and is above it. The overview knows no operation, and nothing else knows it.
 floors() {
     python3 - <<'END'
 import graphlib, pathlib, re
-FLOORS = "podstawy system/ sciezki board/ tiles/ stage/ output/ shell/ edytor board/ tiles/ stage/ output/ shell/ qt/".split()
+FLOORS = "podstawy system/ sciezki board/ tiles/ stage/ output/ shell/ przeglad/ edytor board/ tiles/ stage/ output/ shell/ qt/ przeglad_qt/".split()
 EDYTOR = FLOORS.index("edytor")
 includes = {(str(path.relative_to("src").with_suffix("")), included) for path in pathlib.Path("src").rglob("*.*")
             if path.suffix in (".h", ".cpp") for included in re.findall('#include "(.*)[.]h"', path.read_text())}
@@ -60,6 +60,8 @@ def floor(file):
     return next(i for i in range(lowest, len(FLOORS)) if file.startswith(FLOORS[i]))
 for file, included in includes:
     assert floor(file) >= floor(included), f"{file} includes {included}"
+    assert file.startswith("przeglad") or not included.startswith("przeglad"), f"{file} includes {included}"
+assert not any(file.startswith("przeglad") for file in operations), "the overview includes an operation"
 print(len(includes), "includes, all of them down, none in a circle")
 END
 }
@@ -72,7 +74,7 @@ summary_sanitizers() { grep 'tests passed' "$1"; }
 
 # The logic and its tests without Qt, and the branches of the source that they reach.
 coverage() {
-    local build=build/coverage pure=(src/stage src/board src/tiles src/output)
+    local build=build/coverage pure=(src/stage src/board src/tiles src/output src/przeglad)
     local tests=$build/tests/dorva_tests profile=$build/tests.profdata
     cmake --preset coverage && cmake --build --preset coverage --target dorva_tests || return
     rm -f "$build"/*.profraw

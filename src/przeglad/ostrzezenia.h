@@ -1,0 +1,15 @@
+// What is wrong with a game, in words.
+#pragma once
+
+#include "przeglad/gra.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace dorva {
+
+// The warnings of each place. A stage that is cleared has none behind the one that is marked as the last.
+std::array<std::vector<std::string>, ETAPY_COUNT> listOstrzezenia(const Gra&);
+
+} // namespace dorva

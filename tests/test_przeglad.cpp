@@ -1,0 +1,279 @@
+// The overview of a whole game: where it is read from, its warnings, arrangements, earlier versions and its archive.
+#include "desk.h"
+#include "output/obraz_gry.h"
+#include "przeglad/ostrzezenia.h"
+#include "przeglad/sprawdz.h"
+#include "przeglad/wersje.h"
+#include "przeglad/zapis.h"
+#include "przeglad/zrodla.h"
+#include "sciezki.h"
+#include "stage/archiwum.h"
+#include "stage/etap.h"
+#include "stage/pola.h"
+#include "system/kopie.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+
+namespace dorva::test {
+namespace {
+
+class Przeglad : public Desk {
+protected:
+    Gra read() { return readZestaw(SYSTEM_CALLS, base); }
+    Bajty archive() {
+        chosen = root / "gra.dpa";
+        cmdSaveArch_Click(e);
+        return readFile(*chosen);
+    }
+    // All files below the base folder with their contents.
+    std::map<std::string, Bajty> tree() {
+        std::map<std::string, Bajty> files;
+        for (const auto& entry : fs::recursive_directory_iterator(base))
+            files[entry.path().string()] = entry.is_regular_file() ? readFile(entry.path()) : Bajty{};
+        return files;
+    }
+};
+
+TEST_F(Przeglad, EachSourceGivesTheVeryGameOfTheEditor) {
+    writeFile(base / "PLIKI/DP1.DTA", Bajty(25, 'Q')); // one whole line
+    start();
+    cmdSaveArch_Click(e); // stores what start-up made of the title lines
+    const auto before = tree();
+    const Gra gra = read();
+    EXPECT_EQ(tree(), before);
+    EXPECT_EQ(archiwumOf(gra), archive());
+    EXPECT_EQ(readZrodlo(SYSTEM_CALLS, *chosen).gra, gra);
+
+    for (const std::string linia : {"  DORVA\xD3  \x9B 2", "", "12345678901234567890"}) {
+        SetTekst(e.okno, poleLinii(1), NormalizeBox({linia}, LINIA_WIDTH));
+        chosen = root / "gra.xex";
+        cmdCreate_Click(e);
+        const auto back = readZrodlo(SYSTEM_CALLS, *chosen).gra;
+        ASSERT_TRUE(back) << linia;
+        EXPECT_EQ(back->karty, gra.karty);
+        EXPECT_EQ(trimmed(back->linie[1]), trimmed({linia}));
+        EXPECT_EQ(archiwumOf(*back).size(), ARCHIWUM_SIZE_BYTES);
+    }
+}
+
+TEST_F(Przeglad, WhatIsNoGameIsRefusedWithASentence) {
+    start();
+    chosen = root / "gra.xex";
+    cmdCreate_Click(e);
+    const Bajty gra = readFile(*chosen);
+    Bajty column = gra, text = gra, ending = gra;
+    column[116180] = 3;
+    text[116180 + 22 + 5] = 70;
+    ending[116180 + 3 * 22 - 1] = 0;
+    const Bajty rows[] = {{}, Bajty(29851), Bajty(29853), Bajty(118433), Bajty(118432), column, text, ending};
+    for (const Bajty& bytes : rows) {
+        writeFile(*chosen, bytes);
+        const Odczyt odczyt = readZrodlo(SYSTEM_CALLS, *chosen);
+        EXPECT_FALSE(odczyt.gra) << &bytes - rows;
+        EXPECT_TRUE(odczyt.dlaczego.ends_with('.'));
+    }
+    EXPECT_FALSE(readZrodlo(SYSTEM_CALLS, root / "nie ma").gra || readZrodlo(SYSTEM_CALLS, root).gra);
+}
+
+TEST_F(Przeglad, WhatCannotBeReadHasACardThatSaysSoAndAnEmptyStageInTheArchive) {
+    fs::remove(base / "PLIKI/DP1.DTA");
+    fs::remove(etap(3));
+    writeFile(etap(4), Bajty(930));
+    fs::remove(etap(5));
+    fs::create_directory(etap(5));
+    Bajty longer = sampleEtap(6);
+    longer.push_back(1);
+    writeFile(etap(6), longer);
+    fs::remove(etap(32));
+    const auto before = tree();
+    const Gra gra = read();
+    EXPECT_EQ(tree(), before);
+    EXPECT_EQ(gra.karty[2].brak, "brak pliku DETAP.3");
+    EXPECT_EQ(gra.karty[3].brak, "plik DETAP.4 jest za krótki (930 z 931 bajtów)");
+    EXPECT_EQ(gra.karty[4].brak, "pliku DETAP.5 nie można odczytać");
+    EXPECT_EQ(gra.karty[5].image, sampleEtap(6));
+
+    const Bajty archiwum = archiwumOf(gra);
+    ASSERT_EQ(archiwum.size(), ARCHIWUM_SIZE_BYTES);
+    EXPECT_EQ(std::string(archiwum.begin(), archiwum.begin() + 20), defaultOkno().pola[TXT_AUTOR_GRY].tekst.znaki);
+    const auto third = etapOf(archiwum, 3);
+    EXPECT_EQ(Bajty(third.begin(), third.end()), packed(defaultOkno())) << "what the editor's own copies hold";
+    EXPECT_EQ(etapOf(archiwum, 32)[uklad::OSTATNI], 1);
+}
+
+// A stage without a fault. Every number gives a different one.
+EtapImage faultless(int number) {
+    EtapImage image = firstEtap();
+    int cell = 100;
+    for (const Znak z : {DORVA, WYJSCIE, MASKA, znak(20 + number)})
+        image[uklad::PLANSZA + cell++] = static_cast<Bajt>(z);
+    return image;
+}
+
+Gra faultlessGra() {
+    Gra gra;
+    gra.linie.fill(Tekst::spaces(LINIA_WIDTH));
+    for (int i = 0; i < ETAPY_COUNT; ++i)
+        gra.karty[i] = {faultless(i + 1), "", i + 1};
+    gra.karty[31].image[uklad::OSTATNI] = 1;
+    takeOstatni(gra);
+    return gra;
+}
+
+TEST(Ostrzezenia, EachFaultHasItsWords) {
+    const auto put = [](EtapImage& image, int cell, int code) {
+        image[uklad::PLANSZA + cell] = static_cast<Bajt>(code);
+    };
+    struct {
+        std::string words;
+        std::function<void(EtapImage&)> spoil;
+    } rows[] = {
+        {"nie ma Dorvy", [&](auto& image) { put(image, 100, 62); }},
+        {"nie ma wyjścia", [&](auto& image) { put(image, 101, 1); }},
+        {"za mało masek: 1, a cel to 2", [](auto& image) { image[uklad::CEL_MASEK] = 2; }},
+        {"za mało kluczy: 0, a drzwi jest 1", [&](auto& image) { put(image, 210, 10 + INV); }},
+        {"magiczny przedmiot bez pary (jest ich 1)", [&](auto& image) { put(image, 210, 55); }},
+        {"więcej niż jedna Dorva: 2", [&](auto& image) { put(image, 210, 63 + INV); }},
+        {"więcej niż jedno wyjście: 2", [&](auto& image) { put(image, 210, 9); }},
+        {"znaki bez obrazka, o kodach: 64, 255",
+         [&](auto& image) { put(image, 210, 255), put(image, 211, 64), put(image, 212, 64); }},
+        {"krawędź to nie tylko murek i NIC (kratek: 2)",
+         [&](auto& image) { put(image, 0, 1), put(image, 799, 5 + INV), put(image, 1, 6), put(image, 2, 0); }},
+        {"puste powitanie", [](auto& image) { std::fill_n(image.begin() + uklad::NAZWA, NAZWA_WIDTH, Bajt{0}); }},
+        {"edytor nie odczyta całego etapu: cel masek to 0", [](auto& image) { image[uklad::CEL_MASEK] = 0; }},
+        {"edytor nie odczyta całego etapu: świat to 4", [](auto& image) { image[uklad::SWIAT] = 3; }},
+        {"taki sam jak etap 1", [](auto& image) { image = faultless(1); }},
+        {"OSTATNI, ale nie ostatni: niepustych etapów po nim jest 30", [](auto& image) { image[uklad::OSTATNI] = 1; }},
+    };
+    EXPECT_EQ(listOstrzezenia(faultlessGra()), (std::array<std::vector<std::string>, ETAPY_COUNT>()));
+    for (const auto& [words, spoil] : rows) {
+        Gra gra = faultlessGra();
+        spoil(gra.karty[1].image);
+        std::array<std::vector<std::string>, ETAPY_COUNT> expected;
+        expected[1] = {words};
+        EXPECT_EQ(listOstrzezenia(gra), expected) << words;
+    }
+}
+
+TEST(Ostrzezenia, AShortGameMayEndInClearedStages) {
+    Gra gra = faultlessGra();
+    for (int i = 2; i < ETAPY_COUNT; ++i)
+        gra.karty[i].image = firstEtap();
+    const auto isFaulty = [&](int place) { return !listOstrzezenia(gra)[place].empty(); };
+    EXPECT_TRUE(isFaulty(2) && isFaulty(31)) << "no stage is marked";
+    gra.karty[1].image[uklad::OSTATNI] = 1;
+    EXPECT_FALSE(isFaulty(1) || isFaulty(2) || isFaulty(31));
+    gra.karty[20].image[uklad::PLANSZA + 300] = 2;
+    EXPECT_TRUE(isFaulty(1) && isFaulty(20));
+}
+
+TEST(Ustawianie, StagesMoveAndMarksStay) {
+    Gra gra = faultlessGra();
+    gra.karty[4].image[uklad::OSTATNI] = 2;
+    gra.karty[9] = {{}, "brak pliku DETAP.10", 10};
+    takeOstatni(gra);
+    const auto numbers = [](const Gra& g) {
+        std::vector<int> all;
+        for (const Karta& karta : g.karty)
+            all.push_back(karta.numer);
+        return all;
+    };
+    const auto expectMarks = [](const Gra& g) {
+        for (int i = 0; i < ETAPY_COUNT; ++i)
+            if (const EtapImage& image = g.karty[i].image; !image.empty()) {
+                EXPECT_EQ(image[uklad::OSTATNI], i == 4 ? 2 : i == 31 ? 1 : 0) << i;
+                EXPECT_EQ(image[uklad::PLANSZA + 103], 20 + g.karty[i].numer);
+            }
+    };
+    std::vector<int> order = numbers(gra);
+    const Gra down = moved(gra, 2, 31), up = moved(down, 31, 0), swapped = exchanged(gra, 4, 9);
+    std::rotate(order.begin() + 2, order.begin() + 3, order.end());
+    EXPECT_EQ(numbers(down), order);
+    std::rotate(order.begin(), order.end() - 1, order.end());
+    EXPECT_EQ(numbers(up), order);
+    for (const Gra& g : {down, up, swapped, exchanged(swapped, 9, 31)})
+        expectMarks(g);
+    EXPECT_EQ(swapped.karty[9].numer, 5);
+    EXPECT_EQ(exchanged(swapped, 4, 9), gra) << "the mark waits where a stage is missing";
+    EXPECT_EQ(moved(up, 0, 2), gra);
+
+    const Gra older = replaced(gra, 4, faultless(31));
+    EXPECT_EQ(older.karty[4].image[uklad::OSTATNI], 2);
+    EXPECT_EQ(older.karty[4].numer, 5);
+    Gra bad = faultlessGra();
+    bad.karty[0].image[uklad::OSTATNI] = 7;
+    takeOstatni(bad);
+    EXPECT_EQ(archiwumOf(bad)[AUTOR_GRY_SIZE_BYTES + uklad::OSTATNI], 7) << "what isn't touched isn't changed";
+    EXPECT_EQ(exchanged(bad, 0, 1).karty[0].image[uklad::OSTATNI], 0) << "a mark that is none stays with nobody";
+}
+
+TEST_F(Przeglad, EarlierVersionsComeNewestFirstAndOnce) {
+    const auto keep = [&](const fs::path& file, int minute, const Bajty& bytes, const char* ending = "") {
+        const Time time(std::chrono::hours(500000) + std::chrono::minutes(minute));
+        ASSERT_TRUE(keepCopy(SYSTEM_CALLS, file, bytes, time, ending));
+    };
+    Bajty game = sampleArchiwum();
+    keep(etap(7), 1, sampleEtap(1));
+    keep(etap(7), 3, sampleEtap(3));
+    keep(etap(7), 5, sampleEtap(7));
+    keep(etap(7), 6, Bajty(930));
+    keep(base / sciezki::ARCHIWUM, 2, game, ".dpa"); // holds stage 26 as the seventh
+    std::copy_n(sampleEtap(3).begin(), ETAP_SIZE_BYTES, game.begin() + AUTOR_GRY_SIZE_BYTES + 6 * ETAP_SIZE_BYTES);
+    keep(base / sciezki::ARCHIWUM, 4, game, ".dpa");
+    const auto wersje = listWersje(SYSTEM_CALLS, base, 7, sampleEtap(7));
+    ASSERT_EQ(wersje.size(), 3U);
+    EXPECT_EQ(wersje[0].image, sampleEtap(3));
+    EXPECT_EQ(wersje[1].image, sampleEtap(26));
+    EXPECT_EQ(wersje[2].image, sampleEtap(1));
+    EXPECT_EQ(wersje[0].made.size(), 16U);
+    EXPECT_GT(wersje[0].made, wersje[1].made);
+    EXPECT_EQ(readFile(listGry(SYSTEM_CALLS, base).front().path), game);
+    EXPECT_TRUE(listWersje(SYSTEM_CALLS, base, 8, {}).size() == 1 && listWersje(SYSTEM_CALLS, root, 8, {}).empty());
+}
+
+TEST_F(Przeglad, TheWorkingSetIsNoPlaceToWriteTo) {
+    fs::create_directories(base / "ETAPY/KOPIE");
+    fs::create_directories(root / "obok");
+    const auto isOwn = [&](const fs::path& path) { return isInZestaw(SYSTEM_CALLS, base, path); };
+    for (const char* name : {"praca/ETAPY/DETAP.7", "praca/ETAPY/nowy.dpa", "praca/ETAPY/KOPIE/x",
+                             "praca/PLIKI/DP2.DTA", "praca/OBIEKTY/../PLIKI/x.png", "praca/ETAPY"})
+        EXPECT_TRUE(isOwn(root / name)) << name;
+    for (const char* name : {"gra.dpa", "praca/gra.dpa", "praca/ETAPY.dpa", "obok/DETAP.7", "brak/brak/x"})
+        EXPECT_FALSE(isOwn(root / name)) << name;
+    fs::current_path(base / "PLIKI");
+    EXPECT_TRUE(isOwn("gra.dpa"));
+    if (!POSIX)
+        return;
+    fs::create_hard_link(etap(1), root / "twardy");
+    fs::create_symlink(base / "ETAPY/nowy", root / "w pustke");
+    fs::create_directory_symlink(base / "ETAPY", root / "folder");
+    for (const char* name : {"twardy", "w pustke", "folder/x", "folder/../PLIKI/x"})
+        EXPECT_TRUE(isOwn(root / name)) << name;
+}
+
+TEST_F(Przeglad, TheCheckForScriptsPrintsLinesAndEndsWithAStatus) {
+    const auto check = [&](const fs::path& source) {
+        std::FILE *lines = std::tmpfile(), *errors = std::tmpfile();
+        const int status = sprawdz(SYSTEM_CALLS, source, lines, errors);
+        std::string printed = std::to_string(status) + (std::ftell(errors) > 0 ? "!" : "") + "\n";
+        std::rewind(lines);
+        for (int c = std::fgetc(lines); c != EOF; c = std::fgetc(lines))
+            printed += static_cast<char>(c);
+        std::fclose(lines);
+        std::fclose(errors);
+        return printed;
+    };
+    Gra gra = faultlessGra();
+    writeFile(root / "gra.dpa", archiwumOf(gra));
+    EXPECT_EQ(check(root / "gra.dpa"), "0\n");
+    gra.karty[11].image[uklad::CEL_MASEK] = 3;
+    writeFile(root / "gra.dpa", archiwumOf(gra));
+    EXPECT_EQ(check(root / "gra.dpa"), "1\n12: za mało masek: 1, a cel to 3\n");
+    EXPECT_EQ(check(root / "nie ma"), "2!\n");
+}
+
+} // namespace
+} // namespace dorva::test
