@@ -23,7 +23,7 @@ data, game, game_maker = build / "data", build / "data/PLIKI/DP2.DTA", build / "
 if not game_maker.exists() or not game.exists():
     sys.exit(f"play-check: no {game} or no {game_maker}; build all first")
 
-BOARD, DORVA = 800, 63
+BOARD, DORVA, BENEATH = 800, 63, 127
 address = {}  # of each label of the game
 for line in (build / "game/src/szablon.lbl").read_text().splitlines():
     address.setdefault(line.split()[2][1:], int(line.split()[1], 16))
@@ -34,6 +34,8 @@ temporary = TemporaryDirectory()
 
 def part(record, name, size):
     return record[field[name]:field[name] + size]
+def shown_board(record):
+    return part(record, "PLANSZA", BOARD).replace(bytes([DORVA]), bytes([BENEATH]), 1)
 def patched(record, offset, new):
     return record[:offset] + bytes(new) + record[offset + len(new):]
 
@@ -202,9 +204,18 @@ def overlay():
         yield "and in its column", places[world], (f"{48 + 4 * x:02X}",) * 2  # the board begins at colour clock 48
     yield ("players are fetched, on each line, from their page",
            {*re.findall(r"GRACTL=..|DMACTL=..|PMBASE=..", played.log)}, {"DMACTL=3A", "GRACTL=02", "PMBASE=B0"})
-    played = play(game, f"{TO_GAME} R7 -60", ["graj_etap", "takt_innych", "GTIA", dump("dorva_x")])
-    yield ("it is there before the others' part of a tick", (played.stops, re.findall("HPOSP0=(..)", played.log)),
-           (["graj_etap", "takt_innych"], [f"{48 + 4 * x:02X}" for x in played.dumps["dorva_x"]]))
+    for keys, label, left in ("R7", "HPOSP0", (3, 3, 2, 1, 1, 0, 0)), ("U7", "linia", (-7, -5, -4, -3, -1, 0, 0)):
+        record = patched(stages[1], field["PLANSZA"] + 420, [DORVA, 0])  # alone, free to go
+        record = patched(record, field["PLANSZA"], [0] * 420)
+        ticks = [command for frame in range(7) for command in ("takt_innych", "GTIA", dump("linia", 1, frame))]
+        played = play(test_build(record), f"{TO_GAME} {keys} -60",
+                      ["graj_etap", *ticks, dump("dorva_x"), dump("dorva_y"), dump("plansza", BOARD)])
+        (x,), (y,) = played.dumps["dorva_x"], played.dumps["dorva_y"]
+        found = {"HPOSP0": [int(at, 16) - 48 - 4 * x for at in re.findall("HPOSP0=(..)", played.log)],
+                 "linia": [played.dumps[f"linia{frame}"][0] - top - 8 * y for frame in range(7)]}
+        yield (f"she glides to the next cell before the others' part of a tick ({keys})", found[label],
+               [-way for way in left])
+        yield "where she has the code that shows what lies beneath", played.dumps["plansza"][40 * y + x], BENEATH
 
 def only_stage():
     file = test_build(stages[2])
@@ -223,7 +234,7 @@ def all_stages():
         tiles = (data / f"OBIEKTY/ORN_EXPORT/FNT{record[field['SWIAT']]}1.ORN.ND").read_bytes()
         shown = [dumps[f"{label}{stage}"] for label in ("plansza", "zestaw", "kolory", "linia_info")]
         yield (f"stage {stage} as it was painted: board, tiles, colours, greeting", [*shown[:3], shown[3][8:]],
-               [part(record, "PLANSZA", BOARD), tiles[:512], part(record, "KOLORY", 12), part(record, "NAZWA", 32)])
+               [shown_board(record), tiles[:512], part(record, "KOLORY", 12), part(record, "NAZWA", 32)])
 
 def motion():
     """In each world the tiles that have a second drawing show it, and then the first again."""
@@ -238,6 +249,12 @@ def motion():
         tiles = (data / f"OBIEKTY/ORN_EXPORT/FNT{world}1.ORN.ND").read_bytes()
         yield (f"world {world + 1}: tiles move to and fro", [dumps[f"zestaw{world}{which}"][8:] for which in "ba"],
                [tiles[520:], tiles[8:512]])
+
+def foreign_codes():
+    """The codes that her own cell has look like others of their kind elsewhere."""
+    record = patched(stages[1], field["PLANSZA"], [126, BENEATH, BENEATH + 128, 128])
+    dumps = play(test_build(record), f"{TO_GAME} -60", ["graj_etap", dump("plansza", 4)]).dumps
+    yield "127 and 255 become 126 and 254", [*dumps["plansza"]], [126, 126, 254, 128]
 
 def empty_board():
     empty = part(stages[1], "PLANSZA", BOARD).replace(bytes([DORVA]), bytes([0]))
@@ -280,11 +297,11 @@ def machines():
     for machine in "-320xe", "-rambo", "-576xe", "-1088xe":
         played = play(game, f"{TO_GAME} -60", ["wcisniete", "graj_etap", dump("plansza", BOARD)], machine)
         yield (f"stage 1 is there on a larger machine ({machine})", played.dumps["plansza"],
-               part(stages[1], "PLANSZA", BOARD))
+               shown_board(stages[1]))
     yield "a machine of 64 KB shows what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
 
 CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (overlay,), (only_stage,),
-          (all_stages,), (motion,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
+          (all_stages,), (motion,), (foreign_codes,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
           (reset, "-basic"), (machines,)]
 
 # Pictures for the documents.

@@ -2,7 +2,9 @@
 ; set of a world, with a picture for the codes that are no tiles, and the second drawings of tiles that move.
 .include "atari.inc"
 .include "reguly.inc"
-.export zrob_czcionki, wez_zestaw, otworz_wyjscie, ozyw_znaki, czcionka, czcionka_panelu, zestaw
+.export zrob_czcionki, wez_zestaw, otworz_wyjscie, ozyw_znaki, wskaz_rysunek
+.export czcionka, czcionka_panelu, zestaw
+.exportzp dokad
 
 .segment "CZCIONKI"
 czcionka: .res 1024     ; the ROM font plus nine Polish capitals
@@ -218,6 +220,22 @@ ozyw_znaki:
         lda wolne,x
 ; Gives tile A one of its two drawings. Keeps X.
 rysuj_znak:
+        jsr wskaz_rysunek
+        ldy dokad
+        sty zrodlo
+        and #3
+        ora strona_swiata
+        ora drugi
+        sta zrodlo+1
+        ldy #7
+:       lda (zrodlo),y
+        sta (dokad),y
+        dey
+        bpl :-
+        rts
+
+; dokad := where the drawing of code A is in the set, in either form; A := dokad+1. Keeps X.
+wskaz_rysunek:
         ldy #0
         sty dokad+1
         asl
@@ -225,19 +243,9 @@ rysuj_znak:
         rol dokad+1
         asl
         rol dokad+1
-        sta zrodlo
         sta dokad
-        lda dokad+1
-        ora strona_swiata
-        ora drugi
-        sta zrodlo+1
         lda dokad+1
         ora #>zestaw
         sta dokad+1
-        ldy #7
-:       lda (zrodlo),y
-        sta (dokad),y
-        dey
-        bpl :-
         rts
         .assert <swiaty = 0 && >swiaty & 3 = 0 && >zestaw & 3 = 0, lderror, "character sets begin at a kilobyte"

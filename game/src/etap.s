@@ -62,8 +62,7 @@ wez_etap:
         ldx #3
         ldy #0
 @strona:
-        lda (rekord),y
-        sta (gdzie),y
+        jsr kopiuj_kod
         iny
         bne @strona
         inc rekord+1
@@ -71,8 +70,7 @@ wez_etap:
         dex
         bne @strona
 @reszta:
-        lda (rekord),y
-        sta (gdzie),y
+        jsr kopiuj_kod
         iny
         cpy #POLA - 768
         bne @reszta
@@ -104,4 +102,15 @@ wez_etap:
         sta swiat_zestawu
         jmp wez_zestaw
 @te_same:
+        rts
+
+; Copies one cell of the board. PODLOZE means her cell, so one that is painted gets another code that looks and is the same.
+kopiuj_kod:
+        lda (rekord),y
+        ora #INV
+        cmp #PODLOZE | INV
+        lda (rekord),y
+        bcc :+
+        sbc #1
+:       sta (gdzie),y
         rts

@@ -5,7 +5,7 @@
 .importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
-.import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
+.import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, dojdz, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
 .import linia_info, dwie_cyfry, ozyw_znaki
 .import zacznij_panel, rysuj_panel, info_powitanie, info_takt
 .import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, ucisz_muzyke, dodaj_punkty
@@ -242,7 +242,7 @@ czytaj_klawisze:
 ; A life is lost: shows a flash and a message, and she screams.
 pokaz_strate:
         jsr rysuj_dorve
-        jsr rysuj_nakladke
+        jsr dojdz
         lda #KOM_STRACILA
         sta komunikat
         jsr info_takt
@@ -263,6 +263,7 @@ pokaz_premie:
 
 ; Turns what is left of the bonus for time into points, ten for each.
 policz_premie:
+        jsr dojdz
         lda #KOM_PREMIA
         sta komunikat
         jsr info_takt

@@ -1,10 +1,12 @@
-; The heroine's overlay: two players cover her cell, so that she has colours of her own on any board. The board's bytes
-; don't change. One player is her dress and hair, the other her skin; their pixels are as large as those of a tile.
+; The heroine's overlay: two players, so that she has colours of her own on any board. One is her dress and hair, the
+; other her skin; their pixels are as large as those of a tile. For the rules she goes from cell to cell at once; here she
+; glides there in as many frames as a step takes. Her cell shows what lies beneath her: it has the code PODLOZE, whose
+; character is a copy of the tile's.
 .include "atari.inc"
 .include "reguly.inc"
-.export pokaz_nakladke, rysuj_nakladke, mrugnij_nakladka, schowaj_nakladke
-.importzp dorva, dorva_x, dorva_y, zegar, ochrona
-.import plansza
+.export pokaz_nakladke, rysuj_nakladke, mrugnij_nakladka, schowaj_nakladke, dojdz
+.importzp dorva, dorva_x, dorva_y, zegar, ochrona, dokad
+.import plansza, pod, zestaw, wskaz_rysunek, czekaj_klatke
 
 PIERWSZA_LINIA = 36                     ; scan line of the board's first row
 LEWY_BRZEG = 48                         ; colour clock of its first column
@@ -25,8 +27,19 @@ gracz1: .res 256
 
 .segment "BSS"
 linia:  .res 1          ; the scan line where she was drawn
+obraz:  .res 1          ; her picture, a tile code
+spod:   .res 1          ; the code beneath her
+byla_x: .res 1          ; the cell where she was drawn
+byla_y: .res 1
+krok_w_x: .res 1        ; 1, 0 or -1: the latest step
+krok_w_y: .res 1
+slizg:  .res 1          ; frames until she gets to her cell
 
 .segment "RODATA"
+; what is left of the way, by slizg: in colour clocks of four a column, in scan lines of eight a row
+reszta_x: .byte 0, 1, 1, 2, 3, 3
+reszta_y: .byte 0, 1, 3, 4, 5, 7
+        .assert * - reszta_y = KROK, error, "a step takes KROK frames"
 ; a shape: eight rows; the left half are pixels of the dress, the right half those of the skin
 stojaca:   .byte %01100000, %10010110, %10010110, %01100000, %01101001, %01100000, %11110000, %00000110
 krzyczy: .byte %01101001, %00001111, %10010110, %10011001, %01100000, %01100000, %11110000, %00001001
@@ -64,12 +77,17 @@ pokaz_nakladke:
         inx
         bne @czysc
         sta linia
+        sta slizg
         sta SIZEP0
         sta SIZEP0+1
         lda #1                          ; players in front of the board
         sta GPRIOR
         lda #2
         sta GRACTL
+        lda dorva_x                     ; she stands
+        sta byla_x
+        lda dorva_y
+        sta byla_y
         jmp rysuj_nakladke
 
 ; One frame of blinking, so that nobody has to search for her.
@@ -96,7 +114,14 @@ schowaj_nakladke:
         sta GRAFP0+1
         rts
 
-; Draws the overlay where she is now.
+; Lets her finish her step.
+dojdz:  jsr rysuj_nakladke
+        jsr czekaj_klatke
+        lda slizg
+        bne dojdz
+        rts
+
+; Draws the overlay where she is in this frame.
 rysuj_nakladke:
         ldx linia
         ldy #WYS
@@ -106,16 +131,36 @@ rysuj_nakladke:
         inx
         dey
         bne @zmaz
+        jsr przesun_sie
+        ldx slizg
         lda dorva_y
         asl
         asl
         asl
         adc #PIERWSZA_LINIA
+        ldy krok_w_y
+        beq @w_pionie
+        bmi @w_gore
+        sec
+        sbc reszta_y,x
+        bcs @w_pionie
+@w_gore:
+        adc reszta_y,x
+@w_pionie:
         sta linia
         lda dorva_x
         asl
         asl
         adc #LEWY_BRZEG
+        ldy krok_w_x
+        beq @w_poziomie
+        bmi @w_lewo
+        sec
+        sbc reszta_x,x
+        bcs @w_poziomie
+@w_lewo:
+        adc reszta_x,x
+@w_poziomie:
         sta HPOSP0
         sta HPOSP0+1
         ldx #CERA
@@ -126,15 +171,8 @@ rysuj_nakladke:
         beq :+
         ldx #ZRANIONA
 :       stx PCOLR0
-        lda dorva
-        sta wsk_nakladki
-        lda dorva+1
-        clc
-        adc #>plansza
-        sta wsk_nakladki+1
-        ldy #0
-        lda (wsk_nakladki),y
-        and #$3F
+        jsr odslon
+        lda obraz
         sec
         sbc #PO_OCZY
         tax
@@ -166,4 +204,68 @@ rysuj_nakladke:
         inx
         dec wiersze
         bne @rysuj
+        rts
+
+; Notices a step and counts the frames that are left of it. A leap further than to a cell next to hers doesn't glide.
+przesun_sie:
+        lda slizg
+        beq :+
+        dec slizg
+:       lda dorva_x
+        sec
+        sbc byla_x
+        tax
+        lda dorva_y
+        sec
+        sbc byla_y
+        tay
+        bne @krok
+        cpx #0
+        beq @stoi
+@krok:  stx krok_w_x
+        sty krok_w_y
+        lda dorva_x
+        sta byla_x
+        lda dorva_y
+        sta byla_y
+        lda #0
+        inx
+        cpx #3
+        bcs @skok
+        iny
+        cpy #3
+        bcs @skok
+        lda #KROK - 1
+@skok:  sta slizg
+@stoi:  rts
+
+; Gives her cell the code that shows what lies beneath, in its form, and keeps her picture.
+odslon: lda dorva
+        sta wsk_nakladki
+        lda dorva+1
+        clc
+        adc #>pod
+        sta wsk_nakladki+1
+        ldy #0
+        lda (wsk_nakladki),y
+        sta spod
+        lda dorva+1
+        adc #>plansza
+        sta wsk_nakladki+1
+        lda (wsk_nakladki),y
+        and #$7F
+        cmp #PODLOZE
+        beq :+                          ; no tick since
+        sta obraz
+:       lda spod
+        and #INV
+        ora #PODLOZE
+        sta (wsk_nakladki),y
+        lda spod
+        jsr wskaz_rysunek
+        ldy #7
+:       lda (dokad),y
+        sta zestaw + PODLOZE * 8,y
+        dey
+        bpl :-
         rts

@@ -80,7 +80,8 @@ delta_hi: .byte >-1, 0, >-KOLUMNY, 0
 cechy:
     .repeat 2
         wlasnosci
-        .res 64, 0
+        .res 63, 0
+        .byte C_DORVA                                           ; 127 what lies beneath her
     .endrepeat
         .assert * - cechy = 256, error, "cechy must cover every byte"
 
