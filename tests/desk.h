@@ -145,6 +145,18 @@ protected:
         attach(e);
         start();
     }
+    // Runs an operation whose file dialog is answered with a name, taken from `root` on.
+    void run(void (*operation)(Edytor&), const fs::path& name) {
+        chosen = root / name;
+        operation(e);
+    }
+    // The texts of the message boxes since the last call, with bars in between.
+    std::string said() {
+        std::string all;
+        for (const std::string& text : std::exchange(shown, {}))
+            all += (all.empty() ? "" : "|") + text;
+        return all;
+    }
     [[nodiscard]] fs::path etap(int number) const { return base / "ETAPY" / ("DETAP." + std::to_string(number)); }
     Znak& cell(int row, int column) { return e.okno.imgPG[row * 40 + column].znak; }
     [[nodiscard]] std::vector<std::string> namesIn(const fs::path& folder) const {

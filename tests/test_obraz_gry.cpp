@@ -5,12 +5,25 @@
 #include "stage/zbior_etapow.h"
 
 #include <algorithm>
-#include <utility>
+#include <array>
 
 namespace dorva::test {
 namespace {
 
-class GameBuild : public Desk {};
+class GameBuild : public Desk {
+protected:
+    // The template with stages, by their place in the game, and title lines.
+    static Bajty expectedGame(const std::map<int, Bajty>& stages, const std::array<std::string, 3>& lines) {
+        Bajty game = sampleSzablon();
+        const auto put = [&](const Bajty& bytes, int at) { std::ranges::copy(bytes, game.begin() + at); };
+        // A record with its header has 935 bytes; in the middle there are five more, a bank switch.
+        for (const auto& [number, stage] : stages)
+            put(stage, 29724 + 935 * (number - 1) + (number > 16 ? 5 : 0));
+        for (int i = 0; i < 3; ++i)
+            put(BuildLiniaTytulu(ascii(lines[i])), 116180 + 22 * i);
+        return game;
+    }
+};
 
 TEST(Template, TitleLines) {
     const Bajty test = BuildLiniaTytulu(ascii("     TEST ETAPU     "));
@@ -29,10 +42,8 @@ TEST(Template, TitleLines) {
 TEST_F(GameBuild, GameHoldsAllStagesAndNothingElseChanges) {
     start();
     cell(4, 4) = KLUCZ;
-    chosen = root / "gra.xex";
-    cmdCreate_Click(e);
-    EXPECT_EQ(shown,
-              std::vector<std::string>{"Został utworzony plik XEX z grą Dorva.\nUruchomić grę na emulatorze Atari?"});
+    run(cmdCreate_Click, "gra.xex");
+    EXPECT_EQ(said(), "Został utworzony plik XEX z grą Dorva.\nUruchomić grę na emulatorze Atari?");
     cmdORN_Click(e);
     EXPECT_EQ(started, (decltype(started){{base / "PLIKI/DP3.BAT", OknoProgramu::Hidden},
                                           {base / "OBIEKTY/ORN.exe", OknoProgramu::Normal}}));
@@ -41,17 +52,10 @@ TEST_F(GameBuild, GameHoldsAllStagesAndNothingElseChanges) {
     const Bajty game = readFile(*chosen);
     ASSERT_EQ(game.size(), GRA_SIZE_BYTES);
     EXPECT_EQ(readFile(base / "PLIKI/TEST.XEX"), game);
-    Bajty expected = sampleSzablon();
-    // A record with its header has 935 bytes; in the middle there are five more, a bank switch.
-    for (int number = 1; number <= ETAPY_COUNT; ++number) {
-        const Bajty stage = readFile(etap(number));
-        std::copy(stage.begin(), stage.end(), expected.begin() + 29724 + 935 * (number - 1) + (number > 16 ? 5 : 0));
-    }
-    for (int i = 0; i < 3; ++i) {
-        const Bajty line = BuildLiniaTytulu(ascii(std::string(20, "XYZ"[i])));
-        std::copy(line.begin(), line.end(), expected.begin() + 116180 + 22 * i);
-    }
-    EXPECT_EQ(game, expected);
+    std::map<int, Bajty> stages;
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        stages[number] = readFile(etap(number));
+    EXPECT_EQ(game, expectedGame(stages, {std::string(20, 'X'), std::string(20, 'Y'), std::string(20, 'Z')}));
     EXPECT_EQ(game[29724 + 32 + 164], 13) << "unsaved changes are in the game";
 
     answers = {true, false};
@@ -63,16 +67,14 @@ TEST_F(GameBuild, GameHoldsAllStagesAndNothingElseChanges) {
 TEST_F(GameBuild, GameReadsEverythingBeforeItAsks) {
     start();
     fs::remove(etap(30));
-    chosen = root / "gra.xex";
-    cmdCreate_Click(e);
+    run(cmdCreate_Click, "gra.xex");
     writeFile(etap(30), sampleEtap(30));
     writeFile(base / "PLIKI/DP2.DTA", Bajty(GRA_SIZE_BYTES - 1, 0));
     cmdCreate_Click(e);
     cmdTest_Click(e);
     fs::remove(base / "PLIKI/DP2.DTA");
     cmdTest_Click(e);
-    EXPECT_TRUE(dialogs.empty());
-    EXPECT_TRUE(shown.empty());
+    EXPECT_TRUE(dialogs.empty() && shown.empty());
     writeFile(base / "PLIKI/DP2.DTA", sampleSzablon());
     writeFile(*chosen, {1});
     answers = {false}; // don't replace it
@@ -92,23 +94,15 @@ TEST_F(GameBuild, TestBuildTakesTheBoardAndMarksItLast) {
     writeFile(base / "PLIKI/DP2.DTA", longer);
     for (const int ostatni : {2, 1, 0}) {
         ASSERT_TRUE(SetOstatni(e, ostatni));
-        shown.clear();
         cmdTest_Click(e);
         EXPECT_EQ(e.okno.chkOstatni, ostatni) << "the box holds what it held";
+        EXPECT_EQ(said(), "Został utworzony plik XEX z testowanym etapem.\nUruchomić plik na emulatorze Atari?");
     }
-    EXPECT_EQ(shown, std::vector<std::string>{
-                         "Został utworzony plik XEX z testowanym etapem.\nUruchomić plik na emulatorze Atari?"});
     EXPECT_FALSE(fs::exists(etap(20)));
 
-    Bajty expected = sampleSzablon();
     Bajty stage = sampleEtap(20);
     stage[uklad::OSTATNI] = 1;
-    std::copy(stage.begin(), stage.end(), expected.begin() + 29724);
-    const Bajty lines[] = {BuildLiniaTytulu(ascii(std::string(20, 'X'))), BuildLiniaTytulu({}),
-                           BuildLiniaTytulu(ascii("TEST ETAPU"))};
-    for (int i = 0; i < 3; ++i)
-        std::copy(lines[i].begin(), lines[i].end(), expected.begin() + 116180 + 22 * i);
-    EXPECT_EQ(readFile(base / "PLIKI/TEST.XEX"), expected);
+    EXPECT_EQ(readFile(base / "PLIKI/TEST.XEX"), expectedGame({{1, stage}}, {std::string(20, 'X'), "", "TEST ETAPU"}));
 }
 
 } // namespace

@@ -53,38 +53,32 @@ TEST_F(Start, TooFewTileSetNamesEndStartUp) {
 }
 
 TEST_F(Start, TitleLinesOfOtherLengths) {
+    const fs::path file = base / "PLIKI/DP1.DTA";
     for (std::size_t size : {0U, 19U, 20U, 41U, 59U, 60U, 61U}) {
-        writeFile(base / "PLIKI/DP1.DTA", Bajty(size, 'Q'));
+        writeFile(file, Bajty(size, 'Q'));
         restart();
         for (std::size_t i = 0; i < 3; ++i)
             EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY + i].tekst.znaki, std::string(20, size >= 20 * (i + 1) ? 'Q' : ' '))
                 << size;
         Form_QueryUnload(e);
-        EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA").size(), 60U);
+        EXPECT_EQ(readFile(file).size(), 60U);
     }
     EXPECT_EQ(namesIn("PLIKI/KOPIE/DP1.DTA").size(), 5U);
-    static bool broken; // the file is there and can't be opened
     SystemCalls unopened = SYSTEM_CALLS;
-    unopened.open = [](const fs::path& path, OpenMode mode, Handle& file) {
-        return broken && path.filename() == "DP1.DTA" ? Result::Error : SYSTEM_CALLS.open(path, mode, file);
+    unopened.open = [](const fs::path& path, OpenMode mode, Handle& handle) {
+        return path.filename() == "DP1.DTA" ? Result::Error : SYSTEM_CALLS.open(path, mode, handle);
     };
-    writeFile(base / "PLIKI/DP1.DTA", Bajty(60, 'Q'));
     calls = &unopened;
-    broken = true;
     restart();
     EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY].tekst.znaki, "DORVA PLANSZOWNIK!  ") << "the boxes stay as they were";
 }
 
 TEST_F(Start, HooksThatThrowOrAreMissingAnswerLikeACancel) {
     const auto fail = [](auto&&...) -> bool { throw std::runtime_error("hook"); };
-    for (bool missing : {false, true}) {
+    const auto failAlso = [&](auto&&...) { return fail(), std::nullopt; };
+    for (const Haki& haki : {Haki{}, Haki{fail, failAlso, failAlso, fail, failAlso}}) {
         e = Edytor{};
-        if (!missing) {
-            e.haki.messageBox = fail;
-            e.haki.openDialog = e.haki.saveDialog = [&](const DialogPliku&) { return fail(), std::nullopt; };
-            e.haki.startProgram = [&](const fs::path&, OknoProgramu) { fail(); };
-            e.haki.loadPicture = [&](const fs::path&, int, int) { return fail(), std::nullopt; };
-        }
+        e.haki = haki;
         start();
         cell(5, 5) = BOMBA;
         for (auto operation : {cmdSave_Click, cmdLoad_Click, cmdSaveArch_Click, cmdLoadArch_Click, cmdCreate_Click,
@@ -105,11 +99,9 @@ TEST_F(Start, OddFolderAndFileNames) {
     Form_Load(e, odd.filename(), "1.0.2");
     EXPECT_EQ(e.image, sampleEtap(1));
     EXPECT_EQ(e.OstatniaSciezka, fs::canonical(root));
-    chosen = root / ("Gra " + quote + "Łoś" + quote + ".dpa");
-    cmdSaveArch_Click(e);
+    run(cmdSaveArch_Click, "Gra " + quote + "Łoś" + quote + ".dpa");
     cmdLoadArch_Click(e);
-    chosen = root / "Gra łosia.xex";
-    cmdCreate_Click(e);
+    run(cmdCreate_Click, "Gra łosia.xex");
     EXPECT_EQ(readFile(*chosen).size(), GRA_SIZE_BYTES);
     EXPECT_EQ(readFile(odd / "PLIKI/TEST.XEX"), readFile(*chosen));
     EXPECT_EQ(started.size(), 1U);
@@ -119,21 +111,24 @@ TEST_F(Start, OddFolderAndFileNames) {
 
 TEST_F(Start, EmptiedBoxIsRefilledAndLeavingFitsTheText) {
     start();
+    const auto text = [&](std::size_t box) { return e.okno.pola[box].tekst.znaki; };
     const unsigned before = e.okno.pola[TXT_AUTOR].zaznaczenia;
     txt_Change(e, POLE_AUTOR, {});
-    EXPECT_EQ(e.okno.pola[TXT_AUTOR].tekst, Tekst::spaces(64));
+    EXPECT_EQ(text(TXT_AUTOR), std::string(64, ' '));
     EXPECT_EQ(e.okno.pola[TXT_AUTOR].zaznaczenia, before + 1);
     txt_Change(e, POLE_NAZWA, {std::string(33, 'A')});
-    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.size(), 32U);
-    txt_Change(e, poleLinii(1), {"za\xBF\xF3\xB3\xE6"});
-    txt_LostFocus(e, poleLinii(1));
-    txt_Change(e, POLE_NAZWA, ascii("ala"));
-    txt_LostFocus(e, POLE_NAZWA);
-    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.znaki, std::string(15, ' ') + "ALA" + std::string(14, ' '));
-    txt_Change(e, POLE_AUTOR, ascii("ola"));
-    txt_LostFocus(e, POLE_AUTOR);
-    EXPECT_EQ(e.okno.pola[TXT_AUTOR].tekst.znaki, "OLA" + std::string(61, ' '));
-    EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY + 1].tekst.znaki, "ZA\xAF\xD3\xA3\xC6" + std::string(14, ' '));
+    EXPECT_EQ(text(TXT_NAZWA).size(), 32U);
+    const struct {
+        std::size_t box;
+        std::string typed, left;
+    } rows[]{{TXT_NAZWA, "ala", std::string(15, ' ') + "ALA" + std::string(14, ' ')},
+             {TXT_AUTOR, "ola", "OLA" + std::string(61, ' ')},
+             {TXT_AUTOR_GRY + 1, "za\xBF\xF3\xB3\xE6", "ZA\xAF\xD3\xA3\xC6" + std::string(14, ' ')}};
+    for (const auto& row : rows) {
+        txt_Change(e, POLA[row.box], {row.typed});
+        txt_LostFocus(e, POLA[row.box]);
+        EXPECT_EQ(text(row.box), row.left);
+    }
 }
 
 } // namespace
