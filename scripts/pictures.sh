@@ -1,7 +1,7 @@
 #!/bin/bash
 # pictures.sh: draws the pictures docs/obrazy/znaki*.png from the built tile sets, and takes okno*.png again from the
-# running program, while it paints the stage of the guide's first ten minutes. Needs a build, Xvfb, openbox, xdotool and
-# ImageMagick.
+# running program, while it paints the stage of the guide's first ten minutes, and emulator*.png. Needs a build, Xvfb,
+# openbox, xdotool, ImageMagick and atari800.
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -74,6 +74,13 @@ shot kopie root
 xdotool key Escape sleep 0.4
 close
 
+key() { for key; do xdotool keydown "$key" sleep 0.15 keyup "$key" sleep 0.15; done; } # the emulator looks at frames
+atari800 -config "$room/atari" -win-width 672 -win-height 480 >"$room/log" 2>&1 & # its menu, two pixels each
+servers="$! $servers"
+sleep 4
+key F1 Down Down Down Down Down Down Down Down Down Return Down Down Down Down Down Down Return
+shot klawisze "Atari 800 Emulator, Version 5.0.0"
+
 keep() { # keep SHOT NAME COLOURS [CROP]
     convert "$room/$1.png" ${4:+-crop "$4" +repage} +dither -colors "$3" -strip "PNG8:docs/obrazy/$2.png"
 }
@@ -83,6 +90,7 @@ keep paleta okno-paleta 256 440x380+648+58
 keep info okno-info 64 660x40+86+354
 keep pytanie okno-pytanie 64 420x150+430+285
 keep kopie okno-kopie 64 762x486+259+98
+keep klawisze emulator-klawisze 16 640x262+16+40
 
 # The numbers of the guide's table, each at its place in the window.
 font=src/qt/zasoby/czcionki/LiberationSans
