@@ -1,7 +1,6 @@
 // Runs the window's tests with an application but without a display.
-#include "qt/aplikacja.h"
+#include "qt/program.h"
 
-#include <QApplication>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -12,7 +11,6 @@ int main(int argc, char** argv) {
     const QTemporaryDir settings; // for settings that Qt might write by itself
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // tests can't answer those of the system
-    QApplication application(argc, argv);
-    dorva::setUpApplication(application);
+    const auto application = dorva::makeApplication(argv, "dorva_qt_tests");
     return RUN_ALL_TESTS();
 }

@@ -131,7 +131,11 @@ TEST_F(Catalogue, NoCaptionIsCutAndEachIsDrawn) {
     }
 }
 
-TEST_F(Catalogue, TheFontsTravelWithTheProgram) {
+TEST_F(Catalogue, FontsAndIconTravelWithTheProgram) {
+    QList<QSize> icons;
+    for (int side : {16, 32, 48, 64, 128, 256})
+        icons += QSize(side, side);
+    EXPECT_EQ(okno->windowIcon().availableSizes(), icons);
     QStringList families;
     for (int id = 0; id < 3; ++id)
         families += QFontDatabase::applicationFontFamilies(id);
