@@ -11,8 +11,6 @@
 #include <array>
 #include <chrono>
 #include <ctime>
-#include <set>
-#include <thread>
 
 namespace dorva::test {
 namespace {
@@ -21,14 +19,20 @@ using std::chrono::hours, std::chrono::minutes;
 
 class Copies : public Desk {
 protected:
-    [[nodiscard]] std::vector<fs::path> names(const char* folder) const {
-        return listNames(SYSTEM_CALLS, root / "KOPIE" / folder, "");
-    }
-    fs::path file;
     void SetUp() override {
         Desk::SetUp();
         file = root / "plik";
+        folder = root / "KOPIE/plik";
     }
+    [[nodiscard]] std::vector<fs::path> names() const { return listNames(SYSTEM_CALLS, folder, ""); }
+    // What the copies hold, in the order of their names.
+    [[nodiscard]] std::vector<Bajty> kept() const {
+        std::vector<Bajty> contents;
+        for (const fs::path& name : names())
+            contents.push_back(readFile(folder / name));
+        return contents;
+    }
+    fs::path file, folder;
 };
 
 // One program is about to replace a file when another one writes to it.
@@ -45,9 +49,7 @@ TEST_F(Copies, WhatComesBetweenIsKept) {
     };
     EXPECT_TRUE(writeKeeping(own, file, Bajty{1}));
     EXPECT_EQ(readFile(file), Bajty{1});
-    ASSERT_EQ(names("plik").size(), 2U);
-    for (const Bajt i : {0, 1})
-        EXPECT_EQ(readFile(root / "KOPIE/plik" / names("plik")[i]), Bajty{static_cast<Bajt>(7 + i)});
+    EXPECT_EQ(kept(), (std::vector<Bajty>{{7}, {8}}));
 }
 
 TEST_F(Copies, WhatCannotBeKeptIsNotReplaced) {
@@ -55,7 +57,7 @@ TEST_F(Copies, WhatCannotBeKeptIsNotReplaced) {
     writeFile(root / "KOPIE", {});
     EXPECT_FALSE(writeKeeping(SYSTEM_CALLS, file, Bajty{2})) << "no folder can be made";
     fs::remove(root / "KOPIE");
-    SystemCalls full = SYSTEM_CALLS, unlisted = SYSTEM_CALLS;
+    SystemCalls full = SYSTEM_CALLS, unlisted = SYSTEM_CALLS, liar = SYSTEM_CALLS;
     full.write = [](Handle handle, std::span<const Bajt> bytes, std::size_t& count) {
         return bytes.size() == 1 ? Result::Error : SYSTEM_CALLS.write(handle, bytes, count); // the copy
     };
@@ -63,20 +65,15 @@ TEST_F(Copies, WhatCannotBeKeptIsNotReplaced) {
     for (const SystemCalls& broken : {full, unlisted})
         EXPECT_FALSE(writeKeeping(broken, file, Bajty{2, 2}));
     EXPECT_EQ(readFile(file), Bajty{1});
-    EXPECT_TRUE(names("plik").empty()) << "nor is half a copy left";
+    EXPECT_TRUE(kept().empty()) << "nor is half a copy left";
     fs::resize_file(file, 100U << 20U);
     EXPECT_FALSE(writeKeeping(SYSTEM_CALLS, file, Bajty{2})) << "too long to be copied";
     EXPECT_EQ(fs::file_size(file), 100U << 20U);
     EXPECT_EQ(listNames(SYSTEM_CALLS, root, "").size(), 3U) << "no temporary file is left";
-}
-
-TEST_F(Copies, ARenameThatIsCarriedOutAndAnsweredByAnErrorKeepsTheCopy) {
-    SystemCalls own = SYSTEM_CALLS;
-    own.rename = [](const fs::path& from, const fs::path& to) { return SYSTEM_CALLS.rename(from, to), Result::Error; };
+    liar.rename = [](const fs::path& from, const fs::path& to) { return SYSTEM_CALLS.rename(from, to), Result::Error; };
     writeFile(file, {1});
-    EXPECT_FALSE(writeKeeping(own, file, Bajty{2}));
-    ASSERT_EQ(names("plik").size(), 1U);
-    EXPECT_EQ(readFile(root / "KOPIE/plik" / names("plik")[0]), Bajty{1});
+    EXPECT_FALSE(writeKeeping(liar, file, Bajty{2}));
+    EXPECT_EQ(kept(), (std::vector<Bajty>{{1}})) << "the rename was carried out";
 }
 
 TEST_F(Copies, TheSameBytesNeedNoCopyAndLeaveTheFileAsItIs) {
@@ -90,7 +87,11 @@ TEST_F(Copies, TheSameBytesNeedNoCopyAndLeaveTheFileAsItIs) {
     EXPECT_FALSE(fs::exists(root / "KOPIE"));
     for (const Bajt content : {1, 1, 2, 1})
         EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{content}, Time()));
-    EXPECT_EQ(names("plik").size(), 3U);
+    EXPECT_EQ(kept(), (std::vector<Bajty>{{1}, {2}, {1}}));
+    SystemCalls late = SYSTEM_CALLS; // another program has made copies since the folder was read
+    late.list = [](const fs::path&, std::vector<fs::path>&) { return Result::Ok; };
+    EXPECT_TRUE(keepCopy(late, file, Bajty{3}, Time()));
+    EXPECT_EQ(kept(), (std::vector<Bajty>{{1}, {2}, {1}, {3}})) << "no copy replaces another";
 }
 
 // Only the number decides what is newer, and names of another form don't count.
@@ -99,55 +100,38 @@ TEST_F(Copies, NamesAndNumbers) {
     const std::time_t seconds = std::chrono::system_clock::to_time_t(made);
     std::array<char, 40> time{};
     std::strftime(time.data(), time.size(), " %Y-%m-%d %H.%M", std::localtime(&seconds));
-    const auto folder = root / "KOPIE/plik";
     fs::create_directories(folder);
     for (const char* name :
          {"plik.123 2026-11-25 18.32", "plik.0200 2026-11-25 18.32.dpa", "plik.0200 2026-11-25 18:32", "plik.0200",
           "plik.0x00 2026-11-25 18.32", "plik.99999999999 2026-11-25 18.32"})
         writeFile(folder / (POSIX ? name : std::string(name).substr(0, 20)), {1});
-    writeFile(folder / "plik.0041 2099-01-01 00.00", {1});
-    EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{2}, made));
-    EXPECT_TRUE(fs::exists(folder / ("plik.0042" + std::string(time.data()))));
-    writeFile(folder / "plik.9999 2020-01-01 00.00", {1});
-    EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{3}, made));
-    EXPECT_TRUE(fs::exists(folder / ("plik.10000" + std::string(time.data()))));
+    for (auto [newest, next] : {std::pair("plik.0041 2099-01-01 00.00", "plik.0042"), // 0041 is the newest so far
+                                {"plik.9999 2020-01-01 00.00", "plik.10000"}}) {
+        writeFile(folder / newest, {1});
+        EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{2}, made));
+        EXPECT_TRUE(fs::exists(folder / (next + std::string(time.data()))));
+    }
     EXPECT_TRUE(keepCopy(SYSTEM_CALLS, root / "gra", Bajty{3}, Time::min(), ".dpa"));
-    EXPECT_EQ(names("gra").at(0).string().substr(0, 9), "gra.0001 ");
-    EXPECT_EQ(names("gra").at(0).extension(), ".dpa");
+    folder = root / "KOPIE/gra";
+    EXPECT_EQ(names().at(0).string().substr(0, 9), "gra.0001 ");
+    EXPECT_EQ(names().at(0).extension(), ".dpa");
 }
 
 TEST_F(Copies, TheNewest200Stay) {
     for (int i = 0; i < 203; ++i)
         ASSERT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{static_cast<Bajt>(i)}, Time(hours(1000 - i))));
-    const auto folder = root / "KOPIE/plik";
-    fs::rename(folder / names("plik")[0], folder / "najlepsza");
+    fs::rename(folder / names()[0], folder / "najlepsza");
     trimCopies(SYSTEM_CALLS, file);
-    ASSERT_EQ(names("plik").size(), 201U);
-    EXPECT_EQ(readFile(folder / names("plik")[1]), Bajty{3});
+    ASSERT_EQ(kept().size(), 201U);
+    EXPECT_EQ(kept()[1], Bajty{3});
     EXPECT_EQ(readFile(folder / "najlepsza"), Bajty{0});
-}
-
-TEST_F(Copies, NoCopyReplacesAnother) {
-    constexpr int EACH = 150;
-    const auto work = [&](int first) {
-        for (int i = 0; i < EACH; ++i)
-            EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{static_cast<Bajt>(first), static_cast<Bajt>(i)}, Time()));
-    };
-    std::thread other(work, 1);
-    work(2);
-    other.join();
-    std::set<int> contents;
-    for (const fs::path& name : names("plik")) {
-        const Bajty copy = readFile(root / "KOPIE/plik" / name);
-        contents.insert(copy.at(0) * EACH + copy.at(1));
-    }
-    EXPECT_EQ(contents.size(), 2U * EACH);
 }
 
 // Mishaps of user and machine, and what can be had back after them.
 class Slips : public DeskInMemory {
 public:
-    using Desk::cell, Desk::chosen, Desk::restart, Desk::root;
+    using Desk::e, Desk::base, Desk::run;
+    Bajty lost; // what would be
     // Runs an operation as the window does.
     void act(void (*operation)(Edytor&)) {
         keepWork(e);
@@ -157,20 +141,13 @@ public:
         keepWork(e);
         cell(5, 5) = z;
     }
+    void load(const std::string& name, const Bajty& bytes, void (*operation)(Edytor&) = cmdLoad_Click) {
+        disk.put(at(name), bytes);
+        keepWork(e);
+        run(operation, name);
+    }
     void passes(minutes time) { disk.clock += time; }
     [[nodiscard]] Bajty screen() const { return packed(e.okno); }
-    // Some time passes, an operation runs, and the program is killed; gives what was on the screen.
-    Bajty killedAfter(minutes time) {
-        passes(time);
-        Bajty lost = screen();
-        act([](Edytor&) {});
-        restart();
-        return lost;
-    }
-    void choose(const std::string& name, const Bajty& bytes) {
-        chosen = root / name;
-        disk.put(chosen->generic_string(), bytes);
-    }
     // The copies of a file that hold the bytes.
     [[nodiscard]] std::vector<fs::path> copiesWith(const fs::path& file, const Bajty& bytes) const {
         std::vector<fs::path> copies;
@@ -180,121 +157,68 @@ public:
                 copies.emplace_back(name);
         return copies;
     }
+    void kill() {
+        keepWork(e); // the last that the program did
+        restart();
+    }
 };
 
-struct Slip {
+using Step = void (*)(Slips&);
+const Step BOMB = [](Slips& d) { d.paint(BOMBA); };
+const Step KEY = [](Slips& d) { d.paint(KLUCZ); };
+const Step LOSE = [](Slips& d) { d.lost = d.screen(); }; // otherwise, what the file held at first
+const Step KEEP = [](Slips& d) { keepWork(d.e); };
+const Step CLEAR = [](Slips& d) { d.act(cmdCzysc_Click); };
+const Step CLEAR_210_TIMES = [](Slips& d) {
+    for (int i = 0; i < 210; ++i) {
+        d.act(cmdCzysc_Click);
+        d.e.okno.imgPG[246].znak = znak(i % 2);
+    }
+};
+const Step LOAD = [](Slips& d) { d.load("inny", sampleEtap(9)); };
+const Step LOAD_REFUSED = [](Slips& d) { d.load("obcy", Bajty(ETAP_SIZE_BYTES, 0)); };
+const Step SAVE_ONTO_9 = [](Slips& d) { d.run(cmdSave_Click, "praca/ETAPY/DETAP.9"); };
+const Step GO = [](Slips& d) { d.act([](Edytor& e) { SelectEtapNR(e, 1); }); };
+const Step EXIT = [](Slips& d) { d.act(Form_QueryUnload); };
+const Step SIX_MINUTES = [](Slips& d) { d.passes(minutes(6)); };
+const Step DAY_BACK = [](Slips& d) { d.passes(-hours(24)); };
+const Step KILL = [](Slips& d) { d.kill(); };
+const Step OTHER_PROGRAM = [](Slips& d) { disk.put(at("praca/ETAPY/DETAP.1"), d.lost = sampleEtap(20)); };
+const Step EARLY_END_OF_START = [](Slips& d) {
+    std::erase_if(disk.names, [](const auto& entry) { return entry.first.ends_with(".ND"); });
+    d.kill();
+};
+
+const struct {
     const char* name;
-    Bajty (*happens)(Slips&); // returns what would be lost
-    int number = 1;           // of the stage whose copies are looked at
-};
-
-void goToTwo(Edytor& e) {
-    SelectEtapNR(e, 1);
-}
-
-void nothing(Edytor&) {}
-
-const Slip SLIPS[]{
-    {"clear",
-     [](Slips& d) {
-         d.paint(BOMBA);
-         const Bajty lost = d.screen();
-         d.act(cmdCzysc_Click);
-         return lost;
-     }},
-    {"load",
-     [](Slips& d) {
-         d.paint(BOMBA);
-         const Bajty lost = d.screen();
-         d.choose("inny", sampleEtap(9));
-         d.act(cmdLoad_Click);
-         return lost;
-     }},
-    {"refused load, then a switch",
-     [](Slips& d) {
-         d.choose("obcy", Bajty(ETAP_SIZE_BYTES, 0));
-         d.act(cmdLoad_Click);
-         d.act(goToTwo);
-         return sampleEtap(1);
-     }},
-    {"painted over and switched",
-     [](Slips& d) {
-         d.paint(BOMBA);
-         d.act(goToTwo);
-         return sampleEtap(1);
-     }},
-    {"saved by name onto another stage",
-     [](Slips& d) {
-         d.chosen = d.root / "praca/ETAPY/DETAP.9";
-         d.act(cmdSave_Click);
-         return sampleEtap(9);
-     },
-     9},
-    {"killed after six minutes",
-     [](Slips& d) {
-         d.paint(BOMBA);
-         return d.killedAfter(minutes(6));
-     }},
-    {"the same twice",
-     [](Slips& d) {
-         d.paint(BOMBA);
-         const Bajty lost = d.screen();
-         d.act(cmdCzysc_Click);
-         d.paint(KLUCZ);
-         d.act(cmdCzysc_Click);
-         return lost;
-     }},
-    {"another program's content",
-     [](Slips& d) {
-         disk.put(at("praca/ETAPY/DETAP.1"), sampleEtap(20));
-         d.paint(BOMBA);
-         d.act(goToTwo);
-         return sampleEtap(20);
-     }},
-    {"start-up ended early, then the exit",
-     [](Slips& d) {
-         std::erase_if(disk.names, [](const auto& entry) { return entry.first.ends_with(".ND"); });
-         d.restart();
-         d.act(Form_QueryUnload);
-         return sampleEtap(1);
-     }},
-    {"the clock a day back",
-     [](Slips& d) {
-         d.act(nothing);
-         d.paint(BOMBA);
-         return d.killedAfter(-hours(24));
-     }},
-    {"killed, started again and painted on",
-     [](Slips& d) {
-         d.paint(BOMBA);
-         Bajty lost = d.killedAfter(minutes(6));
-         d.paint(KLUCZ);
-         d.act(goToTwo);
-         d.act(Form_QueryUnload);
-         return lost;
-     }},
-    {"the oldest copy loaded",
-     [](Slips& d) {
-         d.paint(BOMBA);
-         const Bajty lost = d.screen();
-         for (int i = 0; i < 210; ++i) {
-             d.act(cmdCzysc_Click);
-             d.cell(6, 6) = znak(i % 2);
-         }
-         return lost;
-     }},
+    std::vector<Step> steps;
+    int number = 1; // of the stage whose copies are looked at
+} SLIPS[]{
+    {"clear", {BOMB, LOSE, CLEAR}},
+    {"load", {BOMB, LOSE, LOAD}},
+    {"refused load, then a switch", {LOAD_REFUSED, GO}},
+    {"painted over and switched", {BOMB, GO}},
+    {"saved by name onto another stage", {SAVE_ONTO_9}, 9},
+    {"killed after six minutes", {BOMB, LOSE, SIX_MINUTES, KILL}},
+    {"the same twice", {BOMB, LOSE, CLEAR, KEY, CLEAR}},
+    {"another program's content", {OTHER_PROGRAM, BOMB, GO}},
+    {"start-up ended early, then the exit", {EARLY_END_OF_START, EXIT}},
+    {"the clock a day back", {KEEP, BOMB, LOSE, DAY_BACK, KILL}},
+    {"killed, started again and painted on", {BOMB, LOSE, SIX_MINUTES, KILL, KEY, GO, EXIT}},
+    {"the oldest copy loaded", {BOMB, LOSE, CLEAR_210_TIMES}},
 };
 
 TEST_F(Slips, EveryLostStageComesBackByTheDialog) {
-    for (const Slip& slip : SLIPS) {
+    for (const auto& slip : SLIPS) {
         SCOPED_TRACE(slip.name);
         SetUp();
         restart();
-        const Bajty lost = slip.happens(*this);
+        lost = sampleEtap(slip.number);
+        for (const Step step : slip.steps)
+            step(*this);
         const auto copies = copiesWith(etap(slip.number), lost);
         ASSERT_FALSE(copies.empty());
-        chosen = copies[0];
-        cmdLoad_Click(e);
+        run(cmdLoad_Click, copies[0]);
         EXPECT_EQ(screen(), lost);
     }
 }
@@ -308,16 +232,14 @@ TEST_F(Slips, AWrongArchiveIsTakenBack) {
     cell(5, 5) = BOMBA;
     txt_Change(e, poleLinii(1), ascii("ala"));
     const Bajty stage = screen();
-    choose("zle.dpa", sampleArchiwum());
-    cmdLoadArch_Click(e);
+    load("zle.dpa", sampleArchiwum(), cmdLoadArch_Click);
     EXPECT_EQ(copiesWith(etap(7), stage).size(), 1U);
     for (const auto& [number, old] : {std::pair{1, sampleEtap(1)}, {9, Bajty(930, 1)}, {10, Bajty(932, 1)}})
         EXPECT_EQ(copiesWith(etap(number), old).size(), 1U) << number;
 
     const auto archives = disk.files(at("praca/ETAPY/KOPIE/DPArchiwum/"));
     ASSERT_EQ(archives.size(), 1U);
-    chosen = archives.begin()->first;
-    cmdLoadArch_Click(e);
+    run(cmdLoadArch_Click, archives.begin()->first);
     EXPECT_EQ(screen(), stage);
     EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY + 1].tekst.znaki, "ALA" + std::string(17, ' '));
     const Bajty empty = packed(defaultOkno());
@@ -353,7 +275,8 @@ TEST_F(Slips, KeepingLeavesTheScreenAloneAndOrdinaryWorkMakesNoCopies) {
         act(cmdSave_Click);
         act(cmdLoad_Click);
     }
-    choose("gra", {});
+    disk.put(at("gra"), {});
+    chosen = at("gra");
     act(cmdSaveArch_Click);
     act(cmdCreate_Click);
     act(Form_QueryUnload);
