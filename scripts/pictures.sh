@@ -92,17 +92,19 @@ keep pytanie okno-pytanie 64 420x150+430+285
 keep kopie okno-kopie 64 762x486+259+98
 keep klawisze emulator-klawisze 16 640x262+16+40
 
-# The numbers of the guide's table, each at its place in the window.
 font=src/qt/zasoby/czcionki/LiberationSans
-number=0 marks=()
-for place in 82,13 70,334 420,60 874,14 874,94 880,270 872,328 738,358 374,357 866,362 \
-    310,406 881,408 80,534 153,470 520,505 521,567 540,560 659,560 785,560 785,606; do
-    number=$((number + 1)) x=${place%,*} y=${place#*,}
-    marks+=(-fill '#c8102e' -stroke white -strokewidth 1.5 -draw "circle $x,$y $((x + 10)),$y")
-    marks+=(-stroke none -fill white -annotate "+$((x - (number > 9 ? 7 : 3)))+$((y - 8))" "$number")
-done
-convert "$room/okno.png" -font "$font-Bold.ttf" -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/opis.png"
-keep opis okno-opis 96
+number() { # number SHOT PLACE...: numbers for the rows of a table, from 1 on
+    local shot=$1 number=0 marks=() place x y
+    for place in "${@:2}"; do
+        number=$((number + 1)) x=${place%,*} y=${place#*,}
+        marks+=(-fill '#c8102e' -stroke white -strokewidth 1.5 -draw "circle $x,$y $((x + 10)),$y")
+        marks+=(-stroke none -fill white -annotate "+$((x - (number > 9 ? 7 : 3)))+$((y - 8))" "$number")
+    done
+    convert "$room/$shot.png" -font "$font-Bold.ttf" -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/$shot.png"
+}
+number okno 82,13 70,334 420,60 874,14 874,94 880,270 872,328 738,358 374,357 866,362 310,406 881,408 80,534 153,470 \
+    520,505 521,567 540,560 659,560 785,560 785,606
+keep okno okno-opis 96
 
 # Every tile of the picker with its name, in the three worlds, down the columns; some tiles STD above INV.
 convert build/release/data/OBIEKTY/ORN_EXPORT/*.BMP -append +repage -crop 32x32 +repage -bordercolor gray60 -border 1 "$room/tile-%d.png"

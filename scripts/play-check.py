@@ -326,7 +326,10 @@ def renew_pictures():
                                pass_fds=[writing], stderr=subprocess.DEVNULL)
     os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
     machine = ["-pal", "-win-width", "672", "-win-height", "480"]
-    play(game, f"{TO_GAME} {run_of(1)} -100 {run_of(2)} -400",
+    title, built = (data / "PLIKI/DP1.DTA").read_text("cp1250"), f"{temporary.name}/built.xex"
+    files = [data / f"ETAPY/DETAP.{stage}" for stage in stages]
+    subprocess.run([game_maker, game, built, title[:20], title[20:40], title[40:], *files], check=True)
+    play(built, f"{TO_GAME} {run_of(1)} -100 {run_of(2)} -400",
          ["wcisniete", look("tytul"), "graj", "otworz", look("wyjscie"), "policz_premie", "graj_etap", "otworz",
           "policz_premie"], *machine, shown=True)
     play(test_build(stages[2]), f"{TO_GAME} {run_of(2)} -400 F10 -60",
