@@ -250,6 +250,19 @@ def motion():
         yield (f"world {world + 1}: tiles move to and fro", [dumps[f"zestaw{world}{which}"][8:] for which in "ba"],
                [tiles[520:], tiles[8:512]])
 
+def bars():
+    """The row below the figures: bars of five characters of 20, torch, machine, coins."""
+    poked = {"energia": 50, "premia": 7, "pochodnia": 1, "maszyna_stoi": 1, "monety": 16}
+    commands = ["graj_etap", *(f"C {address[name]:X} {value:X}" for name, value in poked.items()),
+                *["takt_innych"] * 5, dump("panel_paskow", 20), dump("panel_cyfr", 20)]
+    dumps = play(game, f"{TO_GAME} R7 -60", commands).dumps
+    icon = int(re.search(r"^IKONA *= (\d+)", Path("game/src/atari.inc").read_text(), re.M)[1])
+    bar, own, points = icon + 10, 0xC0, 0x80  # the colours of energy and masks
+    yield ("bars, marks and coins", [*dumps["panel_paskow"]],
+           [icon + 3 | own, bar + 8 | own, bar + 8 | own, bar + 4 | own, bar | own, bar | own, 0,
+            icon + 6 | points, bar + 3 | points, *[bar | points] * 4, 0, icon + 7, icon + 8 | 0x40, 0, icon + 9, 17, 22])
+    yield "and figures above them", [*dumps["panel_cyfr"][11:13]], [21 | own, 16 | own]
+
 def foreign_codes():
     """The codes that her own cell has look like others of their kind elsewhere."""
     record = patched(stages[1], field["PLANSZA"], [126, BENEATH, BENEATH + 128, 128])
@@ -301,7 +314,7 @@ def machines():
     yield "a machine of 64 KB shows what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
 
 CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (overlay,), (only_stage,),
-          (all_stages,), (motion,), (foreign_codes,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
+          (all_stages,), (motion,), (foreign_codes,), (bars,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
           (reset, "-basic"), (machines,)]
 
 # Pictures for the documents.

@@ -1,12 +1,12 @@
 ; The display: display lists, their interrupts, the vertical blank, frame timing.
 ;
 ; The game's screen, top to bottom: the info line (text in slot 10 on slot 11), the board in slots 4..8,
-; and the panel on slot 11 with symbols in slot 9 above figures in slots 0..3. An interrupt between two parts
+; and the panel on slot 11 with symbols in slot 9 above figures and bars in slots 0..3. An interrupt between two parts
 ; changes the colours while the beam draws an empty line.
 .include "atari.inc"
 .include "reguly.inc"
 .export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, wez_kolory, blysnij, czekaj_klatke, czekaj_klatki, czysc_tekst
-.export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, kolory
+.export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, panel_paskow, kolory
 .import barwa_tekstu
 .import pokaz_nakladke, schowaj_nakladke, plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
 
@@ -17,6 +17,7 @@ stopka: .res 40                         ; tiles below it
 linia_info: .res 40
 panel_symboli: .res 20
 panel_cyfr: .res 20
+panel_paskow: .res 20                   ; ANTIC reads it behind the figures
 
 .segment "BSS"
 kolory: .res 12                         ; the slots of the stage
@@ -52,6 +53,7 @@ lista_planszy:
         .byte PUSTA | DLI
         .byte LMS | TRYB6
         .word panel_cyfr
+        .byte PUSTA, TRYB6
         .byte PUSTE2, PUSTA | DLI
         .byte SKOK
         .word lista_planszy

@@ -2,12 +2,12 @@
 .include "atari.inc"
 .include "reguly.inc"
 .export graj, pierwszy_etap
-.importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
+.importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat, po_przeskoku
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
 .import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, dojdz, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
 .import linia_info, dwie_cyfry, ozyw_znaki
-.import zacznij_panel, rysuj_panel, info_powitanie, info_takt
+.import zacznij_panel, rysuj_panel, panel_takt, info_powitanie, info_takt
 .import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, ucisz_muzyke, dodaj_punkty
 
 CZAS_SMIERCI = 50
@@ -33,7 +33,6 @@ spoznione: .res 1       ; ticks that took longer than their frame; scripts/play-
 
 .segment "BSS"
 pierwszy_etap: .res 1   ; the stage that the title offers and START begins with: chosen there, or reached in the last game
-do_panelu: .res 1       ; frames until the panel is written again
 powitanie_trwa: .res 1
 pauza:   .res 1
 klawisze: .res 1        ; the keys that are down
@@ -107,7 +106,6 @@ graj_etap:
         lda #KONSOLA | ESC
         sta byly_klawisze               ; a key that is held already doesn't count as pressed
         lda #1
-        sta do_panelu
         sta powitanie_trwa
         lda #0
         sta pauza
@@ -138,20 +136,18 @@ graj_etap:
         sta spust
         jsr takt_dorvy
         jsr rysuj_nakladke              ; before the beam gets to the board; the other tiles may come later
+        lda po_przeskoku                ; a leap takes most of a frame
+        bne :+
         jsr ozyw_znaki
-        jsr takt_innych
+:       jsr takt_innych
         lda otwarte
         beq :+
         jsr otworz_wyjscie
 :       lda efekt
         jsr zagraj
         jsr info_takt
-        dec do_panelu                   ; every fourth frame is enough for the panel
-        bne :+
-        lda #4
-        sta do_panelu
-        jsr rysuj_panel
-:       lda RTCLOK+2
+        jsr panel_takt
+        lda RTCLOK+2
         cmp klatka
         beq :+
         inc spoznione
