@@ -1,4 +1,4 @@
-// Copies of what the editor replaces, and the mishaps that they undo.
+// Mishaps of user and machine, and what can be had back after them.
 #include "desk_in_memory.h"
 #include "output/obraz_gry.h"
 #include "stage/archiwum.h"
@@ -6,128 +6,22 @@
 #include "stage/kopie_ekranu.h"
 #include "stage/pola.h"
 #include "stage/zbior_etapow.h"
-#include "system/kopie.h"
-
-#include <array>
-#include <chrono>
-#include <ctime>
 
 namespace dorva::test {
 namespace {
 
 using std::chrono::hours, std::chrono::minutes;
 
-class Copies : public Desk {
-protected:
-    void SetUp() override {
-        Desk::SetUp();
-        file = root / "plik";
-        folder = root / "KOPIE/plik";
-    }
-    [[nodiscard]] std::vector<fs::path> names() const { return listNames(SYSTEM_CALLS, folder, ""); }
-    // What the copies hold, in the order of their names.
-    [[nodiscard]] std::vector<Bajty> kept() const {
-        std::vector<Bajty> contents;
-        for (const fs::path& name : names())
-            contents.push_back(readFile(folder / name));
-        return contents;
-    }
-    fs::path file, folder;
-};
-
-// One program is about to replace a file when another one writes to it.
-TEST_F(Copies, WhatComesBetweenIsKept) {
-    static fs::path replaced;
-    static Bajt next;
-    replaced = file;
-    next = 7;
-    SystemCalls own = SYSTEM_CALLS;
-    own.flush = [](Handle handle) { // first called for the new content, then for a copy
-        if (next < 9)
-            writeFile(replaced, {next++});
-        return SYSTEM_CALLS.flush(handle);
-    };
-    EXPECT_TRUE(writeKeeping(own, file, Bajty{1}));
-    EXPECT_EQ(readFile(file), Bajty{1});
-    EXPECT_EQ(kept(), (std::vector<Bajty>{{7}, {8}}));
+// The copies of a file that hold the bytes.
+std::vector<fs::path> copiesWith(const fs::path& file, const Bajty& bytes) {
+    std::vector<fs::path> copies;
+    const fs::path folder = file.parent_path() / "KOPIE" / file.filename();
+    for (const auto& [name, content] : disk.files(folder.generic_string() + '/'))
+        if (content == bytes)
+            copies.emplace_back(name);
+    return copies;
 }
 
-TEST_F(Copies, WhatCannotBeKeptIsNotReplaced) {
-    writeFile(file, {1});
-    writeFile(root / "KOPIE", {});
-    EXPECT_FALSE(writeKeeping(SYSTEM_CALLS, file, Bajty{2})) << "no folder can be made";
-    fs::remove(root / "KOPIE");
-    SystemCalls full = SYSTEM_CALLS, unlisted = SYSTEM_CALLS, liar = SYSTEM_CALLS;
-    full.write = [](Handle handle, std::span<const Bajt> bytes, std::size_t& count) {
-        return bytes.size() == 1 ? Result::Error : SYSTEM_CALLS.write(handle, bytes, count); // the copy
-    };
-    unlisted.list = [](const fs::path&, std::vector<fs::path>&) { return Result::Error; };
-    for (const SystemCalls& broken : {full, unlisted})
-        EXPECT_FALSE(writeKeeping(broken, file, Bajty{2, 2}));
-    EXPECT_EQ(readFile(file), Bajty{1});
-    EXPECT_TRUE(kept().empty()) << "nor is half a copy left";
-    fs::resize_file(file, 100U << 20U);
-    EXPECT_FALSE(writeKeeping(SYSTEM_CALLS, file, Bajty{2})) << "too long to be copied";
-    EXPECT_EQ(fs::file_size(file), 100U << 20U);
-    EXPECT_EQ(listNames(SYSTEM_CALLS, root, "").size(), 3U) << "no temporary file is left";
-    liar.rename = [](const fs::path& from, const fs::path& to) { return SYSTEM_CALLS.rename(from, to), Result::Error; };
-    writeFile(file, {1});
-    EXPECT_FALSE(writeKeeping(liar, file, Bajty{2}));
-    EXPECT_EQ(kept(), (std::vector<Bajty>{{1}})) << "the rename was carried out";
-}
-
-TEST_F(Copies, TheSameBytesNeedNoCopyAndLeaveTheFileAsItIs) {
-    writeFile(file, {1});
-    fs::last_write_time(file, fs::file_time_type::clock::now() - hours(48));
-    const auto old = fs::last_write_time(file); // as exact as the system keeps it
-    EXPECT_TRUE(writeKeeping(SYSTEM_CALLS, file, Bajty{1}));
-    EXPECT_EQ(fs::last_write_time(file), old);
-    writeFile(root / "pusty", {});
-    EXPECT_TRUE(writeKeeping(SYSTEM_CALLS, root / "pusty", Bajty{1})) << "an empty file";
-    EXPECT_FALSE(fs::exists(root / "KOPIE"));
-    for (const Bajt content : {1, 1, 2, 1})
-        EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{content}, Time()));
-    EXPECT_EQ(kept(), (std::vector<Bajty>{{1}, {2}, {1}}));
-    SystemCalls late = SYSTEM_CALLS; // another program has made copies since the folder was read
-    late.list = [](const fs::path&, std::vector<fs::path>&) { return Result::Ok; };
-    EXPECT_TRUE(keepCopy(late, file, Bajty{3}, Time()));
-    EXPECT_EQ(kept(), (std::vector<Bajty>{{1}, {2}, {1}, {3}})) << "no copy replaces another";
-}
-
-// Only the number decides what is newer, and names of another form don't count.
-TEST_F(Copies, NamesAndNumbers) {
-    const auto made = Time(hours(24 * 20000) + minutes(62));
-    const std::time_t seconds = std::chrono::system_clock::to_time_t(made);
-    std::array<char, 40> time{};
-    std::strftime(time.data(), time.size(), " %Y-%m-%d %H.%M", std::localtime(&seconds));
-    fs::create_directories(folder);
-    for (const char* name :
-         {"plik.123 2026-11-25 18.32", "plik.0200 2026-11-25 18.32.dpa", "plik.0200 2026-11-25 18:32", "plik.0200",
-          "plik.0x00 2026-11-25 18.32", "plik.99999999999 2026-11-25 18.32"})
-        writeFile(folder / (POSIX ? name : std::string(name).substr(0, 20)), {1});
-    for (auto [newest, next] : {std::pair("plik.0041 2099-01-01 00.00", "plik.0042"), // 0041 is the newest so far
-                                {"plik.9999 2020-01-01 00.00", "plik.10000"}}) {
-        writeFile(folder / newest, {1});
-        EXPECT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{2}, made));
-        EXPECT_TRUE(fs::exists(folder / (next + std::string(time.data()))));
-    }
-    EXPECT_TRUE(keepCopy(SYSTEM_CALLS, root / "gra", Bajty{3}, Time::min(), ".dpa"));
-    folder = root / "KOPIE/gra";
-    EXPECT_EQ(names().at(0).string().substr(0, 9), "gra.0001 ");
-    EXPECT_EQ(names().at(0).extension(), ".dpa");
-}
-
-TEST_F(Copies, TheNewest200Stay) {
-    for (int i = 0; i < 203; ++i)
-        ASSERT_TRUE(keepCopy(SYSTEM_CALLS, file, Bajty{static_cast<Bajt>(i)}, Time(hours(1000 - i))));
-    fs::rename(folder / names()[0], folder / "najlepsza");
-    trimCopies(SYSTEM_CALLS, file);
-    ASSERT_EQ(kept().size(), 201U);
-    EXPECT_EQ(kept()[1], Bajty{3});
-    EXPECT_EQ(readFile(folder / "najlepsza"), Bajty{0});
-}
-
-// Mishaps of user and machine, and what can be had back after them.
 class Slips : public DeskInMemory {
 public:
     using Desk::e, Desk::base, Desk::run;
@@ -148,15 +42,6 @@ public:
     }
     void passes(minutes time) { disk.clock += time; }
     [[nodiscard]] Bajty screen() const { return packed(e.okno); }
-    // The copies of a file that hold the bytes.
-    [[nodiscard]] std::vector<fs::path> copiesWith(const fs::path& file, const Bajty& bytes) const {
-        std::vector<fs::path> copies;
-        const fs::path folder = file.parent_path() / "KOPIE" / file.filename();
-        for (const auto& [name, content] : disk.files(folder.generic_string() + '/'))
-            if (content == bytes)
-                copies.emplace_back(name);
-        return copies;
-    }
     void kill() {
         keepWork(e); // the last that the program did
         restart();
@@ -294,24 +179,22 @@ TEST_F(Slips, KeepingLeavesTheScreenAloneAndOrdinaryWorkMakesNoCopies) {
 }
 
 TEST_F(Slips, TheExitLeavesTheNewest200) {
-    const auto fill = [](const std::string& folder, const std::string& name, const std::string& ending) {
+    const std::string time = " 2026-11-25 18.32";
+    const std::pair<std::string, std::string> kinds[]{{at("praca/ETAPY/KOPIE/DETAP.32/DETAP.32."), time},
+                                                      {at("praca/ETAPY/KOPIE/DPArchiwum/DPArchiwum."), time + ".dpa"},
+                                                      {at("praca/PLIKI/KOPIE/DP1.DTA/DP1.DTA."), time}};
+    for (const auto& [start, end] : kinds)
         for (int i = 1001; i <= 1201; ++i)
-            disk.put(at("praca/" + folder + '/' + name + '.' + std::to_string(i) + " 2026-11-25 18.32" + ending), {1});
-    };
-    fill("ETAPY/KOPIE/DETAP.32", "DETAP.32", "");
-    fill("ETAPY/KOPIE/DPArchiwum", "DPArchiwum", ".dpa");
-    fill("PLIKI/KOPIE/DP1.DTA", "DP1.DTA", "");
+            disk.put(start + std::to_string(i) + end, {1});
     restart();
     Form_QueryUnload(e);
-    EXPECT_EQ(disk.files(at("praca/ETAPY/KOPIE/")).size(), 402U);
+    for (const auto& [start, end] : kinds)
+        EXPECT_EQ(disk.files(start).size(), 201U) << start;
     Form_Unload(e);
-    const Files left = disk.files();
-    for (const char* first : {"ETAPY/KOPIE/DETAP.32/DETAP.32.1001 2026-11-25 18.32",
-                              "ETAPY/KOPIE/DPArchiwum/DPArchiwum.1001 2026-11-25 18.32.dpa",
-                              "PLIKI/KOPIE/DP1.DTA/DP1.DTA.1001 2026-11-25 18.32"})
-        EXPECT_FALSE(left.contains(at(std::string("praca/") + first))) << first;
-    EXPECT_EQ(disk.files(at("praca/ETAPY/KOPIE/")).size(), 400U);
-    EXPECT_EQ(disk.files(at("praca/PLIKI/KOPIE/")).size(), 200U);
+    for (const auto& [start, end] : kinds) {
+        EXPECT_EQ(disk.files(start).size(), 200U) << start;
+        EXPECT_FALSE(disk.find(start + "1001" + end)) << start;
+    }
 }
 
 TEST_F(Slips, WhereNoCopyCanBeMadeTheScreenStays) {
@@ -350,6 +233,69 @@ TEST_F(Slips, TwoEditorsThatStoreInTurnsLoseNothing) {
     for (std::size_t i = 0; i + 1 < stored.size(); ++i)
         EXPECT_EQ(copiesWith(etap(1), stored[i]).size(), i < 9 ? 0U : 1U) << i << ": the newest 200 stay";
     EXPECT_EQ(disk.find(etap(1))->bytes, stored.back());
+}
+
+// Damaged stage files: each bit flipped, and lengths up to twice the right one.
+class Damage : public DeskInMemory {
+protected:
+    const std::string file = at("praca/ETAPY/DETAP.2");
+
+    // Goes to a damaged stage 2 and back. Stage 1 must not have changed, and the damaged bytes must still exist.
+    void visit(const Bajty& damaged) {
+        disk.put(file, damaged);
+        SelectEtapNR(e, 1);
+        ASSERT_EQ(e.NumerEtapu, 2);
+        SelectEtapNR(e, 0);
+        ASSERT_EQ(e.image, sampleEtap(1));
+        ASSERT_TRUE(damaged.empty() || disk.find(file)->bytes == damaged || !copiesWith(file, damaged).empty());
+    }
+    bool unpack(const Bajty& image) {
+        e.image = image;
+        return UnpackEtap(e);
+    }
+};
+
+TEST_F(Damage, EveryFlippedBitIsTakenOverOrKept) {
+    start();
+    int refused = 0;
+    for (std::size_t bit = 0; bit < 8 * ETAP_SIZE_BYTES; ++bit) {
+        SCOPED_TRACE(bit);
+        Bajty damaged = sampleEtap(2);
+        damaged[bit / 8] ^= static_cast<Bajt>(1U << bit % 8);
+        if (bit % 8 == 0) {
+            ASSERT_NO_FATAL_FAILURE(visit(damaged));
+        }
+        if (!unpack(damaged)) {
+            ++refused;
+        } else {
+            PackEtap(e);
+            Bajty stored = e.image;
+            ASSERT_TRUE(unpack(stored));
+            PackEtap(e);
+            ASSERT_EQ(e.image, stored) << "what was stored once stays";
+            stored[bit / 8] = damaged[bit / 8];
+            ASSERT_EQ(stored, damaged) << "no other byte changes";
+        }
+        ASSERT_TRUE(unpack(sampleEtap(1)));
+    }
+    EXPECT_EQ(refused, 15);
+    EXPECT_EQ(said(), "");
+}
+
+TEST_F(Damage, EveryOtherLengthIsKept) {
+    start();
+    for (std::size_t length = 0; length <= 2 * ETAP_SIZE_BYTES; length += length < 900 || length > 960 ? 31 : 1) {
+        SCOPED_TRACE(length);
+        Bajty damaged = sampleEtap(2);
+        damaged.resize(length, 9);
+        ASSERT_NO_FATAL_FAILURE(visit(damaged));
+        ASSERT_EQ(disk.find(file)->bytes, sampleEtap(length < ETAP_SIZE_BYTES ? 1 : 2));
+        disk.put(at("obcy"), damaged);
+        run(cmdLoad_Click, "obcy");
+        ASSERT_EQ(said(), length == ETAP_SIZE_BYTES ? "" : "Niewłaściwy format pliku!");
+        ASSERT_EQ(disk.find(at("obcy"))->bytes, damaged);
+        ASSERT_TRUE(unpack(sampleEtap(1)));
+    }
 }
 
 } // namespace
