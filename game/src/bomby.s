@@ -1,7 +1,7 @@
 ; Bombs: the fuse, the blast, and the smoke after it.
 .include "reguly.inc"
 .export odpalona, epicentrum, wybuch
-.importzp wsk, wpod, wstan, kod, kolej
+.importzp wsk, wpod, wstan, kod, kolej, budzet
 .import zbadaj, licznik, ustaw_licznik, zran, zwroc_pole, zglos_efekt, dodaj_punkty
 
 LONT      = 9                           ; turns that a fuse burns
@@ -35,7 +35,10 @@ odpalona:
 
 ; The blast of nine cells. Bombs in reach go off when their turn comes, blocks crack, the heroine is wounded.
 epicentrum:
-        dzwiek EF_WYBUCH
+        lsr budzet                      ; it takes as long as several other tiles
+        bne :+
+        inc budzet
+:       dzwiek EF_WYBUCH
         ldx #LICZBA_POL - 1
 @pole:  stx ktore
         ldy pola_wybuchu,x

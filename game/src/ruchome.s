@@ -4,7 +4,7 @@
 ; tiles act, and the next tick goes on from there: a board full of creatures slows the creatures, never the picture.
 .include "reguly.inc"
 .export ruszaj, nowa_kolej, zwroc_pole, zapal
-.exportzp kod, kolumna, wiersz
+.exportzp kod, kolumna, wiersz, budzet
 .importzp wsk, wpod, wstan, wzap, kolej, dorva_x, dorva_y, zegar, pochodnia, otwarte
 .import plansza, cechy, sasiad, wskaz_pole, przejdz, zbadaj, przesun, licznik, ustaw_licznik, los, wstaw
 .import zran, promiennik, promien, miotnik, miotacz, plujka, strzalka, kamyk
