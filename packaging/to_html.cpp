@@ -11,6 +11,7 @@ const QString HEAD = R"(<!DOCTYPE html>
 body { max-width: 60em; margin: 2em auto; padding: 0 1em; font: 16px/1.5 sans-serif; color: #222; }
 img { max-width: 100%; }
 table { border-collapse: collapse; margin: 1em 0; }
+td p, th p { margin: 0; }
 td, th { border: 1px solid #bbb; padding: 0.2em 0.6em; vertical-align: top; text-align: left; }
 pre { background: #eee; padding: 0.6em; margin: 0; overflow-x: auto; }
 code { background: #eee; }

@@ -86,10 +86,10 @@ keep() { # keep SHOT NAME COLOURS [CROP]
 }
 keep okno okno 96
 keep pierwszy-etap okno-pierwszy-etap 96
-keep paleta okno-paleta 256 440x380+648+58
+keep paleta okno-paleta 256 434x391+654+47
 keep info okno-info 64 660x40+86+354
-keep pytanie okno-pytanie 64 420x150+430+285
-keep kopie okno-kopie 64 762x486+259+98
+keep pytanie okno-pytanie 64 315x105+481+287
+keep kopie okno-kopie 64 759x482+259+99
 keep klawisze emulator-klawisze 16 640x262+16+40
 
 font=src/qt/zasoby/czcionki/LiberationSans
