@@ -250,11 +250,14 @@ def motion():
         yield (f"world {world + 1}: tiles move to and fro", [dumps[f"zestaw{world}{which}"][8:] for which in "ba"],
                [tiles[520:], tiles[8:512]])
 
+def full_panel(energy, time):
+    """Commands after which the panel shows these bars and all its marks."""
+    poked = {"energia": energy, "premia": time, "pochodnia": 1, "maszyna_stoi": 1, "monety": 16}
+    return ["graj_etap", *(f"C {address[name]:X} {value:X}" for name, value in poked.items()), *["takt_innych"] * 5]
+
 def bars():
     """The row below the figures: bars of five characters of 20, torch, machine, coins."""
-    poked = {"energia": 50, "premia": 7, "pochodnia": 1, "maszyna_stoi": 1, "monety": 16}
-    commands = ["graj_etap", *(f"C {address[name]:X} {value:X}" for name, value in poked.items()),
-                *["takt_innych"] * 5, dump("panel_paskow", 20), dump("panel_cyfr", 20)]
+    commands = [*full_panel(50, 7), dump("panel_paskow", 20), dump("panel_cyfr", 20)]
     dumps = play(game, f"{TO_GAME} R7 -60", commands).dumps
     icon = int(re.search(r"^IKONA *= (\d+)", Path("game/src/atari.inc").read_text(), re.M)[1])
     bar, own, points = icon + 10, 0xC0, 0x80  # the colours of energy and masks
@@ -328,6 +331,9 @@ def keep(*names):
         subprocess.run(["convert", f"{temporary.name}/{name}.png", "+dither", "-colors", "64", "-strip", "-define",
                         "png:exclude-chunks=date,time", f"PNG8:docs/obrazy/gra-{name}.png"], check=True)
 
+# Where the numbers of the panel's table stand, above and below it.
+PANEL_PLACES = [*((x, 1) for x in (41, 164, 281, 408, 571, 738)), *((x, 114) for x in (166, 496, 688, 732, 876))]
+
 def renew_pictures():
     for picture in Path("docs/obrazy").glob("etap-??.png"):  # boards as the editor shows them, in their stages' colours
         stage = int(picture.stem[-2:])
@@ -351,8 +357,15 @@ def renew_pictures():
     for stage in stages:
         commands += [f"BPC {address['graj_etap']:X}", enter(stage), look(f"etap{stage}"), "takt_dorvy"]
     play(game, "R1 -99 " * 60, commands, *machine, shown=True)  # a move every two seconds ends each greeting
+    play(game, f"{TO_GAME} R7 -150 S9 -60", [*full_panel(72, 41), look("panel"), "graj_etap"], *machine, shown=True)
     display.terminate()
-    keep("tytul", "wyjscie", "wygrana", "etap8", "etap14", "etap24")
+    numbers = [word for number, (x, y) in enumerate(PANEL_PLACES, 1)
+               for word in ("-annotate", f"+{x}+{y}", str(number))]
+    subprocess.run(["convert", f"{temporary.name}/panel.png", "-sample", "50%", "-crop", "320x31+8+188", "+repage",
+                    "-sample", "300%", "-bordercolor", "white", "-border", "0x20", "-gravity", "NorthWest", "-fill",
+                    "#c8102e", "-font", "src/qt/zasoby/czcionki/LiberationSans-Bold.ttf", "-pointsize", "16", *numbers,
+                    f"{temporary.name}/panel.png"], check=True)
+    keep("panel", "tytul", "wyjscie", "wygrana", "etap8", "etap14", "etap24")
     small = [f"{temporary.name}/etap{stage}.png" for stage in stages]
     subprocess.run(["mogrify", "-sample", "50%", *small], check=True)
     subprocess.run(["montage", *small, "-tile", "4x8", "-geometry", "+2+2", f"{temporary.name}/etapy.png"], check=True)
