@@ -32,7 +32,7 @@ for document in *.md docs/*.md game/*.md game/*/*.md; do
             { echo "docs-check: $document: no $link"; bad=1; }
     done <"$room/links"
 done
-sed -n 's/^| \([0-9]*\) | \([^|]*\) |.*/\1 \2/p' docs/gra.md >"$room/tiles"
+sed -n '/^| Kod/,/^$/s/^| \([0-9]*\) | \([^|]*\) |.*/\1 \2/p' docs/gra.md >"$room/tiles"
 grep -vxFf game/art/swiat1.txt "$room/tiles" && { echo "docs-check: docs/gra.md: no such tiles"; bad=1; }
 [ $bad = 0 ] && echo "docs-check: all well"
 exit $bad
