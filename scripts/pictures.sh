@@ -121,5 +121,5 @@ done
 montage "${entries[@]}" -tile 4x11 -geometry +3+2 "$room/znaki.png"
 keep znaki znaki 64
 # shellcheck disable=SC2046
-convert \( $(tiles 2 8 9 11 24 63) +append \) \( $(tiles 66 72 73 75 88 127) +append \) -append -scale 200% "$room/inv.png"
+convert \( $(tiles 2 11 24 26 40 63) +append \) \( $(tiles 66 75 88 90 104 127) +append \) -append -scale 200% "$room/inv.png"
 keep inv znaki-inv 64
