@@ -10,7 +10,7 @@
 
 KIERUNKI_DRAZKA = 4
 PIERWSZY_KROK = 10                      ; ticks from the step of a press to the first one of holding, after a rest
-ODPOCZYNEK = 6                          ; idle ticks that make a rest
+ODPOCZYNEK = 2                          ; idle ticks that make a rest
 GLEBOKO   = 4                           ; how deep in the swamp she drowns
 
 .segment "ZEROPAGE"

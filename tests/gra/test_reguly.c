@@ -207,6 +207,7 @@ static const struct row walking[] = {
     {0, ".r 2 d 2 .r 6", "//##D"},            /* a tap between two steps counts */
     {"D     ", "r 18 . 5 r 7", "    D"},      /* the same direction again: held, it waits as at first */
     {0, "4", "     D"},
+    {"  D   ", "r 2 . 7 l 7", "  D   "}, /* after a rest, a tap of seven ticks is one step */
     {"D   ", "rd 10", " D"}, /* if the newest direction is barred she goes on in another one */
     {0, "7", "   D"},
     {"D   /|| ", "r 3 d 9", "  D"},
