@@ -37,7 +37,7 @@ glebokosc: .res 1       ; 0 on firm ground, 1 knees, 2 armpits, 3 eyes
 tonie:   .res 1         ; ticks since she sank deeper
 po_bagnie: .res 1       ; she has just come out of the swamp
 brodzi:  .res 1         ; ticks for which she has stood in this water
-opor:    .res 1         ; tugs at thickets since she came here
+opor:    .res 1         ; tugs at the same thicket since she came here
 naczynia: .res 1        ; jars broken so far
 wsk_dorvy: .res 2
 

@@ -17,6 +17,9 @@ parzysty: .res 1        ; the magic object is the second of its pair
 pozycja: .res 1         ; low byte of the cell that is examined
 wsk_magii: .res 2
 
+.segment "BSS"
+szarpana: .res 1        ; the direction of the thicket that she tugs at
+
 .segment "RODATA"
 ; the routines, by tile
 .linecont +
@@ -74,7 +77,13 @@ zarosla:
         lda pochodnia
         bne @pal
         dzwiek EF_KOPIE
-        inc opor
+        ldx kier
+        cpx szarpana
+        beq :+
+        stx szarpana
+        lda #0
+        sta opor
+:       inc opor
         lda opor
         cmp #SZARPNIECIA
         bcc stoi
@@ -124,11 +133,11 @@ maska:  lda #$00                        ; 100
         jsr dodaj_punkty
         dzwiek EF_MASKA
         lda brak_masek
-        beq na_puste
+        beq @juz
         dec brak_masek
-        bne na_puste
+        bne @juz
         jsr otworz
-        jmp na_puste
+@juz:   jmp na_puste
 
 klucz:  jsr dodaj_klucz
         jmp na_puste

@@ -256,6 +256,8 @@ static const struct row taking[] = {
 };
 
 static const struct row pushing[] = {
+    {"zDz", "LLRRLL", "zDz"}, /* each on its own */
+    {0, "L", "D z"},
     {"DS ", "RR", " DS"},
     {"DSS ", "R", "DSS "},
     {"DS,S", "RL", "D SS"},
