@@ -8,11 +8,12 @@
 .export cel_masek, monety, zycia_za_monety, zycia_w_probie, premia
 .exportzp drazek, spust, wynik, efekt, komunikat, energia, zycia, klucze, bomby, brak_masek
 .exportzp maszyna_stoi, pochodnia, otwarte, po_przeskoku
-.importzp kolej, dorva, ziarno
+.importzp kolej, dorva, ziarno, glebokosc
 .import plansza, pod, stan, zapach, dorva_inv, punkty
 .import dorva_takt, podstaw_dorve, policz_wspolrzedne, otworz, ruszaj, nowa_kolej
 
 ZYCIA_NA_START = 3
+CENA_BAGNA = 15                         ; what a try begun anew costs for each step that she has sunk
 
 .segment "ZEROPAGE"
 drazek: .res 1
@@ -40,6 +41,7 @@ cel_masek: .res 1
 monety: .res 1          ; coins since the last extra life
 zycia_za_monety: .res 1 ; lives that coins have brought on this stage, in all tries,
 zycia_w_probie: .res 1  ; and how many the coins of this try are worth
+energia_na_starcie: .res 1 ; of this try
 premia: .res 1          ; the bonus for time, and the ticks until it loses one
 do_premii: .res 1
 
@@ -79,10 +81,27 @@ nowe_sily:
         sta premia
         rts
 
-; Forgets a try that the player begins anew. She keeps the energy that she has, and the next try earns no bonus for time.
+; Forgets a try that the player begins anew. She keeps the energy that she has, but not what elixirs have added to that of
+; the start, since they are there again; out of the swamp it costs some, but not her life. The next try earns no bonus for
+; time.
 powtorz_probe:
         lda #0
         sta premia
+        lda energia
+        cmp energia_na_starcie
+        bcc :+
+        lda energia_na_starcie
+:       ldx glebokosc
+@bagno: dex
+        bmi @gotowe
+        sec
+        sbc #CENA_BAGNA
+        beq @malo
+        bcs @bagno
+@malo:  lda #1
+        bne @bagno
+@gotowe:
+        sta energia
 bez_zdobyczy:
         ldx #2
 :       lda na_starcie,x
@@ -118,6 +137,8 @@ reguly_start:
         sta kolej
         sta dorva
         sta dorva+1
+        lda energia
+        sta energia_na_starcie
         lda #TAKTY_PREMII
         sta do_premii
         lda #$5A                        ; the same random numbers in every try

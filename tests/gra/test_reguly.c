@@ -248,16 +248,22 @@ static const struct row taking[] = {
     {"D$^$", "RRR", 0, "c2 e79 p99"},
     {0, "?", "D$^$", "c0 e79 p0 z3 x0"}, /* begun anew, a try costs no life, but gives no strength and no bonus */
     {0, "RRR !", "D$^$", "c0 e99 p99"},
+    {"De ", "=e50 ? R", 0, "e80"},
+    {0, "?", "De", "e50"}, /* an elixir that is there again gives nothing, */
+    {0, "=e20 ?", 0, "e20"},
+    {"Dbb ", "RR", 0, "e99"},
+    {0, "?", 0, "e69"}, /* and the swamp takes some, but not all */
+    {0, "=e15 R ?", 0, "e1"},
     {"Dz  ", "RR", "Dz"}, /* a thicket holds back for a while */
     {0, "R", " D"},
+    {"zDz", "LLRRLL", "zDz"}, /* each on its own */
+    {0, "L", "D z"},
     {"Dizzz ", "r 23", " Df"},    /* not with a torch: it burns before she may enter, */
     {0, "180", "     D", "e99"},  /* and so do those beside it */
     {"Dwfzwz", "4000", "Dwf wz"}, /* a painted fire burns for ever */
 };
 
 static const struct row pushing[] = {
-    {"zDz", "LLRRLL", "zDz"}, /* each on its own */
-    {0, "L", "D z"},
     {"DS ", "RR", " DS"},
     {"DSS ", "R", "DSS "},
     {"DS,S", "RL", "D SS"},
