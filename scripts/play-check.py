@@ -154,6 +154,11 @@ def keys():
         yield (f"OPTION in the {phase}: a pause ends, and its word goes at once",
                (played.stops, played.dumps["pauza"]), (["graj_etap", "info_powitanie"], bytes([0])))
 
+    dumps = play(game, f"{TO_GAME} R7 -20 RS5 R90 -5 R5", ["graj_etap", "graj_etap", "WRITE 14 14 entered", "takt_dorvy",
+                                                           "WRITE 14 14 moved"]).dumps
+    yield ("a stick held from before doesn't end the greeting",
+           (dumps["moved"][0] - dumps["entered"][0]) % 256 > 80, True)
+
 def choice():
     """The stage that the title offers, and where START in play goes."""
     offered = ["tytul", "wcisniete", dump("numer_etapu", 1, "offered")]

@@ -33,7 +33,7 @@ spoznione: .res 1       ; ticks that took longer than their frame; scripts/play-
 
 .segment "BSS"
 pierwszy_etap: .res 1   ; the stage that the title offers and START begins with: chosen there, or reached in the last game
-powitanie_trwa: .res 1
+powitanie_trwa: .res 1  ; 0 when it is over, 2 while the stick has been held since before
 pauza:   .res 1
 klawisze: .res 1        ; the keys that are down
 byly_klawisze: .res 1   ; those that were down in the frame before
@@ -105,7 +105,7 @@ graj_etap:
         sta CH
         lda #KONSOLA | ESC
         sta byly_klawisze               ; a key that is held already doesn't count as pressed
-        lda #1
+        lda #2
         sta powitanie_trwa
         lda #0
         sta pauza
@@ -126,10 +126,16 @@ graj_etap:
         lda STICK0
         and #15
         eor #15
-        beq @klatka
-        lda #0
+        beq @puszczony
+        lda powitanie_trwa
+        lsr
+        bcc @klatka
         sta powitanie_trwa
-        beq @klatka
+        bcs @klatka
+@puszczony:
+        lda #1
+        sta powitanie_trwa
+        bne @klatka
 @gra:   lda STICK0
         sta drazek
         lda STRIG0
