@@ -154,6 +154,14 @@ def keys():
         yield (f"OPTION in the {phase}: a pause ends, and its word goes at once",
                (played.stops, played.dumps["pauza"]), (["graj_etap", "info_powitanie"], bytes([0])))
 
+    for system, stop in ("-pal", "wczytaj_etap"), ("-ntsc", "ekran_konca"):
+        played = play(game, f"{TO_GAME} R7 -20 E5 -50 E5 -60 S5 -60", ["graj_etap", stop], system)
+        yield f"55 frames are more than a second on PAL only ({system})", played.stops, ["graj_etap", stop]
+    ticks = [command for more in (40, 50)
+             for command in (*["takt_innych"] * more, dump("linia_info", 40, more))]
+    dumps = play(game, f"{TO_GAME} R7 -20 E5 -5 F3 -90", ["graj_etap", *ticks]).dumps
+    lines = ["".join(chr(code + 32) for code in dumps[f"linia_info{more}"]).strip() for more in (40, 50)]
+    yield "a question stays; another message waits", lines, ["ESC JESZCZE RAZ - KONIEC GRY", "NIE MASZ BOMBY"]
     dumps = play(game, f"{TO_GAME} R7 -20 RS5 R90 -5 R5", ["graj_etap", "graj_etap", "WRITE 14 14 entered", "takt_dorvy",
                                                            "WRITE 14 14 moved"]).dumps
     yield ("a stick held from before doesn't end the greeting",

@@ -1,7 +1,7 @@
 ; The game: one stage after the other, tries, lives, the end.
 .include "atari.inc"
 .include "reguly.inc"
-.export graj, pierwszy_etap
+.export graj, pierwszy_etap, pytanie
 .importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat, po_przeskoku
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
@@ -15,7 +15,8 @@ PREMIA_KOLUMNA = 26                     ; the message has 17 characters, centred
 ETAPY     = 32
 CH_ESC    = 28
 CH_BRAK   = $FF
-CZAS_PYTANIA = 50                       ; frames within which START or ESC has to be pressed again
+CZAS_PYTANIA = 50                       ; frames within which START or ESC has to be pressed again,
+DLUZEJ_NTSC = 10                        ; and so many more in a second of NTSC
 
 ; the keys of the game, one bit each
 KONSOLA   = %0111                       ; START, SELECT, OPTION: the bits of CONSOL, but 1 means pressed
@@ -160,6 +161,8 @@ graj_etap:
 :       lda wynik
         beq @klatka
 @koniec:
+        lda #KOM_BRAK
+        sta pytanie
         jmp rysuj_panel
 
 ; The keys mean the same in the greeting, in play and in a pause. START and ESC have to be pressed twice, since once may
@@ -194,10 +197,18 @@ sprawdz_klawisze:
         cpx pytanie
         beq @koniec
         stx pytanie
-        lda #CZAS_PYTANIA
+        lda PAL
+        and #NIE_PAL
+        beq :+
+        lda #DLUZEJ_NTSC
+:       clc
+        adc #CZAS_PYTANIA
         sta czas_pytania
         bne @powiedz
-@pauza: lda pauza
+@pauza: lda #KOM_BRAK
+        sta pytanie
+        sta czas_pytania
+        lda pauza
         eor #1
         sta pauza
         beq @gramy

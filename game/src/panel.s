@@ -12,7 +12,7 @@
 .include "reguly.inc"
 .export zacznij_panel, rysuj_panel, panel_takt, info_powitanie, info_takt
 .importzp energia, zycia, klucze, bomby, brak_masek, pochodnia, maszyna_stoi, komunikat, numer_etapu, napis
-.import punkty, premia, monety, panel_symboli, panel_cyfr, panel_paskow, linia_info, powitanie
+.import pytanie, punkty, premia, monety, panel_symboli, panel_cyfr, panel_paskow, linia_info, powitanie
 .import pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi, t_etap_nr
 
 K_ETAP    = 0
@@ -257,11 +257,16 @@ info_komunikat:
         ldx komunikaty_hi,y
         jmp pisz_srodkiem
 
-; Called every tick: shows a new message; after a while the greeting replaces it.
+; Called every tick: shows a new message, or while there is a question keeps it for later; after a while the greeting
+; replaces it.
 info_takt:
         lda komunikat
-        bne info_komunikat
-        lda zostalo
+        beq @czas
+        ldx pytanie
+        beq info_komunikat
+        cpx komunikat
+        beq info_komunikat
+@czas:  lda zostalo
         beq @nic
         dec zostalo
         beq info_powitanie
