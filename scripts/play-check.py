@@ -9,6 +9,7 @@ import subprocess
 import sys
 from collections import defaultdict, namedtuple
 from concurrent.futures import ThreadPoolExecutor
+from math import log2
 from pathlib import Path
 from tempfile import TemporaryDirectory, mkdtemp
 
@@ -39,8 +40,8 @@ def shown_board(record):
 def patched(record, offset, new):
     return record[:offset] + bytes(new) + record[offset + len(new):]
 
-# Input: a token is letters and a number of frames: L R U D stick, F trigger, T START, S SELECT, O OPTION, E the key
-# ESC, - nothing.
+# Input: a token is letters and a number of frames: L R U D stick, F trigger, T START, S SELECT, O OPTION, E and M the
+# keys ESC and M, - nothing.
 TO_GAME = "-400 F10 -60"
 HASTE = f"{TO_GAME} R50 D50 L90 U50 F3 R200 D60 F3 L60 U300 F10 R60 E5 L9 E5"  # to and fro, and out
 
@@ -48,7 +49,7 @@ def frames(token):
     keys, count = re.fullmatch(r"(\D+)(\d+)", token).groups()
     stick = 255 - ("U" in keys) - 2 * ("D" in keys) - 4 * ("L" in keys) - 8 * ("R" in keys)
     console = 7 - ("T" in keys) - 2 * ("S" in keys) - 4 * ("O" in keys)
-    frame = [f"{28 if 'E' in keys else -1} 0 {console}", stick, 255, int("F" not in keys), 1, 1, 1, "00000000"]
+    frame = [f"{28 if 'E' in keys else 37 if 'M' in keys else -1} 0 {console}", stick, 255, int("F" not in keys), 1, 1, 1, "00000000"]
     return "".join(f"{line} \n" for line in frame) * int(count)
 
 def run_of(stage):
@@ -78,7 +79,8 @@ def play(file, tokens, commands, *machine, shown=False):
     recording = "Atari800 event recording, version: 1\n10387\n" + "".join(map(frames, tokens.split()))
     (folder / "input").write_text(recording)
     (folder / "config").touch()
-    options = ["-config", "config", "-nobasic", "-xl-rev", "altirra", "-nosound", "-playback", "input", "-xe", *machine]
+    options = ["-config", "config", "-nobasic", "-xl-rev", "altirra", "-nosound", "-playback", "input", "-xe",
+               "-pokeyrec", "-pokeyrec-ascii", "-pokeyrec-file", "pokey", *machine]
     environment = os.environ | {"SDL_AUDIODRIVER": "dummy"}
     if not shown:
         options += ["-turbo"]
@@ -191,6 +193,44 @@ def choice():
                  ["graj_etap", dump("numer_etapu"), "ekran_wygranej", *offered]).dumps
     yield ("after the victory it offers the first one", (dumps["numer_etapu"], dumps["numer_etapuoffered"]),
            (bytes([32]), bytes([1])))
+
+def tunes():
+    file = game.read_bytes()
+    def memory(at, size):
+        return file[at - 0x8000 + 8468:][:size]
+    def word(at):
+        return int.from_bytes(memory(at, 2), "little")
+    lengths, pitches = memory(address["dlugosci"], 8), memory(address["wysokosci"], 50)
+    for tune in "las", "jaskinie", "swiatynia", "tytulowa", "przeszla", "strata", "koniec", "wygrana":
+        _, eighths, _, melody, _, bass = memory(address[tune], 6)
+        section, wrong = address[tune] + 6, []
+        while word(section) > 255:
+            for phrase, pure in (word(section), melody == 0xA0), (word(section + 2), bass == 0xA0):
+                left = eighths
+                while left > 0:
+                    left -= lengths[memory(phrase, 1)[0] >> 5]
+                    if pitch := memory(phrase, 1)[0] & 31:
+                        # a pure wave is two steps long, that of the buzz fifteen; pitch 1 is a B, two octaves lower there
+                        step = pitches[pitch - 1 if pure else pitch + 30] + 1
+                        off = 12 * log2(63920 / step / (2 if pure else 15) / 440) + (23 if pure else 47) - pitch
+                        wrong += [(pitch, off)] * (abs(off) > 0.2)
+                    phrase += 1
+                wrong += [("length", section, left)] * (left < 0)
+            section += 4
+        yield f"the tune {tune}: phrases fill their sections, pitches are less than a fifth of a semitone off", wrong, []
+
+def music(system, frame_rate):
+    """The emulator records the sound chip: nine bytes a frame, AUDC3 and AUDC4 behind the pitches of the tune."""
+    tokens = "-400 F10 -500 O5 -100 O5 -100 M50 -100 M5 -100 E5 -9 E5 -400 T10 -99 T10 -60 O5 -60 M5 -400 M5 -60 M5 -20"
+    played = play(game, tokens, ["ekran_konca", "graj", "przelacz_muzyke", until("rysuj_tytul", "WARMSTART"),
+                                 "przelacz_muzyke", "przelacz_muzyke", "ekran_konca"], system)
+    sound = [bytes.fromhex(line) for line in played.dumps["pokey"].decode().split()]
+    yield (f"the tune waits in a pause, the key M stops it, RESET in a pause brings it back ({system})",
+           [any(sound[frame][voice] % 16 for voice in (5, 7)) for frame in (300, 900, 1000, 1100, 1150, 1250, 1350,
+                                                                            1450, 2030, 2250, 2490, 2530)],
+           [True, True, False, True, False, False, True, True, False, True, False, True])
+    first = next(frame for frame, registers in enumerate(sound) if registers[4] == 64)  # B, not in the title's tune
+    yield f"its tempo is the same on every system ({system})", 6.4 < (first - 410) / frame_rate < 7, True
 
 def overlay():
     """In each world the two players cover the heroine's cell and nothing else."""
@@ -329,8 +369,9 @@ def machines():
                shown_board(stages[1]))
     yield "a machine of 64 KB shows what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
 
-CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (overlay,), (only_stage,),
-          (all_stages,), (motion,), (foreign_codes,), (bars,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
+CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (tunes,), (music, "-pal", 50),
+          (music, "-ntsc", 60), (overlay,), (only_stage,), (all_stages,), (motion,), (foreign_codes,), (bars,),
+          (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
           (reset, "-basic"), (machines,)]
 
 # Pictures for the documents.

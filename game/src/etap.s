@@ -2,7 +2,7 @@
 .include "atari.inc"
 .include "rekord.inc"
 .include "reguly.inc"
-.export wczytaj_etap, wez_etap, ostatni, powitanie
+.export wczytaj_etap, wez_etap, ostatni, swiat, powitanie
 .exportzp numer_etapu
 .import plansza, cel_masek, kolory, wez_zestaw, zgas_ekran
 

@@ -1,19 +1,22 @@
 ; The game: one stage after the other, tries, lives, the end.
 .include "atari.inc"
 .include "reguly.inc"
-.export graj, pierwszy_etap, pytanie
+.include "muzyka.inc"
+.export graj, pierwszy_etap, pytanie, pauza, klawisz_muzyki
 .importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat, po_przeskoku
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
 .import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, dojdz, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
 .import linia_info, dwie_cyfry, ozyw_znaki
 .import zacznij_panel, rysuj_panel, panel_takt, info_powitanie, info_takt
-.import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, ucisz_muzyke, dodaj_punkty
+.import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, dodaj_punkty
+.import zagraj_utwor, muzyka_swiata, ucisz_muzyke, przelacz_muzyke
 
 CZAS_SMIERCI = 50
 PREMIA_KOLUMNA = 26                     ; the message has 17 characters, centred in 40; digits come last
 ETAPY     = 32
 CH_ESC    = 28
+CH_M      = 37
 CH_BRAK   = $FF
 CZAS_PYTANIA = 50                       ; frames within which START or ESC has to be pressed again,
 DLUZEJ_NTSC = 10                        ; and so many more in a second of NTSC
@@ -21,6 +24,7 @@ DLUZEJ_NTSC = 10                        ; and so many more in a second of NTSC
 ; the keys of the game, one bit each
 KONSOLA   = %0111                       ; START, SELECT, OPTION: the bits of CONSOL, but 1 means pressed
 ESC       = %1000
+MUZYKA    = %10000                      ; the key M
 W_GORZE   = %0100                       ; the bit of SKSTAT that is 1 while no key is down
 
 ; values of wynik after graj_etap that the rules don't have
@@ -53,7 +57,8 @@ graj:   lda #0
         jsr reguly_start
         bcc @jest
         jmp ekran_bez_dorvy
-@jest:  jsr zacznij_panel
+@jest:  jsr muzyka_swiata
+        jsr zacznij_panel
         jsr rysuj_panel
         jsr info_powitanie
         jsr pokaz_plansze
@@ -104,7 +109,7 @@ graj:   lda #0
 graj_etap:
         lda #CH_BRAK
         sta CH
-        lda #KONSOLA | ESC
+        lda #KONSOLA | ESC | MUZYKA
         sta byly_klawisze               ; a key that is held already doesn't count as pressed
         lda #2
         sta powitanie_trwa
@@ -163,6 +168,7 @@ graj_etap:
 @koniec:
         lda #KOM_BRAK
         sta pytanie
+        sta pauza
         jmp rysuj_panel
 
 ; The keys mean the same in the greeting, in play and in a pause. START and ESC have to be pressed twice, since once may
@@ -182,7 +188,10 @@ sprawdz_klawisze:
         ldy #PODDANA
         lsr
         bcs @zapytaj
-        lda czas_pytania
+        lsr
+        bcc :+
+        jsr przelacz_muzyke
+:       lda czas_pytania
         beq @nic
         dec czas_pytania
         bne @nic
@@ -234,15 +243,18 @@ czytaj_klawisze:
         ldx CH
         lda #CH_BRAK
         sta CH
+        lda #ESC
         cpx #CH_ESC
-        beq @esc
+        beq @jeszcze
+        lda #MUZYKA
+        cpx #CH_M
+        beq @jeszcze
         lda SKSTAT
         and #W_GORZE
         bne @jest
-        lda byly_klawisze               ; some key is down; it is ESC if ESC was down before
-        and #ESC
-        beq @jest
-@esc:   lda #ESC
+        lda byly_klawisze               ; some key is down; it is the one that was down before
+        and #ESC | MUZYKA
+@jeszcze:
         ora klawisze
         sta klawisze
 @jest:  lda byly_klawisze
@@ -252,6 +264,14 @@ czytaj_klawisze:
         stx byly_klawisze
         rts
 
+; Where M is the only key.
+klawisz_muzyki:
+        jsr czytaj_klawisze
+        and #MUZYKA
+        beq :+
+        jmp przelacz_muzyke
+:       rts
+
 ; A life is lost: shows a flash and a message, and she screams.
 pokaz_strate:
         jsr rysuj_dorve
@@ -260,6 +280,8 @@ pokaz_strate:
         sta komunikat
         jsr info_takt
         jsr cisza
+        lda #UTWOR_STRATA
+        jsr zagraj_utwor
         lda #EF_WYBUCH
         jsr zagraj
         jsr blysnij
@@ -276,6 +298,8 @@ pokaz_premie:
 
 ; Turns what is left of the bonus for time into points, ten for each.
 policz_premie:
+        lda #UTWOR_PRZESZLA
+        jsr zagraj_utwor
         jsr dojdz
         lda #KOM_PREMIA
         sta komunikat

@@ -1,11 +1,13 @@
 ; The entry: takes over the machine, then runs title and game by turns.
 .include "atari.inc"
 .export start
-.import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj, pierwszy_etap
+.import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj, pierwszy_etap, pauza, wyciszona
 
 .segment "CODE"
 start:  lda #1
         sta pierwszy_etap
+        lda #0
+        sta wyciszona
 wznow:  ldx #$FF
         txs
         cld
@@ -21,6 +23,7 @@ wznow:  ldx #$FF
         sta DOSINI+1
         lda #0
         sta COLDST
+        sta pauza
         lda #1
         sta BOOTQ
         jsr cisza

@@ -5,9 +5,10 @@
 .include "atari.inc"
 .include "rekord.inc"
 .include "reguly.inc"
+.include "muzyka.inc"
 .export tytul, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
-.import pierwszy_etap, zacznij_muzyke, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
+.import pierwszy_etap, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
 .import ozyw_znaki
 .import czysc_tekst, pokaz_tekst, wez_kolory, czekaj_klatke, wczytaj_etap, wez_etap, ostatni, powitanie
 .import t_cel, t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
@@ -75,11 +76,11 @@ tytul:  lda pierwszy_etap
         sta swieto
         lda #PROSTO
         sta drazek_tytulu
-        jsr zacznij_muzyke
+        lda #UTWOR_TYTUL
+        jsr zagraj_utwor
         jsr rysuj_tytul
 @czekaj:
-        jsr czekaj_klatke
-        jsr idz_pod_logo
+        jsr klatka_tytulu
         jsr wcisniete
         bne @drazek
         jmp czekaj_na_puszczenie
@@ -172,6 +173,7 @@ ekran_konca:
         jsr rysuj_logo
         pisz_w 4, t_koniec
         jsr pisz_wynik
+        lda #UTWOR_KONIEC
         jmp czekaj_na_gracza
 
 ; The last stage is done.
@@ -183,6 +185,7 @@ ekran_wygranej:
         pisz_w 3, t_wygrana
         pisz_w 5, t_wygrana2
         jsr pisz_wynik
+        lda #UTWOR_WYGRANA
         jmp czekaj_na_gracza
 
 ekran_bez_dorvy:
@@ -191,15 +194,15 @@ ekran_bez_dorvy:
         jsr rysuj_logo
         pisz_w 4, t_brak
         pisz_w 6, t_brak2
-; Shows the screen until the trigger or START is pressed.
+        lda #UTWOR_TYTUL
+; Shows the screen, with tune A, until the trigger or START is pressed.
 czekaj_na_gracza:
+        jsr zagraj_utwor
         pisz_w 12, t_dalej
-        jsr zacznij_muzyke
         jsr pokaz_tekst
         jsr czekaj_na_puszczenie
 @czekaj:
-        jsr czekaj_klatke
-        jsr idz_pod_logo
+        jsr klatka_tytulu
         lda swieto
         beq :+
         lda RTCLOK+2                    ; the next hue every 32 frames
@@ -308,6 +311,10 @@ rysuj_logo:
         bne @rzad
         rts
 
+; Waits for the next frame of a text screen, whose key is M.
+klatka_tytulu:
+        jsr czekaj_klatke
+        jsr klawisz_muzyki
 ; Below the name the heroine walks across the screen, followed by a tracker.
 idz_pod_logo:
         jsr ozyw_znaki
