@@ -142,69 +142,67 @@ TEST(BuiltColours, FiguresStandOutFromTheBoardAndDangerFromAllElse) {
     }
 }
 
-void expectReported(const std::function<void(const Source&)>& parse,
-                    const std::map<std::string, std::string>& mistakes) {
-    for (const auto& [source, message] : mistakes) {
-        std::string reported;
-        try {
-            parse({"s", source});
-        } catch (const SourceError& error) {
-            reported = error.what();
-        }
-        EXPECT_EQ(reported.substr(0, message.size()), message) << source;
+// The mistake that a parser reports, or nothing.
+template <typename Parse> std::string mistakeIn(Parse parse, const std::string& source) {
+    try {
+        (void)parse(Source("s", source));
+        return "";
+    } catch (const SourceError& error) {
+        return error.what();
     }
 }
 
-TEST(Compiler, MistakesAreReportedWithTheirLine) {
-    const std::string kolory = "grunt 1\ntwarz 2\nubranie 3\nwoda 4\ntlo 5\n";
-    const std::string pusty = "0 NIC\n....\n....\n....\n....\n....\n....\n....\n....\n";
-    expectReported([](const Source& source) { parseRysunki(source); },
-                   {{"grunt 300\n", "s:1: a number from 0 to 255"},
-                    {kolory + "\n; uwaga\n0 NICO\n", "s:8: the tile \"0 NIC\""},
-                    {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
-                    {kolory + pusty + "1 ZIEMIA\nlustro 1\n", "s:16: a number from 0 to 0"},
-                    {kolory + pusty, "s:14: the file ends"}});
-
-    const std::string head = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n";
-    const std::string row = std::string(40, '.') + "\n";
-    expectReported(
-        [](const Source& source) {
-            parseEtap(source, parseLegenda({"l", "kolory standard\n. 0 NIC\n~ 139 WODA ; INV\n"}), {});
-        },
-        {{"swiat 4\n", "s:1: a number from 1 to 3"},
-         {"swiat 1\nkolory niebo 4\n", "s:2: no colour"},
-         {"swiat 1\nkolory standard\ncel 100\n", "s:3: a number from 1 to 99"},
-         {"swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie " + row, "s:5: at most 32"},
-         {head + std::string(39, '.') + "?\n", "s:8: the legend"},
-         {head + row, "s:8: the file ends"}});
-    const std::string barwy = "kolory tlo 4\n";
-    expectReported([](const Source& source) { parseLegenda(source); }, {{barwy + "ab 0 NIC\n", "s:2"},
-                                                                        {barwy + ". 0 NIC\n. 1 ZIEMIA\n", "s:3"},
-                                                                        {barwy + ". 64 NIC\n", "s:2"},
-                                                                        {barwy + ". 1 NIC\n", "s:2"},
-                                                                        {barwy + ". 0\n", "s:2"}});
+// The source of a board whose first rows are given.
+std::string boardOf(std::vector<std::string> rows) {
+    rows.resize(PLANSZA_ROWS);
+    std::string source;
+    for (std::string& row : rows) {
+        row.resize(PLANSZA_COLUMNS, '.');
+        source += row + "\n";
+    }
+    return source;
 }
 
-TEST(Compiler, ABoardHasOneDorvaOneExitAndAtMostOneTorchAndMachine) {
-    const Legenda legenda = parseLegenda(
-        {"l", "kolory standard\n. 0 NIC\nD 63 DORVA\nd 191 DORVA\nW 9 WYJŚCIE\nP 57 POCHODNIA\nM 56 MASZYNA\n"});
-    const auto isTaken = [&](std::string row) {
-        row.resize(PLANSZA_COLUMNS, '.');
-        std::string source = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n" + row + "\n";
-        for (int i = 1; i < PLANSZA_ROWS; ++i)
-            source += std::string(PLANSZA_COLUMNS, '.') + "\n";
-        try {
-            (void)parseEtap({"s", source}, legenda, {});
-            return true;
-        } catch (const SourceError& error) {
-            EXPECT_TRUE(std::string(error.what()).find("the board") != std::string::npos) << error.what();
-            return false;
-        }
+const std::string LEGENDA =
+    "kolory klucze 30 tlo 2 bomby 206\n. 0 NIC\n~ 139 WODA ; INV\nD 63 DORVA\nd 191 DORVA\nW 9 WYJŚCIE\n"
+    "P 57 POCHODNIA\nM 56 MASZYNA\n";
+const std::string HEAD = "swiat 1\nkolory standard\ncel 1\nostatni 0\npowitanie A\nopis\nplansza\n";
+
+Bajty compiled(const Source& source, const Swiaty& swiaty = {}) {
+    return parseEtap(source, parseLegenda({"l", LEGENDA}), swiaty);
+}
+
+TEST(Compiler, MistakesAreReportedWithTheirLine) {
+    using Rows = std::map<std::string, std::string>; // sources and messages
+    const auto expectReported = [](auto parse, const Rows& rows) {
+        for (const auto& [source, message] : rows)
+            EXPECT_EQ(mistakeIn(parse, source).substr(0, message.size()), message) << source;
     };
+    const std::string kolory = "grunt 1\ntwarz 2\nubranie 3\nwoda 4\ntlo 5\n";
+    const std::string pusty = "0 NIC\n....\n....\n....\n....\n....\n....\n....\n....\n";
+    expectReported(parseRysunki, {{"grunt 300\n", "s:1: a number from 0 to 255"},
+                                  {kolory + "\n; uwaga\n0 NICO\n", "s:8: the tile \"0 NIC\""},
+                                  {kolory + "0 NIC\n...x\n", "s:7: a pixel"},
+                                  {kolory + pusty + "1 ZIEMIA\nlustro 1\n", "s:16: a number from 0 to 0"},
+                                  {kolory + pusty, "s:14: the file ends"}});
+    const auto stage = [](const Source& source) { return compiled(source); };
+    const std::string row = std::string(40, '.') + "\n";
+    expectReported(stage, {{"swiat 4\n", "s:1: a number from 1 to 3"},
+                           {"swiat 1\nkolory niebo 4\n", "s:2: no colour"},
+                           {"swiat 1\nkolory standard\ncel 100\n", "s:3: a number from 1 to 99"},
+                           {HEAD.substr(0, HEAD.find("A\n")) + row, "s:5: at most 32"},
+                           {HEAD + std::string(39, '.') + "?\n", "s:8: the legend"},
+                           {HEAD + row, "s:8: the file ends"}});
+    const std::string barwy = "kolory tlo 4\n";
+    expectReported(parseLegenda, {{barwy + "ab 0 NIC\n", "s:2"},
+                                  {barwy + ". 0 NIC\n. 1 ZIEMIA\n", "s:3"},
+                                  {barwy + ". 64 NIC\n", "s:2"},
+                                  {barwy + ". 1 NIC\n", "s:2"},
+                                  {barwy + ". 0\n", "s:2"}});
     for (const char* good : {"DW", "dW", "DWP", "DWPM"})
-        EXPECT_TRUE(isTaken(good)) << good;
+        EXPECT_EQ(mistakeIn(stage, HEAD + boardOf({good})), "");
     for (const char* bad : {"", "D", "W", "DDW", "DdW", "DWW", "DWPP", "DWMM"})
-        EXPECT_FALSE(isTaken(bad)) << bad;
+        EXPECT_NE(mistakeIn(stage, HEAD + boardOf({bad})).find("the board"), std::string::npos) << bad;
     const fs::path stages = DORVA_STAGES;
     EXPECT_NO_THROW((void)parseEtap(Source::fromFile(stages / "szablon.txt"),
                                     parseLegenda(Source::fromFile(stages / "legenda.txt")), {}));
@@ -213,13 +211,10 @@ TEST(Compiler, ABoardHasOneDorvaOneExitAndAtMostOneTorchAndMachine) {
 TEST(Compiler, AStagesColoursAreTheWorldsUnderTheSharedUnderItsOwn) {
     Swiaty swiaty{};
     swiaty[1].kolory = {10, 20, 30, 40, 50};
-    std::string source = "swiat 2\nkolory tlo 6 klucze 8\ncel 7\nostatni 1\npowitanie ala, Żółw\nopis x\nplansza\n";
-    for (int row = 0; row < PLANSZA_ROWS; ++row)
-        source += (row == 0 ? "DW" + std::string(38, '.') : std::string(40, row == 2 ? '~' : '.')) + "\n";
-    const Bajty etap = parseEtap(
-        {"s", source},
-        parseLegenda({"l", "kolory klucze 30 tlo 2 bomby 206\n. 0 NIC\n~ 139 WODA\nD 63 DORVA\nW 9 WYJŚCIE\n"}),
-        swiaty);
+    const Bajty etap = compiled({"s", "swiat 2\nkolory tlo 6 klucze 8\ncel 7\nostatni 1\npowitanie ala, Żółw\nopis x\n"
+                                      "plansza\n" +
+                                          boardOf({"DW", "", std::string(40, '~')})},
+                                swiaty);
     ASSERT_EQ(etap.size(), ETAP_SIZE_BYTES);
     EXPECT_EQ(Bajty(etap.begin() + 16, etap.begin() + 28), (Bajty{8, 206, 64, 128, 10, 20, 30, 40, 6, 0, 0, 164}));
     EXPECT_EQ(etap[32 + 79], 0);

@@ -19,13 +19,14 @@ class Tiles : public Desk {
 protected:
     void SetUp() override {
         Desk::SetUp();
+        folder = base / "OBIEKTY/ORN_EXPORT";
         std::uint32_t swiat = 0;
-        for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"}) {
-            writeFile(base / "OBIEKTY/ORN_EXPORT" / (std::string(name) + ".KOLORY"),
-                      Bajty(7, static_cast<Bajt>(10 * ++swiat)));
-            strips[std::string(name) + ".TILES.BMP"] = sampleStrip(swiat);
+        for (const std::string name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"}) {
+            writeFile(folder / (name + ".KOLORY"), Bajty(7, static_cast<Bajt>(10 * ++swiat)));
+            strips[name + ".TILES.BMP"] = sampleStrip(swiat);
         }
     }
+    fs::path folder;
     std::uint32_t pixel(ObrazRef ref, std::size_t i = 0) {
         const ZnakObraz* obraz = e.frmZestawy.find(ref);
         return obraz ? (*obraz)[i] : 1;
@@ -40,10 +41,8 @@ TEST_F(Tiles, EveryCodeShowsItsPartOfTheStrip) {
             EXPECT_EQ(pixel({swiat, znak(code)}, 1023),
                       0xFF000000U | static_cast<std::uint32_t>((swiat + 1) << 16 | position));
         }
-    EXPECT_EQ(e.frmZestawy.find({0, znak(64)}), nullptr);
-    EXPECT_EQ(e.frmZestawy.find({0, znak(255)}), nullptr);
-    EXPECT_EQ(e.frmZestawy.find({ObrazRef::DOMYSLNY, DORVA}), nullptr);
-    EXPECT_EQ(e.frmZestawy.find({3, DORVA}), nullptr);
+    for (ObrazRef none : {ObrazRef{0, znak(64)}, {0, znak(255)}, {ObrazRef::DOMYSLNY, DORVA}, {3, DORVA}})
+        EXPECT_EQ(e.frmZestawy.find(none), nullptr);
 }
 
 TEST_F(Tiles, ChangeOfWorldChangesPicturesOnly) {
@@ -83,17 +82,16 @@ TEST_F(Tiles, StripsOfOtherSizes) {
     EXPECT_EQ(e.okno.optObiektyNR, 1) << "start-up goes on";
     strips["FNT11.ORN.ND.TILES.BMP"].piksele.pop_back();
     cmdReload_Click(e);
-    strips["FNT11.ORN.ND.TILES.BMP"] = {-1, 32, {}};
-    cmdReload_Click(e);
-    strips["FNT11.ORN.ND.TILES.BMP"] = {32, -1, {}};
-    cmdReload_Click(e);
-    fs::remove_all(base / "OBIEKTY/ORN_EXPORT");
+    for (const Bitmapa& wrong : {Bitmapa{-1, 32, {}}, Bitmapa{32, -1, {}}}) {
+        strips["FNT11.ORN.ND.TILES.BMP"] = wrong;
+        cmdReload_Click(e);
+    }
+    fs::remove_all(folder);
     cmdReload_Click(e);
     EXPECT_EQ(pixel({1, znak(2)}, 5), 0xFF080002U) << "a picture that is not whole changes nothing";
 }
 
 TEST_F(Tiles, OnlyVisibleFilesTakeAWorldsTurn) {
-    const fs::path folder = base / "OBIEKTY/ORN_EXPORT";
     fs::create_directory(folder / "AAA.ND");
     for (const char* name : {".AAA.ND", "._FNT01.ORN.ND", "fnt02.orn.nd"})
         writeFile(folder / name, {});
@@ -112,8 +110,8 @@ TEST_F(Tiles, OnlyVisibleFilesTakeAWorldsTurn) {
 TEST_F(Tiles, ReloadTakesNewColoursOfTheWorldOnShow) {
     start(); // stage 1 is in world 1
     e.okno.chkZachowajKolory = true;
-    writeFile(base / "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY", {6, 7, 8, 9, 10});
-    writeFile(base / "OBIEKTY/ORN_EXPORT/FNT11.ORN.ND.KOLORY", {1, 2, 3, 4, 5});
+    writeFile(folder / "FNT01.ORN.ND.KOLORY", {6, 7, 8, 9, 10});
+    writeFile(folder / "FNT11.ORN.ND.KOLORY", {1, 2, 3, 4, 5});
     const Bajt slot3 = e.okno.lblKolor[3].value;
     cmdReload_Click(e);
     for (std::size_t k = 0; k < 5; ++k)
@@ -129,7 +127,7 @@ TEST_F(Tiles, ReloadTakesNewColoursOfTheWorldOnShow) {
 
 TEST_F(Tiles, PaletteFileOrBuiltInTable) {
     for (const char* name : {"FNT01.ORN.ND", "FNT11.ORN.ND", "FNT21.ORN.ND"})
-        fs::remove(base / "OBIEKTY/ORN_EXPORT" / name);
+        fs::remove(folder / name);
     start();
     EXPECT_EQ(e.okno.lblKolor[4].value, 10) << "a world's colours don't wait for its tile set";
     EXPECT_EQ(e.Paleta[180], (Rgb{0x16, 0x92, 0x12}));
@@ -141,14 +139,14 @@ TEST_F(Tiles, PaletteFileOrBuiltInTable) {
     LoadPaleta(e);
     for (Rgb colour : e.Paleta)
         EXPECT_EQ(colour, (Rgb{3, 3, 3}));
-    writeFile(base / "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY", Bajty(4, 99));
+    writeFile(folder / "FNT01.ORN.ND.KOLORY", Bajty(4, 99));
     LoadKolory(e, 0);
     EXPECT_EQ(e.KoloryDomyslne[0][4], 10);
-    const auto third = base / "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND.KOLORY";
+    const auto third = folder / "FNT21.ORN.ND.KOLORY";
     fs::remove(third);
     LoadKolory(e, 2);
     EXPECT_FALSE(fs::exists(third)) << "a missing colour file stays missing";
-    LoadZestaw(e, base / "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND", 2);
+    LoadZestaw(e, folder / "FNT21.ORN.ND", 2);
     EXPECT_EQ(fs::file_size(third), 0U) << "with a tile set it is created";
     EXPECT_EQ(e.KoloryDomyslne[2][4], 30);
 }
@@ -173,8 +171,8 @@ TEST_F(Tiles, PaletteDialogWritesTheChosenSlot) {
     e.okno.chkZachowajKolory = true;
     PickKolor(e, 0);
     cmdResetKolory_Click(e);
-    EXPECT_EQ(shown, std::vector<std::string>(
-                         2, "Nie można zmienić kolorów ponieważ\nustawiony jest znacznik \"Blokuj kolory\"."));
+    const std::string blocked = "Nie można zmienić kolorów ponieważ\nustawiony jest znacznik \"Blokuj kolory\".";
+    EXPECT_EQ(said(), blocked + "|" + blocked);
     EXPECT_EQ(e.WybranySlot, 11);
     Form_Unload(e);
     EXPECT_FALSE(e.okno.lblKolor[11].wybrany || e.okno.dlgPaleta.otwarte);
