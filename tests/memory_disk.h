@@ -1,18 +1,15 @@
-// A disk in memory, used through a table of system calls. The calls can be made to fail, and the disk can list every
-// state in which a power cut might leave it.
+// A disk in memory, used through a table of system calls, and a desk whose files are on it. The calls can be made to
+// fail, and the disk can list every state in which a power cut might leave it.
 #pragma once
 
-#include "system/pliki.h"
+#include "desk.h"
 #include "system/system_calls.h"
 
 #include <algorithm>
 #include <chrono>
-#include <map>
 #include <memory>
 #include <set>
-#include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace dorva::test {
@@ -38,6 +35,14 @@ struct File {
     Time modified;
 };
 using FileRef = std::shared_ptr<File>;
+
+// What a power cut may leave of a file: what was written and not flushed may be missing, cut short, zeros or there.
+inline std::vector<Bajty> formsOf(const File& file) {
+    if (file.bytes == file.flushed)
+        return {file.bytes};
+    const auto half = static_cast<std::ptrdiff_t>(file.bytes.size() / 2);
+    return {file.flushed, {file.bytes.begin(), file.bytes.begin() + half}, Bajty(file.bytes.size(), 0), file.bytes};
+}
 
 struct MemoryDisk {
     struct Open {
@@ -70,59 +75,48 @@ struct MemoryDisk {
     }
     Open& at(Handle file) { return open[static_cast<std::size_t>(file)]; }
 
-    [[nodiscard]] Files files(std::string_view prefix = "") const;
-    [[nodiscard]] std::vector<Files> afterPowerCut() const;
+    [[nodiscard]] Files files(std::string_view prefix = "") const {
+        Files files;
+        for (const auto& [name, file] : names)
+            if (name.starts_with(prefix))
+                files[name] = file->bytes;
+        return files;
+    }
+
+    // Each name that changed since its folder was flushed is old or new, whatever the others are. A folder whose own
+    // name was not flushed may be lost with all that it holds.
+    [[nodiscard]] std::vector<Files> afterPowerCut() const {
+        std::map<std::string, std::vector<FileRef>> candidates = unsure;
+        for (const auto& [name, file] : names)
+            candidates[name];
+        std::vector<Files> states(1);
+        for (auto& [name, versions] : candidates) {
+            versions.push_back(find(name));
+            std::vector<Files> longer;
+            for (const FileRef& file : versions) {
+                if (!file) {
+                    longer.insert(longer.end(), states.begin(), states.end());
+                    continue;
+                }
+                for (const Bajty& form : formsOf(*file))
+                    for (Files state : states) {
+                        state[name] = form;
+                        longer.push_back(std::move(state));
+                    }
+            }
+            states = std::move(longer);
+        }
+        for (const std::string& folder : unsureFolders) {
+            std::vector<Files> without = states;
+            for (Files& state : without)
+                std::erase_if(state, [&](const auto& entry) { return entry.first.starts_with(folder + '/'); });
+            states.insert(states.end(), without.begin(), without.end());
+        }
+        return states;
+    }
 };
 
 inline MemoryDisk disk;
-
-inline Files MemoryDisk::files(std::string_view prefix) const {
-    Files files;
-    for (const auto& [name, file] : names)
-        if (name.starts_with(prefix))
-            files[name] = file->bytes;
-    return files;
-}
-
-// What a power cut may leave of a file: what was written and not flushed may be missing, cut short, zeros or there.
-inline std::vector<Bajty> formsOf(const File& file) {
-    if (file.bytes == file.flushed)
-        return {file.bytes};
-    const auto half = static_cast<std::ptrdiff_t>(file.bytes.size() / 2);
-    return {file.flushed, {file.bytes.begin(), file.bytes.begin() + half}, Bajty(file.bytes.size(), 0), file.bytes};
-}
-
-// Each name that changed since its folder was flushed is old or new, whatever the others are. A folder whose own name
-// was not flushed may be lost with all that it holds.
-inline std::vector<Files> MemoryDisk::afterPowerCut() const {
-    std::map<std::string, std::vector<FileRef>> candidates = unsure;
-    for (const auto& [name, file] : names)
-        candidates[name];
-    std::vector<Files> states(1);
-    for (auto& [name, versions] : candidates) {
-        versions.push_back(find(name));
-        std::vector<Files> longer;
-        for (const FileRef& file : versions) {
-            if (!file) {
-                longer.insert(longer.end(), states.begin(), states.end());
-                continue;
-            }
-            for (const Bajty& form : formsOf(*file))
-                for (Files state : states) {
-                    state[name] = form;
-                    longer.push_back(std::move(state));
-                }
-        }
-        states = std::move(longer);
-    }
-    for (const std::string& folder : unsureFolders) {
-        std::vector<Files> without = states;
-        for (Files& state : without)
-            std::erase_if(state, [&](const auto& entry) { return entry.first.starts_with(folder + '/'); });
-        states.insert(states.end(), without.begin(), without.end());
-    }
-    return states;
-}
 
 inline Result statPath(const Path& path, FileInfo& info) {
     const FileRef file = disk.find(path);
@@ -264,5 +258,31 @@ inline const SystemCalls* memoryCalls() {
     };
     return &calls;
 }
+
+// A path on the disk in memory.
+inline std::string at(const std::string& name) {
+    static const fs::path folder = makeFolder(); // of this run alone
+    return (folder / name).generic_string();
+}
+
+// There is also a real, empty folder of that name, since operations make it the current one.
+class DeskInMemory : public Desk {
+protected:
+    void SetUp() override {
+        calls = memoryCalls();
+        root = at("");
+        base = at("praca");
+        fs::create_directories(base);
+        disk = {};
+        for (const auto& [name, bytes] : sampleTree())
+            disk.put(at("praca/" + name), bytes);
+        attach(e);
+    }
+    void TearDown() override {
+        fs::current_path(fs::temp_directory_path());
+        std::error_code error;
+        fs::remove_all(root, error);
+    }
+};
 
 } // namespace dorva::test

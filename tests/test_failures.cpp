@@ -1,14 +1,12 @@
 // Each file call of each operation is made to fail, and the power is cut after each call. Whatever happens: every file
 // holds its old or its new bytes, the old content of the working set is in its files or in copies, nothing else is left
 // over, the user's work is on the screen or on the disk, and the next operation succeeds.
-#include "desk_in_memory.h"
+#include "memory_disk.h"
 #include "output/obraz_gry.h"
 #include "stage/archiwum.h"
 #include "stage/etap.h"
 #include "stage/kopie_ekranu.h"
 #include "stage/zbior_etapow.h"
-
-#include <iostream>
 
 namespace dorva::test {
 namespace {
@@ -24,12 +22,6 @@ struct Scenario {
     bool replacesScreen = false;      // then a failing call may cost what was on it
 };
 
-std::ostream& operator<<(std::ostream& out, const Scenario& s) {
-    return out << s.name;
-}
-
-void nothing() {}
-
 void damageTwo() {
     disk.put(ETAP_2, Bajty(500, 3));
 }
@@ -43,36 +35,29 @@ void makeArchive() {
     damageTwo();
 }
 
-void makeStage() {
-    disk.put(CHOSEN, sampleEtap(9));
-}
-
 void makeOther() {
     disk.put(CHOSEN, {1, 2, 3});
 }
 
-void startAgain(Edytor& e) {
-    Form_Load(e, fs::path(e.KatalogBazowy), "1.0.2");
-}
-
-void visitTwoAndThree(Edytor& e) {
-    SelectEtapNR(e, 1);
-    SelectEtapNR(e, 2);
-}
-
 const std::vector<Scenario> SCENARIOS{
-    {"Start", damageTwo, startAgain, {}, true},
-    {"WorkKept", nothing, keepWork, {}},
-    {"Switch", nothing, [](Edytor& e) { SelectEtapNR(e, 1); }, {ETAP_1}},
-    {"SwitchToADamagedFileAndOn", damageTwo, visitTwoAndThree, {ETAP_1}},
-    {"Load", makeStage, cmdLoad_Click, {}, true},
+    {"Start", damageTwo, [](Edytor& e) { Form_Load(e, fs::path(e.KatalogBazowy), "1.0.2"); }, {}, true},
+    {"WorkKept", [] {}, keepWork, {}},
+    {"Switch", [] {}, [](Edytor& e) { SelectEtapNR(e, 1); }, {ETAP_1}},
+    {"SwitchToADamagedFileAndOn",
+     damageTwo,
+     [](Edytor& e) {
+         SelectEtapNR(e, 1);
+         SelectEtapNR(e, 2);
+     },
+     {ETAP_1}},
+    {"Load", [] { disk.put(CHOSEN, sampleEtap(9)); }, cmdLoad_Click, {}, true},
     {"Save", makeOther, cmdSave_Click, {CHOSEN}},
-    {"Clear", nothing, cmdCzysc_Click, {}, true},
+    {"Clear", [] {}, cmdCzysc_Click, {}, true},
     {"ArchiveSave", makeOther, cmdSaveArch_Click, {ETAP_1, CHOSEN}},
     {"ArchiveLoad", makeArchive, cmdLoadArch_Click, {ETAP_2, LINIE}, true},
     {"GameBuild", makeOther, cmdCreate_Click, {ETAP_1, CHOSEN, XEX}},
-    {"TestBuild", nothing, cmdTest_Click, {XEX}},
-    {"Exit", nothing, Form_QueryUnload, {ETAP_1, LINIE}},
+    {"TestBuild", [] {}, cmdTest_Click, {XEX}},
+    {"Exit", [] {}, Form_QueryUnload, {ETAP_1, LINIE}},
     {"ExitAfterAnEarlyEndOfStart", removeTileSets, Form_QueryUnload, {ETAP_1, LINIE}},
 };
 

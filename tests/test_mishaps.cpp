@@ -1,5 +1,5 @@
 // Mishaps of user and machine, and what can be had back after them.
-#include "desk_in_memory.h"
+#include "memory_disk.h"
 #include "output/obraz_gry.h"
 #include "stage/archiwum.h"
 #include "stage/etap.h"
