@@ -189,6 +189,7 @@ TEST_F(Stage, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
         EXPECT_EQ(said(), row.message);
         text(row.box) = before;
     }
+    EXPECT_EQ(e.okno.optEtapNR, 0);
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), lines);
     EXPECT_EQ(readFile(etap(1)).size(), ETAP_SIZE_BYTES);
     EXPECT_FALSE(fs::exists(root / "plik") || fs::exists(base / "PLIKI/TEST.XEX"));

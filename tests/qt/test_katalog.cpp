@@ -37,14 +37,11 @@ protected:
         QStringList rows;
         for (const QWidget* control : controls) {
             const QRect r = control->geometry();
-            rows += QString("%1 in %2 at %3,%4 of %5x%6%7%8%9 / ")
-                        .arg(control->objectName(), control->parentWidget()->objectName())
-                        .arg(r.x())
-                        .arg(r.y())
-                        .arg(r.width())
-                        .arg(r.height())
-                        .arg(control->isEnabled() ? "" : ", disabled", control->isVisible() ? "" : ", hidden",
-                             control->font().bold() ? ", bold" : "");
+            rows += control->objectName() + " in " + control->parentWidget()->objectName() +
+                    QString(" at %1,%2 of %3x%4").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
+            rows.back() += control->isEnabled() ? "" : ", disabled";
+            rows.back() += control->isVisible() ? "" : ", hidden";
+            rows.back() += control->font().bold() ? ", bold / " : " / ";
             for (const char* property : {"title", "text", "toolTip", "alignment"})
                 rows.back() += control->property(property).toString() + " / ";
             if (control->testAttribute(Qt::WA_SetPalette))

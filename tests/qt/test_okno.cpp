@@ -43,19 +43,6 @@ TEST_F(MainWindow, TextsAreTypedSelectedAndBroughtToTheirForm) {
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA")[0], 'X') << "closing leaves the box";
 }
 
-TEST_F(MainWindow, TextThatABoxCannotShowSurvives) {
-    Bajty title(60, 'A');
-    for (std::size_t i = 0; i < 33; ++i)
-        title[i] = static_cast<Bajt>(i);
-    title[40] = 127, title[41] = 0x81, title[42] = 0xAD;
-    writeFile(base / "PLIKI/DP1.DTA", title);
-    open();
-    EXPECT_EQ(box("txtAutorGry(1)")->text().size(), 20);
-    EXPECT_EQ(box("txtAutorGry(0)")->text().left(2), QString::fromUtf8("␀␁"));
-    okno->close();
-    EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), title);
-}
-
 TEST_F(MainWindow, FiguresAndBoxesAnswerClicks) {
     Bajty image = sampleEtap(1);
     image[uklad::OSTATNI] = 2;

@@ -27,6 +27,7 @@ protected:
         open();
         board = find("imgPG");
     }
+    QImage shot(const QString& name) { return find(name)->grab().toImage(); }
     void press(int cell, Qt::MouseButton button = Qt::LeftButton) {
         pointer(board, QEvent::MouseButtonPress, centreOf(cell), button, button);
     }
@@ -96,7 +97,7 @@ TEST_F(Painting, ButtonsAndTools) {
     moveTo(centreOf(40) - QPoint(16, 0), Qt::NoButton); // beside the board
     moveTo(centreOf(0) - QPoint(0, 16), Qt::NoButton);
     EXPECT_EQ(e.okno.obrys, 92);
-    const QRgb corner = board->grab().toImage().pixel(centreOf(92) - QPoint(8, 8));
+    const QRgb corner = shot("imgPG").pixel(centreOf(92) - QPoint(8, 8));
     EXPECT_TRUE(corner == qRgb(255, 255, 255) || corner == qRgb(0, 0, 0)); // its line is there
 }
 
@@ -108,32 +109,30 @@ TEST_F(Painting, OnlyWhatChangedIsRepainted) {
                 region += static_cast<QPaintEvent*>(event)->region();
             return false;
         }
+        QRegion painted() {
+            QTest::qWait(50);
+            return std::exchange(region, {});
+        }
     } ofBoard, ofPicker;
-    QTest::qWait(50);
     board->installEventFilter(&ofBoard);
+    find("imgZnak")->installEventFilter(&ofPicker);
+    (void)ofBoard.painted();
     clickSlot(7);
     press(10 * 40 + 10);
-    QTest::qWait(50);
-    EXPECT_EQ(ofBoard.region, QRegion(160, 160, 16, 16));
-
+    EXPECT_EQ(ofBoard.painted(), QRegion(160, 160, 16, 16));
     moveOver(56);
-    QTest::qWait(50);
-    find("imgZnak")->installEventFilter(&ofPicker);
+    (void)ofPicker.painted();
     e.okno.imgZnak[56].enabled = !e.okno.imgZnak[56].enabled; // while the pointer rests on it
     okno->showRecord();
-    QTest::qWait(50);
-    EXPECT_EQ(ofPicker.region, QRegion(rectOf(56).adjusted(-1, -1, 1, 1)) & find("imgZnak")->rect());
-    ofPicker.region = {};
+    EXPECT_EQ(ofPicker.painted(), QRegion(rectOf(56).adjusted(-1, -1, 1, 1)) & find("imgZnak")->rect());
     moveOver(16);
-    QTest::qWait(50);
-    EXPECT_TRUE(ofPicker.region.contains(rectOf(16)) && ofPicker.region.contains(rectOf(56)));
+    const QRegion both = ofPicker.painted();
+    EXPECT_TRUE(both.contains(rectOf(16)) && both.contains(rectOf(56)));
 }
 
 TEST_F(Painting, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
     QWidget* picker = find("imgZnak");
-    const auto frameOf = [&](int slot) { // the colour of its border
-        return picker->grab().toImage().pixel(rectOf(slot).topLeft());
-    };
+    const auto frameOf = [&](int slot) { return shot("imgZnak").pixel(rectOf(slot).topLeft()); };
     constexpr QRgb NONE = qRgb(0, 0, 0), IN_BUFOR = qRgb(255, 224, 64), UNDER_POINTER = qRgb(255, 255, 255);
     e.okno.imgZnak[9].enabled = false;
     clickSlot(14);
@@ -159,20 +158,18 @@ TEST_F(Painting, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
 }
 
 TEST_F(Painting, AFrameLiesOnTheBlackLinesAroundATile) {
-    QWidget* picker = find("imgZnak");
-    const auto shot = [&] { return picker->grab().toImage(); };
     const auto emptyBufor = [&] {
         e.okno.imgBufor.znak = znak(62); // a hidden tile
         okno->showRecord();
     };
     emptyBufor();
-    const QImage before = shot();
+    const QImage before = shot("imgZnak");
     const std::map<int, QSize> rows{{0, {33, 33}}, {14, {33, 33}}, {22, {34, 33}}, {12, {33, 34}}, {57, {33, 34}}};
     for (auto [slot, size] : rows)
         for (bool inBufor : {false, true}) {
             emptyBufor();
             inBufor ? clickSlot(slot) : moveOver(slot);
-            const QImage after = shot();
+            const QImage after = shot("imgZnak");
             const QRect frame(rectOf(slot).topLeft(), size), picture = frame.adjusted(1, 1, -1, -1);
             const QRgb colour = inBufor ? qRgb(255, 224, 64) : qRgb(255, 255, 255), line = qRgb(0, 0, 0);
             int wrong = 0;
@@ -212,18 +209,17 @@ TEST_F(Painting, PicturesAreTheStripsPixels) {
         const auto stripPixel = [&](Znak z, int x, int y) {
             return QRgb(patternPixel(shadeOf(swiat), kod(z) < 64 ? kod(z) : kod(z) - 64, x, y));
         };
-        const QImage shot = board->grab().toImage(), picker = find("imgZnak")->grab().toImage();
+        const QImage cells = shot("imgPG"), picker = shot("imgZnak");
         int wrong = 0;
-        for (int y = 0; y < shot.height(); ++y)
-            for (int x = 0; x < shot.width(); ++x)
+        for (int y = 0; y < cells.height(); ++y)
+            for (int x = 0; x < cells.width(); ++x)
                 if (const Znak z = cellOf(y / 16 * 40 + x / 16); isTile(z))
-                    wrong += shot.pixel(x, y) != stripPixel(z, x % 16 * 2, y % 16 * 2);
+                    wrong += cells.pixel(x, y) != stripPixel(z, x % 16 * 2, y % 16 * 2);
         for (int slot : WYBOR_ORDER)
             wrong += picker.pixel(rectOf(slot).topLeft() + QPoint(11, 21)) != stripPixel(znak(slot), 10, 20);
         for (auto [icon, slot] : {std::pair(0, 63), {1, 9}, {2, 12}, {4, 13}, {5, 10}, {6, 14}, {7, 2}, {8, 55}})
-            wrong +=
-                find(QString("imgInfo(%1)").arg(icon))->grab().toImage().pixel(5, 6) != stripPixel(znak(slot), 10, 12);
-        wrong += find("imgBufor")->grab().toImage().pixel(7, 8) != stripPixel(NIC, 6, 7);
+            wrong += shot(QString("imgInfo(%1)").arg(icon)).pixel(5, 6) != stripPixel(znak(slot), 10, 12);
+        wrong += shot("imgBufor").pixel(7, 8) != stripPixel(NIC, 6, 7);
         EXPECT_EQ(wrong, 0) << "world " << swiat;
     }
 }

@@ -123,19 +123,17 @@ TEST_F(DialogWindows, KeysAndIconOfEveryMessage) {
 
 TEST_F(DialogWindows, WhatBlocksTheWindowFirstShowsWhatWasDone) {
     open();
-    const auto expectShown = [this](const char* caption) {
-        e.okno.caption = caption;
-        whenAsked<QDialog>([this, caption](QDialog* dialog) {
-            EXPECT_EQ(okno->windowTitle(), caption);
+    const auto expectShown = [this](auto&& hook, const auto& question) {
+        e.okno.caption += "!";
+        whenAsked<QDialog>([this](QDialog* dialog) {
+            EXPECT_EQ(okno->windowTitle(), QString::fromStdString(e.okno.caption));
             dialog->reject();
         });
+        EXPECT_FALSE(hook(question));
     };
-    expectShown("1");
-    (void)e.haki.messageBox({"", "", Ikona::Critical, Przyciski::Ok});
-    expectShown("2");
-    EXPECT_FALSE(e.haki.openDialog({"", root, "Pliki|*.*"}));
-    expectShown("3");
-    EXPECT_FALSE(e.haki.saveDialog({"", root, "Pliki|*.*"}));
+    expectShown(e.haki.messageBox, Komunikat{"", "", Ikona::Critical, Przyciski::YesNo});
+    expectShown(e.haki.openDialog, DialogPliku{"", root, "Pliki|*.*"});
+    expectShown(e.haki.saveDialog, DialogPliku{"", root, "Pliki|*.*"});
 }
 
 TEST_F(DialogWindows, EnterPressesTheButtonInFocus) {
