@@ -94,12 +94,12 @@ std::array<int, 4> pixelCounts(const Shape& shape) {
 TEST(TileSets, WhatHurtsIsDrawnInTheDressAndWhatIsSafeHasNoneOfIt) {
     for (const std::string name : TILE_SETS) {
         const Bajty znaki = readData("OBIEKTY/ORN_EXPORT/" + name);
-        for (const auto [first, last] : {std::pair{2, 2}, {18, 33}, {35, 48}, {54, 54}})
+        for (auto [first, last] : {std::pair{2, 2}, {18, 33}, {35, 48}, {54, 54}})
             for (int code = first; code <= last; ++code) {
                 const auto [tlo, grunt, twarz, ubranie] = pixelCounts(shapeOf(znaki, code));
                 EXPECT_GT(ubranie, std::max(grunt, twarz)) << name << " " << NAZWY_ZNAKOW[code];
             }
-        for (const auto [first, last] : {std::pair{0, 1}, {3, 10}, {12, 17}, {34, 34}, {55, 57}})
+        for (auto [first, last] : {std::pair{0, 1}, {3, 10}, {12, 17}, {34, 34}, {55, 57}})
             for (int code = first; code <= last; ++code)
                 EXPECT_EQ(pixelCounts(shapeOf(znaki, code))[3], 0) << name << " " << NAZWY_ZNAKOW[code];
     }
@@ -132,12 +132,13 @@ TEST(BuiltColours, FiguresStandOutFromTheBoardAndDangerFromAllElse) {
             return std::abs(kolor(a) % 16 - kolor(b) % 16);
         };
         constexpr std::size_t GRUNT = 0, TWARZ = 1, UBRANIE = 2, TLO = 4;
-        for (const auto [a, b] :
+        for (auto [a, b] :
              {std::pair{GRUNT, TLO}, {TWARZ, TLO}, {UBRANIE, TLO}, {TWARZ, GRUNT}, {UBRANIE, GRUNT}, {UBRANIE, TWARZ}})
             EXPECT_GE(luminanceApart(a, b), 4) << number << ": " << a << " and " << b;
         const int danger = kolor(UBRANIE) / 16, face = kolor(TWARZ) / 16, apart = std::abs(danger - face);
-        if (danger != NO_HUE && face != NO_HUE)
+        if (danger != NO_HUE && face != NO_HUE) {
             EXPECT_GE(std::min(apart, HUES - apart), 4) << number;
+        }
         EXPECT_NE(danger, NO_HUE) << number;
     }
 }
