@@ -1,4 +1,9 @@
 #include "przeglad/sprawdz.h"
+#include "przeglad_qt/okno.h"
+#include "qt/aplikacja.h"
+#include "qt/czcionki.h"
+#include "qt/ekran.h"
+#include "qt/program.h"
 #include "system/proces.h"
 
 #include <cstdio>
@@ -8,6 +13,7 @@
 namespace {
 
 constexpr int USAGE = 2;
+constexpr int FONT_PIXELS = 13; // the window has room for more than the editor
 
 int check(int argc, char** argv) {
     const auto source = argc > 2 ? std::filesystem::path(argv[2]) : dorva::ownExecutable().parent_path();
@@ -19,6 +25,18 @@ int check(int argc, char** argv) {
 int main(int argc, char** argv) {
     if (argc > 1 && argv[1] == std::string_view("--sprawdz") && argc <= 3)
         return check(argc, argv);
-    std::fputs("przeglad --sprawdz [PLIK]\n", stderr);
-    return USAGE;
+    if (argc > 1) {
+        std::fputs("przeglad --sprawdz [PLIK]\n", stderr);
+        return USAGE;
+    }
+    const auto application = dorva::makeApplication(argv, "Przegląd etapów");
+    QFont font = dorva::fontOkna();
+    font.setPixelSize(FONT_PIXELS);
+    QApplication::setFont(font);
+    const auto folder = dorva::ownFolder();
+    if (!dorva::prepareFolder(folder))
+        return EXIT_FAILURE;
+    dorva::OknoPrzegladu okno(folder, DORVA_VERSION);
+    dorva::showCentred(okno);
+    return QApplication::exec();
 }

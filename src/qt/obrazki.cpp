@@ -66,7 +66,7 @@ void Obrazki::followMagazyn() {
 ObrazekPtr Obrazki::prepare(ObrazRef ref) const {
     const QImage image = imageOf(frmZestawy_, ref);
     return std::make_shared<const Obrazek>(
-        Obrazek{image, image.scaled(KRATKA_SIDE, KRATKA_SIDE, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)});
+        Obrazek{image, image.scaled(maly_, maly_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)});
 }
 
 } // namespace dorva

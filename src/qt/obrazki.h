@@ -12,10 +12,13 @@ namespace dorva {
 
 inline constexpr int KRATKA_SIDE = 16; // a board cell or an icon, in logical pixels
 
+// The grey behind boards and pictures.
+inline constexpr unsigned SZARY = 0xFF808080;
+
 // A picture at its two sizes.
 struct Obrazek {
     QImage duzy; // 32 x 32
-    QImage maly; // scaled once to 16 x 16
+    QImage maly; // scaled once, to 16 x 16 in the editor
 };
 
 // Two pictures are the same if their pointers are.
@@ -23,7 +26,7 @@ using ObrazekPtr = std::shared_ptr<const Obrazek>;
 
 class Obrazki {
 public:
-    explicit Obrazki(const Magazyn& frmZestawy) : frmZestawy_(frmZestawy) {}
+    explicit Obrazki(const Magazyn& frmZestawy, int maly = KRATKA_SIDE) : frmZestawy_(frmZestawy), maly_(maly) {}
 
     // Forgets the pictures if a strip was loaded since they were made.
     void followMagazyn();
@@ -43,6 +46,7 @@ private:
     [[nodiscard]] ObrazekPtr prepare(ObrazRef) const;
 
     const Magazyn& frmZestawy_;
+    int maly_; // side of the small pictures
     unsigned wersja_ = 0;
     std::array<ObrazekPtr, (SWIATY_COUNT + 1) * CODES> gotowe_; // the default state comes first
 };

@@ -13,9 +13,6 @@
 
 namespace dorva {
 
-// The grey behind boards and pictures.
-inline constexpr unsigned SZARY = 0xFF808080;
-
 // The board. All its cells are one widget, which repaints only those that changed.
 class PlanszaWidget : public QWidget {
 public:

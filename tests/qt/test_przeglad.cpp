@@ -1,0 +1,242 @@
+// The window of the overview.
+#include "desk.h"
+#include "przeglad_qt/arkusz.h"
+#include "przeglad_qt/okno.h"
+#include "stage/archiwum.h"
+#include "system/kopie.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+
+namespace dorva::test {
+namespace {
+
+class OverviewWindow : public Desk {
+protected:
+    void SetUp() override {
+        Desk::SetUp();
+        przeglad = std::make_unique<OknoPrzegladu>(base, "1.0.2");
+        przeglad->show();
+        przeglad->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(przeglad.get()));
+        arkusz = przeglad->findChild<Arkusz*>();
+    }
+    void TearDown() override {
+        przeglad.reset();
+        Desk::TearDown();
+    }
+
+    const Gra& gra() { return static_cast<KartyModel*>(arkusz->model())->gra(); }
+    // The numbers under which the first stages were read.
+    std::string order(int count = 5) {
+        std::string numbers;
+        for (int i = 0; i < count; ++i)
+            numbers += std::to_string(gra().karty[i].numer) + " ";
+        return numbers;
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(arkusz, key, modifiers); }
+    void run(const QString& caption) {
+        for (QAction* action : przeglad->findChildren<QAction*>())
+            if (action->text().remove('&').startsWith(caption))
+                return action->trigger();
+        ADD_FAILURE() << "no action " << caption.toStdString();
+    }
+    // Drops the selected card at `part` of another one's width.
+    void dropCard(int from, int onto, double part) {
+        arkusz->select(from);
+        const QRect card = arkusz->visualRect(arkusz->model()->index(onto, 0));
+        QDropEvent event(QPointF(card.left() + part * card.width(), card.center().y()), Qt::MoveAction,
+                         arkusz->model()->mimeData({arkusz->currentIndex()}), Qt::LeftButton, {});
+        struct Otwarty : Arkusz { // Qt delivers a drop only after a drag of its own
+            using Arkusz::dropEvent;
+        };
+        (arkusz->*&Otwarty::dropEvent)(&event);
+    }
+    void dropFile(const fs::path& path) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path.string()))});
+        QDragEnterEvent enter(QPoint(400, 400), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(arkusz->viewport(), &enter);
+        QDropEvent event(QPointF(400, 400), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(arkusz->viewport(), &event);
+    }
+    // Answers a dialog: presses the button of that caption, types that name, or takes the picture of that row.
+    void answer(QDialog* dialog, const QString& with) {
+        if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
+            said += box->text();
+            for (QAbstractButton* button : box->buttons())
+                if (button->text().remove('&') == with)
+                    return button->click();
+        } else if (qobject_cast<QFileDialog*>(dialog)) {
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(with);
+            return dialog->accept();
+        } else if (auto* list = dialog->findChild<QListWidget*>()) {
+            said += QString::number(list->count());
+            list->setCurrentRow(with.toInt());
+            return dialog->accept();
+        }
+        ADD_FAILURE() << "no " << with.toStdString();
+        dialog->reject();
+    }
+    // Does something, and answers the dialogs that it opens, no more and no fewer.
+    void run(const std::function<void()>& what, QStringList expected) {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+                answer(dialog, expected.isEmpty() ? "an answer" : expected.takeFirst());
+        });
+        timer.start(1);
+        what();
+        QApplication::processEvents();
+        EXPECT_TRUE(expected.isEmpty()) << expected.join(' ').toStdString();
+    }
+    void run(const QString& caption, const QStringList& expected) {
+        run([&] { run(caption); }, expected);
+    }
+    static QString name(const fs::path& path) { return QString::fromStdString(path.string()); }
+    void keep(const fs::path& file, const Bajty& bytes, int minute, const char* ending = "") {
+        ASSERT_TRUE(keepCopy(SYSTEM_CALLS, file, bytes, Time(std::chrono::minutes(29000000 + minute)), ending));
+    }
+
+    std::unique_ptr<OknoPrzegladu> przeglad;
+    Arkusz* arkusz = nullptr;
+    QStringList said;
+};
+
+TEST_F(OverviewWindow, CardsAreArrangedByMouseAndKeysAndTakenBack) {
+    EXPECT_EQ(przeglad->windowTitle(), "Przegląd etapów [wersja 1.0.2][*]");
+    dropCard(0, 2, 0.5);
+    EXPECT_EQ(order(), "3 2 1 4 5 ");
+    dropCard(0, 2, 0.95);
+    EXPECT_EQ(order(), "2 1 3 4 5 ");
+    EXPECT_EQ(arkusz->place(), 2) << "the card stays selected";
+    dropCard(4, 1, 0.05);
+    EXPECT_EQ(order(), "2 5 1 3 4 ");
+    for (const auto& [onto, part] : {std::pair{1, 0.5}, {0, 0.95}, {2, 0.05}})
+        dropCard(1, onto, part);
+    EXPECT_EQ(order(), "2 5 1 3 4 ") << "that is its own place";
+
+    arkusz->select(0);
+    press(Qt::Key_Left, Qt::ControlModifier);
+    press(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(order(), "5 2 1 3 4 ");
+    press(Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(arkusz->place(), 1 + arkusz->columns());
+    press(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(order(), "5 2 1 3 4 ");
+    EXPECT_TRUE(przeglad->isWindowModified());
+    for (int i = 0; i < 6; ++i)
+        run("Cofnij");
+    EXPECT_EQ(order(), "1 2 3 4 5 ");
+    EXPECT_FALSE(przeglad->isWindowModified());
+    run("Ponów");
+    EXPECT_EQ(order(), "3 2 1 4 5 ");
+    run("Cofnij");
+}
+
+TEST_F(OverviewWindow, TheNextWarningIsAKeyAway) {
+    fs::remove(etap(9));
+    run("Odśwież");
+    arkusz->select(6);
+    press(Qt::Key_F8);
+    EXPECT_EQ(arkusz->place(), 7) << "the sample stages have no Dorva";
+    press(Qt::Key_F8);
+    EXPECT_EQ(przeglad->statusBar()->currentMessage(), "Etap 9: brak pliku DETAP.9");
+    EXPECT_EQ(arkusz->currentIndex().data(Qt::ToolTipRole).toString(), "brak pliku DETAP.9");
+    arkusz->select(31);
+    press(Qt::Key_F8);
+    EXPECT_EQ(arkusz->place(), 0);
+    EXPECT_FALSE(fs::exists(etap(9)));
+}
+
+TEST_F(OverviewWindow, AnEarlierVersionComesBackAndTheEditorLoadsIt) {
+    keep(etap(2), sampleEtap(20), 1);
+    keep(etap(2), sampleEtap(21), 2);
+    dropCard(0, 1, 0.5);
+    arkusz->select(0);
+    run("Wcześniejsze wersje", {"1"});
+    EXPECT_EQ(gra().karty[0].image, sampleEtap(20)) << "those of the number under which the card was read";
+    arkusz->select(5);
+    run("Wcześniejsze wersje", {"OK"});
+
+    fs::remove(etap(3));
+    run("Odśwież", {"Anuluj"});
+    EXPECT_EQ(gra().karty[0].image, sampleEtap(20));
+    run("Zapisz archiwum", {"Nie"});
+    run("Zapisz archiwum", {"Tak", name(root / "gra"), "OK"});
+    EXPECT_FALSE(przeglad->isWindowModified());
+    start();
+    chosen = root / "gra.dpa";
+    cmdLoadArch_Click(e);
+    EXPECT_EQ(readFile(etap(1)), sampleEtap(20));
+    EXPECT_EQ(readFile(etap(2)), sampleEtap(1));
+    EXPECT_EQ(readFile(etap(3)), sampleEtap(3)) << "read when the window opened";
+    run("Zapisz archiwum", {name(root / "gra"), "Anuluj"});
+    EXPECT_TRUE(said.back().startsWith("Plik już istnieje!")) << "what it says once isn't said again";
+}
+
+TEST_F(OverviewWindow, AWrongArchiveIsTakenBack) {
+    start();
+    writeFile(root / "obca.dpa", sampleArchiwum());
+    chosen = root / "obca.dpa";
+    cmdLoadArch_Click(e);
+    run("Odśwież");
+    EXPECT_EQ(gra().karty[0].image, sampleEtap(32));
+    run("Otwórz wcześniejszą grę", {"0"});
+    EXPECT_EQ(gra().karty[0].image, sampleEtap(1));
+    run("Zapisz archiwum", {name(root / "dobra.dpa"), "OK"});
+    chosen = root / "dobra.dpa";
+    cmdLoadArch_Click(e);
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        EXPECT_EQ(readFile(etap(number)), sampleEtap(number));
+    run("Otwórz etapy edytora");
+    run("Otwórz...", {name(root / "obca.dpa")});
+    EXPECT_EQ(gra().karty[0].image, sampleEtap(32));
+}
+
+TEST_F(OverviewWindow, AFileIsDroppedAndTheWorkingSetIsNeverWrittenTo) {
+    writeFile(root / "obca.dpa", sampleArchiwum());
+    writeFile(root / "zla.dpa", Bajty(5));
+    run([&] { dropFile(root / "obca.dpa"); }, {});
+    EXPECT_EQ(gra().karty[0].image, sampleEtap(32));
+    run([&] { dropFile(root / "zla.dpa"); }, {"OK"});
+    EXPECT_EQ(gra().karty[0].image, sampleEtap(32));
+
+    for (const fs::path& path : {etap(1), base / "PLIKI/nowy.dpa"})
+        run("Zapisz archiwum", {name(path), "OK"});
+    run("Zapisz obraz", {name(etap(1)), "OK"});
+    EXPECT_EQ(readFile(etap(1)), sampleEtap(1));
+    EXPECT_FALSE(fs::exists(base / "PLIKI/nowy.dpa"));
+    run("Zapisz obraz", {name(root / "etapy")});
+    const QImage png(name(root / "etapy.png"));
+    EXPECT_GE(png.width(), 4 * PLANSZA_WIDTH);
+    EXPECT_GE(png.height(), 8 * PLANSZA_HEIGHT);
+}
+
+TEST_F(OverviewWindow, ClosingAsksAboutWhatIsNotSaved) {
+    dropCard(0, 1, 0.5);
+    run("Zakończ", {"Anuluj"});
+    EXPECT_TRUE(przeglad->isVisible());
+    run("Zakończ", {"Zapisz archiwum...", "Nie"});
+    EXPECT_TRUE(przeglad->isVisible());
+    run("Zakończ", {"Zapisz archiwum...", "Tak", name(root / "gra.dpa"), "OK"});
+    EXPECT_FALSE(przeglad->isVisible());
+    EXPECT_EQ(readFile(root / "gra.dpa").size(), ARCHIWUM_SIZE_BYTES);
+    przeglad->show();
+    dropCard(0, 1, 0.5);
+    run("Zakończ", {"Nie zapisuj"});
+    EXPECT_FALSE(przeglad->isVisible());
+}
+
+} // namespace
+} // namespace dorva::test
