@@ -1,6 +1,7 @@
 #!/bin/sh
-# Uruchamia Planszownik, a jeśli się nie da, mówi dlaczego.
+# start.sh [PROGRAM]: uruchamia Planszownik albo przegląd etapów (przeglad), a jeśli się nie da, mówi dlaczego.
 cd "$(dirname "$0")" || exit 1
+program=${1-planszownik}
 
 odmow() { # shows a message even if no terminal is open, in letters that every X font has
     echo "$1" >&2
@@ -13,11 +14,11 @@ odmow() { # shows a message even if no terminal is open, in letters that every X
     exit 1
 }
 
-[ -f planszownik ] || odmow "W folderze $PWD brakuje pliku planszownik. Rozpakuj jeszcze raz plik .tar.gz."
-[ -x planszownik ] || chmod +x planszownik 2>/dev/null # a copy from a stick may have lost the right
-[ -x planszownik ] || odmow "Folder $PWD jest bez prawa wykonywania (noexec). Skopiuj go do swojego folderu domowego."
+[ -f "$program" ] || odmow "W folderze $PWD brakuje pliku $program. Rozpakuj jeszcze raz plik .tar.gz."
+[ -x "$program" ] || chmod +x "$program" 2>/dev/null # a copy from a stick may have lost the right
+[ -x "$program" ] || odmow "Folder $PWD jest bez prawa wykonywania (noexec). Skopiuj go do swojego folderu domowego."
 [ -w . ] || odmow "Brak prawa do zapisu w folderze $PWD. Skopiuj go do swojego folderu domowego."
-brak=$(ldd ./planszownik 2>/dev/null | grep 'not found')
+brak=$(ldd "./$program" 2>/dev/null | grep 'not found')
 [ -z "$brak" ] || odmow "Brakuje bibliotek Qt 6. W Debianie: sudo apt install libqt6widgets6
 $brak"
-exec ./planszownik
+exec "./$program"

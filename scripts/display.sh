@@ -40,13 +40,14 @@ open_display() { # open_display WIDTH HEIGHT
     sleep 1
 }
 
-# Starts the editor, and sets $editor to its process and $window to its window. A search ends with an error if another
+# Starts the editor, or the program whose window has the title $title, and sets $editor to its process and $window to
+# its window. A search ends with an error if another
 # window closes in the meantime.
 start() { # start COMMAND...
     "$@" &
     editor=$!
     for _ in $(seq 100); do
-        window=$(xdotool search --onlyvisible --name '^Dorva Planszownik \[' 2>/dev/null | head -n 1) || true
+        window=$(xdotool search --onlyvisible --name "^${title-Dorva Planszownik} \[" 2>/dev/null | head -n 1) || true
         [ -z "$window" ] || break
         sleep 0.2
     done

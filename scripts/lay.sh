@@ -2,7 +2,7 @@
 # lay.sh BUILD [FOLDER]: copies what a build has made into the program folder, planszownik/ in the checkout.
 # Title lines and stages belong to the user: they are copied only if they are missing, the stages only as a whole.
 # Any other file is replaced if the build's is newer and differs; the old one is kept under a number (NAME.~1~), except
-# for the executable. Symbolic links are left alone. A copy gets its name last, so an interrupted run leaves no half.
+# for the executables. Symbolic links are left alone. A copy gets its name last, so an interrupted run leaves no half.
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -26,5 +26,7 @@ for tree in data "$build/data"; do
         if missing "$name" || newer "$tree/$name" "$name"; then put "$tree/$name" "$name" --backup=numbered; fi
     done
 done
-program=$build/src/qt/planszownik
-[ ! -x "$program" ] || [ -L "$folder/planszownik" ] || cmp -s "$program" "$folder/planszownik" || put "$program" planszownik
+for program in src/qt/planszownik src/przeglad_qt/przeglad; do
+    from=$build/$program name=${program##*/}
+    [ ! -x "$from" ] || [ -L "$folder/$name" ] || cmp -s "$from" "$folder/$name" || put "$from" "$name"
+done

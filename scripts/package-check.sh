@@ -13,7 +13,7 @@ export XDG_DATA_HOME="$room/data"
 
 unpack() { case $archive in *.zip) unzip -qo "$archive" -d "$place" ;; *) tar xzf "$archive" -C "$place" ;; esac; }
 run() { # as a user does
-    case $archive in *.zip) start wine "$folder/planszownik.exe" ;; *) start sh "$folder/start.sh" ;; esac
+    case $archive in *.zip) start wine "$folder/${1-planszownik}.exe" ;; *) start sh "$folder/start.sh" "$@" ;; esac
 }
 all() { # all COMMAND: for everything that comes in wzorzec/
     for name in ETAPY PLIKI/DP1.DTA PLIKI/DP3.BAT PLIKI/PALETY/Bitwor.act OBIEKTY/ORN_EXPORT; do "$1" $name || return; done
@@ -31,9 +31,13 @@ expect "the game template does" [ -f "$folder/PLIKI/DP2.DTA" ]
 
 mkdir "$folder/ETAPY.nowe" # left by a first start that was interrupted
 cp "$folder/wzorzec/ETAPY/DETAP.1" "$folder/ETAPY.nowe/DETAP.33"
+title='Przegląd etapów' run przeglad
+close
+expect "the overview lays all, and closing it changes nothing" all fresh
+rm -r "$folder/ETAPY" "$folder/PLIKI/DP1.DTA" "$folder/PLIKI/DP3.BAT" "$folder/PLIKI/PALETY" "$folder/OBIEKTY"
 run
 close
-expect "all is laid, and starting and closing changes nothing" all fresh
+expect "so does the editor" all fresh
 expect "32 stages" [ "$(find "$folder/ETAPY" -name 'DETAP.*' -size 931c | wc -l)" = 32 ]
 
 run
@@ -54,8 +58,13 @@ expect "a removed palette comes back" fresh PLIKI/PALETY/Bitwor.act
 expect "nothing is left over" [ -z "$(find "$folder" -name '*.nowe' -o -name '*.dp-tmp' -o -name kolej)" ]
 
 if [ -f "$folder/menu.sh" ]; then
-    entry=$(sh "$folder/menu.sh")
-    expect "the menu entry names the program's place" grep -qF "Exec=\"$folder/start.sh\"" "$entry"
-    ! command -v desktop-file-validate >/dev/null || expect "and is a valid entry" desktop-file-validate "$entry"
+    sh "$folder/menu.sh" >"$room/entries"
+    while read -r entry; do
+        program=${entry##*/dorva-} program=${program%.desktop}
+        expect "the menu entry $program names its place" grep -qxF "Exec=\"$folder/start.sh\" $program" "$entry"
+        ! command -v desktop-file-validate >/dev/null || expect "and is a valid entry" desktop-file-validate "$entry"
+    done <"$room/entries"
+    expect "both programs have one" [ "$(wc -l <"$room/entries")" = 2 ]
+    expect "the overview finds what was removed" [ "$("$folder/przeglad" --sprawdz)" = '3: brak pliku DETAP.3' ]
 fi
 echo "package-check: all well"

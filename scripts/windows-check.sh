@@ -27,7 +27,9 @@ all_libraries_come() {
     done
 }
 expect "every library is the system's or in the zip" all_libraries_come
-expect "no console" eval "x86_64-w64-mingw32-objdump -p '$folder/planszownik.exe' | grep -q 'Windows GUI'"
+for program in planszownik przeglad; do
+    expect "$program: no console" eval "x86_64-w64-mingw32-objdump -p '$folder/$program.exe' | grep -q 'Windows GUI'"
+done
 
 open_display 1920 1360 # room for twice the size
 setxkbmap pl

@@ -6,12 +6,13 @@ room=$(mktemp -d)
 trap 'rm -rf "$room"' EXIT
 lay=$(dirname "$0")/../scripts/lay.sh built=$room/build/data folder=$room/folder
 build() { # build CONTENT SECONDS_AFTER_NOW
-    for file in ETAPY/DETAP.1 ETAPY/DETAP.2 PLIKI/DP1.DTA PLIKI/DP2.DTA OBIEKTY/ORN_EXPORT/A.ND ../src/qt/planszownik; do
+    for file in ETAPY/DETAP.1 ETAPY/DETAP.2 PLIKI/DP1.DTA PLIKI/DP2.DTA OBIEKTY/ORN_EXPORT/A.ND ../src/qt/planszownik \
+        ../src/przeglad_qt/przeglad; do
         mkdir -p "$(dirname "$built/$file")"
         echo "$1" >"$built/$file"
         touch -d "$2 seconds" "$built/$file"
     done
-    chmod +x "$built/../src/qt/planszownik"
+    chmod +x "$built/../src/qt/planszownik" "$built/../src/przeglad_qt/przeglad"
 }
 expect() { # expect NAME CONTENT
     is=$(cat "$folder/$1" 2>/dev/null) || is=missing
@@ -22,7 +23,7 @@ build old -20
 mkdir -p "$folder/ETAPY.nowe" "$folder/PLIKI" # a laying that broke off
 echo half >"$folder/ETAPY.nowe/DETAP.3"
 "$lay" "$room/build" "$folder"
-for file in ETAPY/DETAP.1 ETAPY/DETAP.2 PLIKI/DP1.DTA PLIKI/DP2.DTA OBIEKTY/ORN_EXPORT/A.ND planszownik; do
+for file in ETAPY/DETAP.1 ETAPY/DETAP.2 PLIKI/DP1.DTA PLIKI/DP2.DTA OBIEKTY/ORN_EXPORT/A.ND planszownik przeglad; do
     expect $file old
 done
 expect ETAPY/DETAP.3 missing
@@ -44,5 +45,6 @@ expect PLIKI/DP2.DTA.~1~ mine
 expect PLIKI/DP2.DTA.~2~ missing
 expect OBIEKTY/ORN_EXPORT/A.ND old # behind the link
 expect planszownik new
+expect przeglad new
 expect planszownik.~1~ missing
 [ -z "$(find "$folder" -name '*.nowe')" ]
