@@ -1,6 +1,9 @@
-// The window at work: a stroke until its repaint has finished, and a change to another world. Each benchmark X has a
+// The window at work: a stroke until its repaint has finished, and a change to another world; and the boards of the
+// overview. Each benchmark X has a
 // baseline XPlain, the barest widget that does the same. DORVA_DATA is the built data tree.
 #include "edytor.h"
+#include "przeglad/zrodla.h"
+#include "przeglad_qt/rysownik.h"
 #include "qt/aplikacja.h"
 #include "qt/okno_glowne.h"
 #include "qt/widoki_znakow.h"
@@ -134,6 +137,35 @@ void BM_OknoSwiat(benchmark::State& state) {
     });
 }
 BENCHMARK(BM_OknoSwiat)->UseManualTime();
+
+// The 32 boards of the overview, each composed anew.
+constexpr int KRATKA_ARKUSZA = 8;
+
+void BM_PlanszeArkuszaPlain(benchmark::State& state) {
+    QImage tile(KRATKA_ARKUSZA, KRATKA_ARKUSZA, QImage::Format_ARGB32_Premultiplied);
+    tile.fill(Qt::darkGreen);
+    measure(state, [&](int) {
+        for (int n = 0; n < dorva::ETAPY_COUNT; ++n) {
+            QImage board(BOARD / 2, QImage::Format_RGB32);
+            QPainter painter(&board);
+            for (int cell = 0; cell < dorva::PLANSZA_CELLS; ++cell)
+                painter.drawImage(cell % dorva::PLANSZA_COLUMNS * KRATKA_ARKUSZA,
+                                  cell / dorva::PLANSZA_COLUMNS * KRATKA_ARKUSZA, tile);
+        }
+    });
+}
+BENCHMARK(BM_PlanszeArkuszaPlain)->UseManualTime();
+
+void BM_PlanszeArkusza(benchmark::State& state) {
+    const OknoPomiaru s; // loads the tile sets
+    const dorva::Gra gra = dorva::readZestaw(dorva::SYSTEM_CALLS, DORVA_DATA);
+    dorva::Rysownik rysownik(s.edytor.frmZestawy);
+    measure(state, [&](int) {
+        for (const dorva::Karta& karta : gra.karty)
+            benchmark::DoNotOptimize(rysownik.plansza(karta.image, KRATKA_ARKUSZA));
+    });
+}
+BENCHMARK(BM_PlanszeArkusza)->UseManualTime();
 
 } // namespace
 

@@ -1,9 +1,10 @@
-// Start-up until the first frame is painted: the editor with its whole working folder, a bare window of the same size,
-// and such a window with one word, since the first letter loads the whole font system. Each run is a process of its
-// own; the three take turns.
+// Start-up until the first frame is painted: the editor with its whole working folder, the overview of it, a bare
+// window of the editor's size, and such a window with one word, since the first letter loads the whole font system.
+// Each run is a process of its own; the four take turns.
 //
 //     dorva_bench_start FOLDER        FOLDER is a program folder, for example planszownik/
 #include "shell/start.h"
+#include "przeglad_qt/okno.h"
 #include "qt/aplikacja.h"
 #include "qt/okno_glowne.h"
 
@@ -42,6 +43,16 @@ void runEditor(int argc, char** argv, const std::filesystem::path& folder) {
     dorva::OknoGlowne okno(edytor);
     dorva::Form_Load(edytor, folder, "0.0.0");
     okno.showRecord();
+    FirstFrame firstFrame;
+    okno.installEventFilter(&firstFrame);
+    okno.show();
+    QApplication::exec();
+}
+
+void runPrzeglad(int argc, char** argv, const std::filesystem::path& folder) {
+    QApplication application(argc, argv);
+    dorva::setUpApplication(application);
+    dorva::OknoPrzegladu okno(folder, "0.0.0");
     FirstFrame firstFrame;
     okno.installEventFilter(&firstFrame);
     okno.show();
@@ -99,16 +110,19 @@ int main(int argc, char** argv) {
         const std::string_view mode = argv[1];
         if (mode == "editor")
             runEditor(argc, argv, std::filesystem::absolute(argv[2]));
+        else if (mode == "przeglad")
+            runPrzeglad(argc, argv, std::filesystem::absolute(argv[2]));
         else
             runBare(argc, argv, mode == "text" ? "Dorva" : nullptr);
         return 1;
     }
     constexpr int RUNS = 21;
-    std::vector<Figures> editor, bare, text;
+    std::vector<Figures> editor, bare, text, przeglad;
     for (int run = 0; run < RUNS; ++run) {
         bare.push_back(measure(argv[0], "bare", argv[1]));
         text.push_back(measure(argv[0], "text", argv[1]));
         editor.push_back(measure(argv[0], "editor", argv[1]));
+        przeglad.push_back(measure(argv[0], "przeglad", argv[1]));
     }
     const double ms = median(editor, &Figures::milliseconds), bareMs = median(bare, &Figures::milliseconds);
     const double textMs = median(text, &Figures::milliseconds);
@@ -116,6 +130,8 @@ int main(int argc, char** argv) {
     std::printf("start-up to first frame: %.1f ms, bare window %.1f ms, ratio %.2f\n", ms, bareMs, ms / bareMs);
     std::printf("a bare window with one word: %.1f ms, ratio %.2f; the editor beside it %.2f\n", textMs,
                 textMs / bareMs, ms / textMs);
+    const double przegladMs = median(przeglad, &Figures::milliseconds);
+    std::printf("the overview: %.1f ms, beside the editor %.2f; aim: at most 1.5\n", przegladMs, przegladMs / ms);
     std::printf("peak memory: %.1f MiB, bare window %.1f MiB, %.1f MiB more\n", kb / 1024, bareKb / 1024,
                 (kb - bareKb) / 1024);
     return 0;
