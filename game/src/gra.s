@@ -3,7 +3,7 @@
 .include "reguly.inc"
 .include "muzyka.inc"
 .export graj, pierwszy_etap, pytanie, pauza, klawisz_muzyki
-.importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat, po_przeskoku
+.importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
 .import pokaz_plansze, rysuj_nakladke, mrugnij_nakladka, dojdz, otworz_wyjscie, blysnij, czekaj_klatke, czekaj_klatki
@@ -148,10 +148,8 @@ graj_etap:
         sta spust
         jsr takt_dorvy
         jsr rysuj_nakladke              ; before the beam gets to the board; the other tiles may come later
-        lda po_przeskoku                ; a leap takes most of a frame
-        bne :+
         jsr ozyw_znaki
-:       jsr takt_innych
+        jsr takt_innych
         lda otwarte
         beq :+
         jsr otworz_wyjscie

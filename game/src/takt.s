@@ -10,7 +10,7 @@
 .exportzp maszyna_stoi, pochodnia, otwarte, po_przeskoku
 .importzp kolej, dorva, ziarno, glebokosc
 .import plansza, pod, stan, zapach, dorva_inv, punkty
-.import dorva_takt, podstaw_dorve, policz_wspolrzedne, otworz, ruszaj, nowa_kolej
+.import dorva_takt, podstaw_dorve, policz_wspolrzedne, spisz_magie, otworz, ruszaj, nowa_kolej
 
 ZYCIA_NA_START = 3
 CENA_BAGNA = 15                         ; what a try begun anew costs for each step that she has sunk
@@ -29,7 +29,7 @@ brak_masek: .res 1      ; masks still to be taken
 maszyna_stoi: .res 1
 pochodnia: .res 1
 otwarte: .res 1
-po_przeskoku: .res 1    ; this tick's time has been used up by a leap
+po_przeskoku: .res 1    ; she has leapt in this tick
 numer:  .res 1
 przegladane: .res 2     ; the cell that reguly_start looks at, 0..799
 adres:  .res 2
@@ -146,6 +146,7 @@ reguly_start:
         sta ziarno+1
         jsr oznacz_brzeg
         jsr spisz_plansze
+        jsr spisz_magie
         lda dorva
         ora dorva+1
         sec
@@ -253,7 +254,7 @@ takt:   jsr takt_dorvy
 takt_innych:
         lda wynik
         bne @koniec
-        lda po_przeskoku                ; a leap has searched the whole board, so the other tiles wait
+        lda po_przeskoku                ; the other tiles wait while she leaps
         bne @po
         jsr ruszaj
 @po:    lda #0

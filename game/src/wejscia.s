@@ -1,11 +1,11 @@
 ; What happens when the heroine steps at a tile, one routine for each kind of tile. A routine gets the code in cel_kod,
 ; the direction in kier, and Y for the tile's cell. It either lets her go there (na_pole, na_to, wejdz) or just returns.
 .include "reguly.inc"
-.export wejscia_lo, wejscia_hi
-.importzp wsk, wpod, wstan, dorva, kier, cel_kod, opor, naczynia
+.export wejscia_lo, wejscia_hi, spisz_magie
+.importzp wsk, wpod, wstan, dorva, dorva_x, dorva_y, kier, cel_kod, opor, naczynia
 .importzp klucze, maszyna_stoi, pochodnia, otwarte, brak_masek, wynik, komunikat, po_przeskoku
 .import plansza, sasiad, wskaz_pole, przejdz, przesun, zapal
-.import na_pole, na_to, wejdz, mur, zapadnij, zostaw_zapach, policz_wspolrzedne
+.import na_pole, na_to, wejdz, mur, zapadnij, zostaw_zapach
 .import zran, zabierz, dodaj_punkty, dodaj_energie, dodaj_bombe, dodaj_klucz, dodaj_monete, otworz, zglos_efekt
 
 SZARPNIECIA = 3                         ; tugs until a thicket lets her through
@@ -14,11 +14,11 @@ CO_NACZYNIE = 15
 
 .segment "ZEROPAGE"
 parzysty: .res 1        ; the magic object is the second of its pair
-pozycja: .res 1         ; low byte of the cell that is examined
 wsk_magii: .res 2
 
 .segment "BSS"
 szarpana: .res 1        ; the direction of the thicket that she tugs at
+magia:  .res WIERSZE    ; by row: not 0 if a magic object is there
 
 .segment "RODATA"
 ; the routines, by tile
@@ -239,80 +239,111 @@ magiczny:
         jsr na_to
         lda #1
         sta po_przeskoku
-        clc
+        sec
         lda dorva
-        tay
+        sbc dorva_x
+        sta wsk_magii
         lda dorva+1
+        sbc #0
+        clc
         adc #>plansza
         sta wsk_magii+1
-        lda #0
-        sta wsk_magii
+        ldx dorva_y                     ; X, Y, wsk_magii: row, column and row on the board of the cell that is examined
+        ldy dorva_x
         lda parzysty
         bne @wstecz
-@dalej: iny                             ; wsk_magii and Y: the cell that is examined
-        bne :+
-        inc wsk_magii+1
-        lda wsk_magii+1
-        cmp #>(plansza + POLA) + 1
-        bcs @nie_ma
-:       lda (wsk_magii),y
+@dalej: iny
+        cpy #KOLUMNY - 1
+        bcs @nizej
+        lda (wsk_magii),y
         and #$7F
         cmp #MAGICZNY
         bne @dalej
-        jsr przenies
-        bcc @dalej
-        rts
+        beq przenies
+@nizej: inx
+        cpx #WIERSZE - 1
+        bcs @nie_ma
+        jsr wiersz_nizej
+        lda magia,x
+        beq @nizej
+        ldy #0
+        beq @dalej
 @wstecz:
         dey
-        cpy #$FF
-        bne :+
-        dec wsk_magii+1
-        lda wsk_magii+1
-        cmp #>plansza
-        bcc @nie_ma
-:       lda (wsk_magii),y
+        beq @wyzej
+        lda (wsk_magii),y
         and #$7F
         cmp #MAGICZNY
         bne @wstecz
-        jsr przenies
-        bcc @wstecz
+        beq przenies
+@wyzej: dex
+        beq @nie_ma
+        sec
+        lda wsk_magii
+        sbc #KOLUMNY
+        sta wsk_magii
+        bcs :+
+        dec wsk_magii+1
+:       lda magia,x
+        beq @wyzej
+        ldy #KOLUMNY - 1
+        bne @wstecz
 @nie_ma:
         rts
 
-; Takes her to the cell at wsk_magii + Y. C = 0: that isn't inside the edge. Keeps Y.
+; Takes her to the cell in row X, column Y.
 przenies:
-        sty pozycja
-        lda wsk_magii+1
-        sec
-        sbc #>plansza
-        tax
-        cpx #>POLA
-        bcc @na_planszy
-        cpy #<POLA
-        bcs @nie
-@na_planszy:
+        stx dorva_y
+        sty dorva_x
         tya
-        jsr wskaz_pole
-        ldy #TU
-        lda (wstan),y
-        and #S_BRZEG
-        bne @nie
-        lda (wsk),y
-        sta (wpod),y
-        lda pozycja
+        clc
+        adc wsk_magii
         sta dorva
         lda wsk_magii+1
+        adc #0
         sec
         sbc #>plansza
         sta dorva+1
-        jsr zostaw_zapach
-        jsr policz_wspolrzedne
-        ldy pozycja
-        sec
+        tax
+        lda dorva
+        jsr wskaz_pole
+        ldy #TU
+        lda (wsk),y
+        sta (wpod),y
+        jmp zostaw_zapach
+
+; Notes the rows with magic objects, so that a leap needn't search the whole board.
+spisz_magie:
+        lda #<plansza
+        sta wsk_magii
+        lda #>plansza
+        sta wsk_magii+1
+        ldx #0
+@wiersz:
+        lda #0
+        sta magia,x
+        ldy #KOLUMNY - 2
+@pole:  lda (wsk_magii),y
+        and #$7F
+        cmp #MAGICZNY
+        bne :+
+        sta magia,x
+:       dey
+        bne @pole
+        jsr wiersz_nizej
+        inx
+        cpx #WIERSZE
+        bcc @wiersz
         rts
-@nie:   ldy pozycja
+
+wiersz_nizej:
         clc
-        rts
+        lda wsk_magii
+        adc #KOLUMNY
+        sta wsk_magii
+        bcc :+
+        inc wsk_magii+1
+:       rts
 
 ; creatures that she runs into
 duch:   lda #RANA_DUCH
