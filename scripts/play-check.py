@@ -138,6 +138,9 @@ def dying():
     played = play(test_build(patched(stages[1], beside, [35, DORVA, 35])), f"{TO_GAME} R7 -300 R7 -300 R7 -400",
                   [*commands, "ekran_konca", "wcisniete"])
     yield "three tries, then the end of the game", played.stops, ["graj_etap"] * 3 + ["ekran_konca", "wcisniete"]
+    dumps = play(game, f"{TO_GAME} R7 -20 E5 -9 E5 {'F3 -3 ' * 60}",
+                 ["ekran_konca", "WRITE 14 14 shown", "rysuj_tytul", "WRITE 14 14 gone"]).dumps
+    yield ("who hammers fire sees the end as well", (dumps["gone"][0] - dumps["shown"][0]) % 256 > 80, True)
     yield "a life is lost each time", [*map(played.dumps.get, ("zycia3", "zycia2", "zycia1"))], [b"\3", b"\2", b"\1"]
 
 def keys():

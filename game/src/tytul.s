@@ -23,6 +23,7 @@ W_PRAWO   = %0100
 KLATKI_KROKU = 7
 PIERWSZE_POWTORZENIE = 25               ; frames for which the stick is held until it counts again,
 POWTORZENIE = 5                         ; and from then on
+CZAS_EKRANU = 50                        ; frames without fire before it ends a screen, for who still hammers it
 POSCIG    = 5                           ; the tracker's distance
 LOGO_TLO  = 3                           ; screen column of the first letter's left edge
 
@@ -54,7 +55,7 @@ bity:   .res 1
 litera: .res 1
 rzad:   .res 1
 drazek_tytulu: .res 1
-czekanie: .res 1        ; frames until the stick counts again
+czekanie: .res 1        ; frames until stick or fire counts again
 droga:  .res 1          ; how far she has come below the logo
 do_kroku: .res 1        ; frames until her next step
 parzyste: .res 1        ; the two tiles of the frame
@@ -195,12 +196,13 @@ ekran_bez_dorvy:
         pisz_w 4, t_brak
         pisz_w 6, t_brak2
         lda #UTWOR_TYTUL
-; Shows the screen, with tune A, until the trigger or START is pressed.
+; Shows the screen, with tune A, until the trigger or START is pressed, not before it has been let go for a while.
 czekaj_na_gracza:
         jsr zagraj_utwor
         pisz_w 12, t_dalej
         jsr pokaz_tekst
-        jsr czekaj_na_puszczenie
+        lda #CZAS_EKRANU
+        sta czekanie
 @czekaj:
         jsr klatka_tytulu
         lda swieto
@@ -210,6 +212,13 @@ czekaj_na_gracza:
         and #$F0
         sta barwa_tekstu
 :       jsr wcisniete
+        beq @wcisniete
+        lda czekanie
+        beq @czekaj
+        dec czekanie
+        jmp @czekaj
+@wcisniete:
+        lda czekanie
         bne @czekaj
 czekaj_na_puszczenie:
         jsr czekaj_klatke
