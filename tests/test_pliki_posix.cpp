@@ -26,6 +26,16 @@ protected:
         cmdTest_Click(e);
         Form_QueryUnload(e);
     }
+    static void makePipe(const fs::path& path) {
+        fs::remove(path);
+        fs::create_directories(path.parent_path());
+        ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    }
+    // Sets the mode bits of all that is in the root folder.
+    void setModes(unsigned folders, unsigned files) {
+        for (const auto& entry : fs::recursive_directory_iterator(root))
+            fs::permissions(entry.path(), fs::perms(entry.is_directory() ? folders : files));
+    }
     void expectNoLeftovers() {
         for (const auto& entry : fs::recursive_directory_iterator(root))
             EXPECT_NE(entry.path().extension(), ".dp-tmp") << entry.path();
@@ -50,9 +60,9 @@ TEST_F(FilesPosix, WriteKeepsModeAndLinks) {
     EXPECT_EQ(readFile(file), Bajty{8});
 }
 
-TEST_F(FilesPosix, WriteRefusesWhatCouldNotBeOpened) {
+TEST_F(FilesPosix, WhatCouldNotBeOpenedIsRefusedAndNamesOfOneFileAreKnown) {
     fs::create_directory(root / "katalog");
-    ASSERT_EQ(::mkfifo((root / "potok").c_str(), 0600), 0);
+    makePipe(root / "potok");
     fs::create_symlink("petla", root / "petla");
     for (const char* name : {"katalog", "potok", "petla", "brak/plik"}) {
         EXPECT_FALSE(writeWhole(SYSTEM_CALLS, root / name, Bajty{1})) << name;
@@ -60,17 +70,14 @@ TEST_F(FilesPosix, WriteRefusesWhatCouldNotBeOpened) {
     }
     EXPECT_EQ(listNames(SYSTEM_CALLS, root, "").size(), 4U) << "no temporary file is left";
     EXPECT_TRUE(fs::is_fifo(root / "potok"));
-}
 
-TEST_F(FilesPosix, ExistenceAndSameness) {
     writeFile(root / "plik", {1});
     writeFile(root / "inny", {1});
     fs::create_symlink("plik", root / "link");
     EXPECT_TRUE(fileExists(SYSTEM_CALLS, root / "link"));
-    EXPECT_FALSE(fileExists(SYSTEM_CALLS, root / "brak"));
-    EXPECT_FALSE(fileExists(SYSTEM_CALLS, root / "plik" / "pod plikiem"));
-    fs::create_symlink("petla", root / "petla");
     EXPECT_TRUE(isSameFile(SYSTEM_CALLS, root / "plik", root / "link"));
+    for (const char* name : {"brak", "plik/pod plikiem"})
+        EXPECT_FALSE(fileExists(SYSTEM_CALLS, root / name)) << name;
     for (const char* name : {"inny", "brak", "plik/pod plikiem", "/dev/null", "petla"})
         EXPECT_FALSE(isSameFile(SYSTEM_CALLS, root / "plik", root / name)) << name;
 }
@@ -93,41 +100,32 @@ TEST_F(FilesPosix, LinkedStageStaysLinked) {
         EXPECT_EQ(readFile(file)[uklad::PLANSZA + 246], 14) << file;
     EXPECT_EQ(readFile(root / "dysk/czwarty"), sampleEtap(4)) << "a second name keeps the old stage";
     EXPECT_EQ(namesIn("ETAPY/KOPIE"), (std::vector<std::string>{"DETAP.2", "DETAP.4"})) << "beside the link";
-    chosen = root / "dysk/drugi";
-    cmdSave_Click(e);
+    run(cmdSave_Click, "dysk/drugi");
     EXPECT_EQ(namesIn("ETAPY/KOPIE/DETAP.2").size(), 2U) << "known as a stage by its other name, too";
     fs::create_hard_link(etap(9), root / "dziewiaty");
     fs::remove(etap(10));
     fs::create_symlink("DETAP.10", etap(10)); // leads nowhere, and stops nothing
-    chosen = root / "dziewiaty";
-    cmdSave_Click(e);
+    run(cmdSave_Click, "dziewiaty");
     EXPECT_EQ(readFile(*chosen), e.image) << "what was chosen is written";
     EXPECT_EQ(readFile(etap(9)), sampleEtap(9)) << "and nothing else";
     expectNoLeftovers();
 }
 
 TEST_F(FilesPosix, PipesAndDevicesAreLeftAloneAndNeverHang) {
-    const auto makePipe = [](const fs::path& path) {
-        fs::remove(path);
-        fs::create_directories(path.parent_path());
-        ASSERT_EQ(::mkfifo(path.c_str(), 0666), 0);
-    };
     start();
-    makePipe(etap(2));
-    for (const char* name : {"PLIKI/DP1.DTA", "PLIKI/DP2.DTA", "PLIKI/TEST.XEX", "PLIKI/PALETY/Bitwor.act",
-                             "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY"})
+    for (const char* name : {"ETAPY/DETAP.2", "PLIKI/DP1.DTA", "PLIKI/DP2.DTA", "PLIKI/TEST.XEX",
+                             "PLIKI/PALETY/Bitwor.act", "OBIEKTY/ORN_EXPORT/FNT01.ORN.ND.KOLORY"})
         makePipe(base / name);
-    for (const char* device : {"/dev/zero", "/dev/full", "/dev/null"}) {
-        chosen = device;
+    makePipe(root / "potok");
+    for (const fs::path& name : {fs::path("/dev/zero"), fs::path("/dev/full"), fs::path("/dev/null"), root / "potok"}) {
+        chosen = name;
         useEverything();
     }
-    makePipe(root / "potok");
-    chosen = root / "potok";
-    useEverything();
     restart();
     useEverything();
-    EXPECT_TRUE(fs::is_fifo(etap(2)) && fs::is_fifo(base / "PLIKI/DP1.DTA") && fs::is_fifo(base / "PLIKI/TEST.XEX"));
-    EXPECT_TRUE(fs::is_fifo(root / "potok") && fs::is_character_file("/dev/full"));
+    for (const fs::path& pipe : {etap(2), base / "PLIKI/DP1.DTA", base / "PLIKI/TEST.XEX", root / "potok"})
+        EXPECT_TRUE(fs::is_fifo(pipe)) << pipe;
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
     EXPECT_EQ(readFile(etap(3)), sampleEtap(3));
     expectNoLeftovers();
 }
@@ -148,16 +146,14 @@ int asOrdinaryUser(const std::function<void()>& work) {
 }
 
 TEST_F(FilesPosix, ReadOnlyTreeAndReadOnlyFiles) {
-    for (bool folders : {true, false}) {
-        fs::permissions(root, fs::perms(0755));
-        for (const auto& entry : fs::recursive_directory_iterator(root))
-            fs::permissions(entry.path(), entry.is_directory() ? fs::perms(folders ? 0555 : 0777) : fs::perms(0444));
+    fs::permissions(root, fs::perms(0755));
+    for (unsigned folders : {0555, 0777}) {
+        setModes(folders, 0444);
         const auto status = asOrdinaryUser([&] {
             start();
             cell(5, 5) = BOMBA;
             SelectEtapNR(e, 31);
-            EXPECT_EQ(shown.size(), 1U);
-            EXPECT_TRUE(shown[0].starts_with("Nie można zapisać etapu."));
+            EXPECT_TRUE(said().starts_with("Nie można zapisać etapu."));
             EXPECT_EQ(e.NumerEtapu, 1);
             EXPECT_EQ(e.okno.optEtapNR, 0);
             EXPECT_TRUE(e.okno.chkOstatniEnabled);
@@ -166,10 +162,8 @@ TEST_F(FilesPosix, ReadOnlyTreeAndReadOnlyFiles) {
             useEverything();
             EXPECT_EQ(kod(cell(5, 6)), 206 * 3 % 50) << "what was loaded is on the board";
         });
-        EXPECT_EQ(status, 0) << (folders ? "folders" : "files");
-        for (const auto& entry : fs::recursive_directory_iterator(root))
-            if (entry.is_directory())
-                fs::permissions(entry.path(), fs::perms::owner_all);
+        EXPECT_EQ(status, 0) << std::oct << folders;
+        setModes(0777, 0444);
         for (int number = 1; number <= ETAPY_COUNT; ++number)
             EXPECT_EQ(readFile(etap(number)), sampleEtap(number)) << number;
         expectNoLeftovers();
