@@ -69,6 +69,14 @@ const Step SIX_MINUTES = [](Slips& d) { d.passes(minutes(6)); };
 const Step DAY_BACK = [](Slips& d) { d.passes(-hours(24)); };
 const Step KILL = [](Slips& d) { d.kill(); };
 const Step OTHER_PROGRAM = [](Slips& d) { disk.put(at("praca/ETAPY/DETAP.1"), d.lost = sampleEtap(20)); };
+const Step SECOND_EDITOR = [](Slips& d) { // stores its own stage 1
+    Edytor second;
+    second.system = memoryCalls();
+    Form_Load(second, d.base, "1.0.2");
+    second.okno.imgPG[246].znak = KLUCZ;
+    SelectEtapNR(second, 1);
+    d.lost = disk.files().at(at("praca/ETAPY/DETAP.1"));
+};
 const Step EARLY_END_OF_START = [](Slips& d) {
     std::erase_if(disk.names, [](const auto& entry) { return entry.first.ends_with(".ND"); });
     d.kill();
@@ -87,6 +95,8 @@ const struct {
     {"killed after six minutes", {BOMB, LOSE, SIX_MINUTES, KILL}},
     {"the same twice", {BOMB, LOSE, CLEAR, KEY, CLEAR}},
     {"another program's content", {OTHER_PROGRAM, BOMB, GO}},
+    {"what a second editor stored", {BOMB, SECOND_EDITOR, GO}},
+    {"what a second editor stored in between", {BOMB, GO, SECOND_EDITOR, KILL, KEY, GO}},
     {"start-up ended early, then the exit", {EARLY_END_OF_START, EXIT}},
     {"the clock a day back", {KEEP, BOMB, LOSE, DAY_BACK, KILL}},
     {"killed, started again and painted on", {BOMB, LOSE, SIX_MINUTES, KILL, KEY, GO, EXIT}},
