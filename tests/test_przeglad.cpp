@@ -140,13 +140,13 @@ TEST(Ostrzezenia, EachFaultHasItsWords) {
         {"więcej niż jedno wyjście: 2", [&](auto& image) { put(image, 210, 9); }},
         {"znaki bez obrazka, o kodach: 64, 255",
          [&](auto& image) { put(image, 210, 255), put(image, 211, 64), put(image, 212, 64); }},
-        {"krawędź to nie tylko murek i NIC (kratek: 2)",
+        {"obce znaki na krawędzi, kratek: 2",
          [&](auto& image) { put(image, 0, 1), put(image, 799, 5 + INV), put(image, 1, 6), put(image, 2, 0); }},
         {"puste powitanie", [](auto& image) { std::fill_n(image.begin() + uklad::NAZWA, NAZWA_WIDTH, Bajt{0}); }},
         {"edytor nie odczyta całego etapu: cel masek to 0", [](auto& image) { image[uklad::CEL_MASEK] = 0; }},
         {"edytor nie odczyta całego etapu: świat to 4", [](auto& image) { image[uklad::SWIAT] = 3; }},
         {"taki sam jak etap 1", [](auto& image) { image = faultless(1); }},
-        {"OSTATNI, ale nie ostatni: niepustych etapów po nim jest 30", [](auto& image) { image[uklad::OSTATNI] = 1; }},
+        {"OSTATNI, a po nim niepustych etapów: 30", [](auto& image) { image[uklad::OSTATNI] = 1; }},
     };
     EXPECT_EQ(listOstrzezenia(faultlessGra()), (std::array<std::vector<std::string>, ETAPY_COUNT>()));
     for (const auto& [words, spoil] : rows) {

@@ -56,7 +56,7 @@ void addKrawedz(Teksty& teksty, std::span<const Bajt> plansza) {
         count += isEdge(cell) && z != NIC && z != MUREK_PIONOWY && z != MUREK_POZIOMY;
     }
     if (count > 0)
-        teksty.push_back("krawędź to nie tylko murek i NIC (kratek: " + text(count) + ")");
+        teksty.push_back("obce znaki na krawędzi, kratek: " + text(count));
 }
 
 Teksty ownOf(const Karta& karta) {
@@ -111,7 +111,7 @@ std::array<Teksty, ETAPY_COUNT> listOstrzezenia(const Gra& gra) {
         const auto more = std::count_if(gra.karty.begin() + i + 1, gra.karty.end(),
                                         [](const Karta& later) { return !isEmpty(later); });
         if (more > 0)
-            all[i].push_back("OSTATNI, ale nie ostatni: niepustych etapów po nim jest " + text(static_cast<int>(more)));
+            all[i].push_back("OSTATNI, a po nim niepustych etapów: " + text(static_cast<int>(more)));
     }
     return all;
 }

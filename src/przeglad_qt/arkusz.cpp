@@ -30,8 +30,10 @@ public:
         painter->setPen(QPen(selected ? option.palette.highlight() : option.palette.mid(), selected ? 3 : 1));
         painter->drawRoundedRect(QRectF(rect).adjusted(1.5, 1.5, -1.5, -1.5), 6, 6);
         rysownik_.karta(*painter, rect, model_.gra(), index.row(), option.palette);
-        drawOstrzezenia(*painter, rect.adjusted(KARTA_MARGIN, OBRAZ_KARTY_HEIGHT - KARTA_MARGIN / 2, -KARTA_MARGIN, 0),
-                        model_.ostrzezenia(index.row()), option.palette);
+        if (!model_.gra().karty[index.row()].image.empty()) // else the reason stands in the place of the board
+            drawOstrzezenia(*painter,
+                            rect.adjusted(KARTA_MARGIN, OBRAZ_KARTY_HEIGHT - KARTA_MARGIN / 2, -KARTA_MARGIN, 0),
+                            model_.ostrzezenia(index.row()), option.palette);
         painter->restore();
     }
 

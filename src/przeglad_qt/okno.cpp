@@ -21,6 +21,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUndoCommand>
@@ -105,7 +106,7 @@ OknoPrzegladu::OknoPrzegladu(const fs::path& base, std::string_view version)
     setWindowTitle(toQString(TITLE) + " [wersja " + toQString(version) + "][*]");
     setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(true);
-    resize(1100, 800);
+    resize(QSize(1100, 800).boundedTo(screen()->availableSize() * 9 / 10));
 
     auto* middle = new QWidget(this);
     opis_ = new QLabel(middle);
@@ -180,21 +181,25 @@ void OknoPrzegladu::addActions() {
 void OknoPrzegladu::showGra(const Gra& gra, const fs::path& source) {
     const unsigned wersja = frmZestawy_.wersja;
     frmZestawy_ = loadZestawy(base_);
-    frmZestawy_.wersja += wersja + 1; // so that pictures are prepared anew
+    frmZestawy_.wersja += wersja + 1;                           // so that pictures are prepared anew
+    const int place = source == zrodlo_ ? arkusz_->place() : 0; // the same game again keeps its place
     zrodlo_ = source;
-    opis_->setText((source == base_ ? "Etapy edytora, folder " : "Plik ") +
-                   QDir::toNativeSeparators(nameOfPath(source)));
+    const QString name = QDir::toNativeSeparators(nameOfPath(source));
+    opis_->setText(source == base_ ? "Etapy edytora z folderu " + name +
+                                         ". Etap otwarty teraz w edytorze jest tu taki, jaki był przy ostatnim zapisie."
+                                   : "Plik " + name);
     QStringList linie;
     for (const Tekst& linia : gra.linie)
         linie += toQString(trimmed(linia));
     linie_->setText(linie.join('\n'));
     model_.setGra(gra);
     zmiany_.clear();
-    arkusz_->select(0);
+    arkusz_->select(std::max(place, 0));
     showStatus();
 }
 
 void OknoPrzegladu::showStatus() {
+    statusBar()->clearMessage(); // it was of the game before
     int count = 0;
     for (int i = 0; i < ETAPY_COUNT; ++i)
         count += static_cast<int>(model_.ostrzezenia(i).size());
