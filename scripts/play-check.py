@@ -92,12 +92,15 @@ def play(file, tokens, commands, *machine, shown=False):
     stops = [label_at[int(stop, 16)] for stop in re.findall(r"^\(breakpoint at (\w+)\)", log, re.M)]
     return Played(stops, defaultdict(bytes, {path.name: path.read_bytes() for path in folder.iterdir()}), log)
 
-def test_build(record):
-    """A game like the one that a test build makes: the stage replaces stage 1 and is marked as the last one."""
+def test_build(*records):
+    """A game like the one that a test build makes: the stage replaces stage 1 and is marked as the last one. Or a game
+    of several stages."""
     folder = Path(mkdtemp(dir=temporary.name))
-    (folder / "etap").write_bytes(record)
+    files = [folder / f"etap{which}" for which in range(len(records))]
+    for file, record in zip(files, records):
+        file.write_bytes(record)
     texts = ["Żółty Atarowiec", "", "TEST ETAPU"]
-    subprocess.run([game_maker, game, folder / "test.xex", *texts, folder / "etap"], check=True)
+    subprocess.run([game_maker, game, folder / "test.xex", *texts, *files], check=True)
     return folder / "test.xex"
 
 def title_lines(file):
@@ -109,7 +112,7 @@ def title_lines(file):
     return lines
 
 def shown_lines(played):
-    return [played.dumps["ekran"][40 * row + 8:][:24] for row in (1, 3, 5)]
+    return [played.dumps["ekran"][40 * row + 8:][:24] for row in (0, 2, 4)]
 
 # Each check yields what it looked at, what it found and what it expects.
 
@@ -181,18 +184,18 @@ def choice():
                    *offered])
     yield ("the title stays on the screen while a stage is chosen",
            [played.dumps["picture1"], played.dumps["picture2"]], [bytes([34])] * 2)
-    yield "and names it by its greeting", played.dumps["ekran"][8 * 40 + 4:][:32], part(stages[3], "NAZWA", 32)
+    yield "and names it by its greeting", played.dumps["ekran"][7 * 40 + 4:][:32], part(stages[3], "NAZWA", 32)
     chosen = played.dumps["numer_etapu"]
     yield "the held stick chooses on, from stage to stage", bytes([3]) < chosen < bytes([25]), True
     yield "the title offers it again", played.dumps["numer_etapuoffered"], chosen
 
     entries = [command for entry in range(4) for command in ("graj_etap", dump("numer_etapu", 1, entry))]
-    dumps = play(game, f"{TO_GAME} {run_of(1)} -300 T5 -9 T5 -60 {run_of(1)} -300 E5 -9 E5 -60 F10 -100",
+    dumps = play(game, f"{TO_GAME} {run_of(1)} -300 T5 -9 T5 -60 {run_of(1)} -300 E5 -9 E5 -60 T10 -30 F10 -100",
                  [*entries, "ekran_konca", *offered]).dumps
     yield ("START goes back to the stage chosen; after the end of a game the title offers the stage that was reached",
            [*b"".join(dumps[f"numer_etapu{which}"] for which in (0, 1, 2, 3, "offered"))], [1, 2, 1, 2, 2])
 
-    dumps = play(game, f"-400 L5 -30 F10 -60 {run_of(32)} -900 F10 -60",
+    dumps = play(game, f"-400 L5 -30 F10 -60 {run_of(32)} -900 T10 -30 F10 -60",
                  ["graj_etap", dump("numer_etapu"), "ekran_wygranej", *offered]).dumps
     yield ("after the victory it offers the first one", (dumps["numer_etapu"], dumps["numer_etapuoffered"]),
            (bytes([32]), bytes([1])))
@@ -234,6 +237,30 @@ def music(system, frame_rate):
            [True, True, False, True, False, False, True, True, False, True, False, True])
     first = next(frame for frame, registers in enumerate(sound) if registers[4] == 64)  # B, not in the title's tune
     yield f"its tempo is the same on every system ({system})", 6.4 < (first - 410) / frame_rate < 7, True
+
+def records():
+    """The result of stage 1, and what RESET leaves of it; then the end of a game from the first stage on."""
+    tokens = f"-400 F10 -60 {run_of(1)} -300 E5 -9 E5 -60 U30 -9 R5 -9 D5 -9 F9 -9 F9 -60 F9 -400 L9 -9"
+    played = play(game, tokens, ["ekran_konca", dump("punkty", 3), "rysuj_tytul", until("rysuj_tytul", "WARMSTART"),
+                                 "pisz_wyniki", "etap_probny", dump("ekran", 600, "table"), "pisz_rekord", "wcisniete",
+                                 dump("ekran", 600), dump("premie", 2)])
+    points = [16 + digit for byte in played.dumps["punkty"] for digit in divmod(byte, 16)]
+    yield ("B, space and A are chosen as initials; after RESET too the title shows the result by turns with the keys",
+           [*played.dumps["ekrantable"][10 * 40 + 13:][:13]], [17, 14, 0, 34, 0, 33, 0, *points])
+    screen, (bonus, none) = played.dumps["ekran"], played.dumps["premie"]
+    yield ("the finished stage has a star, dark on light as the chosen one, and its best bonus",
+           (screen[8 * 40 + 4:][:32], [*screen[6 * 40 + 34:][:2]], none),
+           (bytes([10 + 128] + [14] * 31), [16 + digit for digit in divmod(bonus - 1, 10)], 0))
+
+    kept = ["ekran_wygranej", "czekaj_na_puszczenie", dump("cegla"), dump("wyniki", 30), dump("premie", 32)]
+    of_two = test_build(stages[1], stages[2])
+    for what, file, runs, end, found in (("a game from the first stage to the last", of_two, (1, 2), 12, True),
+                                         ("one from a later stage", of_two, (2,), 17, True),
+                                         ("a test game", test_build(stages[1]), (1,), 17, False)):
+        tokens = " ".join(["-400", "R6 -9" if runs == (2,) else "-9", "F10 -60", *(f"{run_of(run)} -300" for run in runs)])
+        dumps = play(file, f"{tokens} -300 F9 -9", kept).dumps
+        yield (f"{what} has its end, and a result and stars or nothing of the kind",
+               (*dumps["cegla"], any(dumps["wyniki"]), any(dumps["premie"])), (end, found, found))
 
 def overlay():
     """In each world the two players cover the heroine's cell and nothing else."""
@@ -373,8 +400,8 @@ def machines():
     yield "a machine of 64 KB shows what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
 
 CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (tunes,), (music, "-pal", 50),
-          (music, "-ntsc", 60), (overlay,), (only_stage,), (all_stages,), (motion,), (foreign_codes,), (bars,),
-          (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
+          (music, "-ntsc", 60), (records,), (overlay,), (only_stage,), (all_stages,), (motion,), (foreign_codes,),
+          (bars,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
           (reset, "-basic"), (machines,)]
 
 # Pictures for the documents.

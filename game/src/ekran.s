@@ -26,6 +26,8 @@ po_liscie: .res 2       ; the first interrupt of the current display list
 
 .segment "LISTY"
 PUSTE8  = $70
+PUSTE4  = $30
+PUSTE3  = $20
 PUSTE2  = $10
 PUSTA   = $00
 DLI     = $80
@@ -64,10 +66,12 @@ lista_tekstu:
         .word logo
         .res LOGO_WIERSZE - 2, TRYB4
         .byte TRYB4
-        .byte PUSTE8 | DLI
+        .byte PUSTE2 | DLI, PUSTE4
         .byte LMS | TRYB2
         .word ekran
-        .res TEKST_WIERSZE - 1, TRYB2
+        .res TEKST_WIERSZE - 6, TRYB2
+        .byte PUSTE3                    ; above the keys of the title
+        .res 5, TRYB2
         .byte PUSTE2 | DLI
         .byte LMS | TRYB4
         .word stopka

@@ -2,7 +2,7 @@
 .include "atari.inc"
 .include "rekord.inc"
 .include "reguly.inc"
-.export wczytaj_etap, wez_etap, ostatni, swiat, powitanie
+.export wczytaj_etap, etap_probny, wez_etap, ostatni, swiat, powitanie
 .exportzp numer_etapu
 .import plansza, cel_masek, kolory, wez_zestaw, zgas_ekran
 
@@ -113,4 +113,15 @@ kopiuj_kod:
         bcc :+
         sbc #1
 :       sta (gdzie),y
+        rts
+
+; C: the loaded stage is the first and the last one, as in a test game, so there is nothing to choose or to keep.
+etap_probny:
+        lda numer_etapu
+        eor #1
+        bne :+
+        lda ostatni
+        cmp #1
+        rts
+:       clc
         rts

@@ -1,8 +1,9 @@
 ; The game: one stage after the other, tries, lives, the end.
 .include "atari.inc"
 .include "reguly.inc"
+.include "rekord.inc"
 .include "muzyka.inc"
-.export graj, pierwszy_etap, pytanie, pauza, klawisz_muzyki
+.export graj, pierwszy_etap, od_pierwszego, pytanie, pauza, klawisz_muzyki
 .importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
@@ -10,11 +11,10 @@
 .import linia_info, dwie_cyfry, ozyw_znaki
 .import zacznij_panel, rysuj_panel, panel_takt, info_powitanie, info_takt
 .import ekran_konca, ekran_wygranej, ekran_bez_dorvy, zagraj, cisza, dodaj_punkty
-.import zagraj_utwor, muzyka_swiata, ucisz_muzyke, przelacz_muzyke
+.import zapisz_etap, zagraj_utwor, muzyka_swiata, ucisz_muzyke, przelacz_muzyke
 
 CZAS_SMIERCI = 50
 PREMIA_KOLUMNA = 26                     ; the message has 17 characters, centred in 40; digits come last
-ETAPY     = 32
 CH_ESC    = 28
 CH_M      = 37
 CH_BRAK   = $FF
@@ -38,6 +38,7 @@ spoznione: .res 1       ; ticks that took longer than their frame; scripts/play-
 
 .segment "BSS"
 pierwszy_etap: .res 1   ; the stage that the title offers and START begins with: chosen there, or reached in the last game
+od_pierwszego: .res 1   ; 0: the game began with stage 1
 powitanie_trwa: .res 1  ; 0 when it is over, 2 while the stick has been held since before
 pauza:   .res 1
 klawisze: .res 1        ; the keys that are down
@@ -52,6 +53,9 @@ graj:   lda #0
         sta spoznione
         jsr ucisz_muzyke
         jsr nowa_gra
+        ldx numer_etapu
+        dex
+        stx od_pierwszego
 @etap:  jsr nowy_etap
 @proba: jsr wczytaj_etap
         jsr reguly_start
@@ -87,6 +91,7 @@ graj:   lda #0
         sta numer_etapu
         jmp graj
 @przeszla:
+        jsr zapisz_etap
         jsr policz_premie
         lda ostatni
         bne @wygrana

@@ -1,21 +1,11 @@
-; Texts, in screen codes. As in the stage records, lower-case letters are Polish capitals: a c e l n o s x z for
-; A C E L N O S Z Z with their marks.
+; All texts, and how they are written.
 .include "atari.inc"
 .include "reguly.inc"
+.include "tekst.inc"
 .export pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi
-.export t_cel, t_grasz, t_klawisze1, t_klawisze2, t_klawisze3, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
-.export t_etap_nr, t_nowy, t_dalej
+.export t_cel, t_grasz, t_klawisze1, t_klawisze2, t_klawisze3, t_klawisze4, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
+.export t_etap_nr, t_nowy, t_dalej, t_wielka, t_wielka2, t_rekord, t_inicjaly, t_litery
 .exportzp napis
-
-.repeat 64, I
-        .charmap 32 + I, I
-.endrepeat
-
-; a text: its length, then its codes
-.macro tekst zawartosc
-        .byte .strlen(zawartosc)
-        .byte zawartosc
-.endmacro
 
 .segment "ZEROPAGE"
 napis:  .res 2          ; where the text goes
@@ -27,12 +17,18 @@ t_grasz:     tekst "FIRE LUB START - GRA"
 t_nowy:      tekst "< ETAP    >"
 t_klawisze1: tekst "JOYSTICK - RUCH   FIRE - BOMBA"
 t_klawisze2: tekst "SELECT - OD NOWA  OPTION - PAUZA"
-t_klawisze3: tekst "ESC DWA RAZY - KONIEC   M - MUZYKA"
+t_klawisze3: tekst "START DWA RAZY - NOWA GRA"
+t_klawisze4: tekst "ESC DWA RAZY - KONIEC   M - MUZYKA"
 t_koniec:    tekst "KONIEC GRY"
 t_wynik:     tekst "PUNKTY 000000"
 t_wygrana:   tekst "GRATULACJE!"
 t_wygrana2:  tekst "DORVA PRZESZlA OSTATNI ETAP"
-t_dalej:     tekst "FIRE LUB START - DALEJ"
+t_wielka:    tekst "DORVA PRZESZlA CAla GRe"
+t_wielka2:   tekst "OD PIERWSZEGO ETAPU DO OSTATNIEGO!"
+t_rekord:    tekst "PREMIA "
+t_inicjaly:  tekst "TWOJE INICJAlY    "
+t_litery:    tekst "JOYSTICK - LITERY   FIRE - DALEJ"
+t_dalej:     tekst "     FIRE LUB START - DALEJ     "
 t_brak:      tekst "NA PLANSZY NIE MA DORVY"
 t_brak2:     tekst "POSTAW Ja W EDYTORZE I SPRoBUJ ZNOWU"
 t_etap_nr:   tekst "ETAP "

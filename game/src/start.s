@@ -1,13 +1,14 @@
 ; The entry: takes over the machine, then runs title and game by turns.
 .include "atari.inc"
 .export start
-.import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj, pierwszy_etap, pauza, wyciszona
+.import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj, pierwszy_etap, pauza, wyciszona, zeruj_rekordy
 
 .segment "CODE"
 start:  lda #1
         sta pierwszy_etap
         lda #0
         sta wyciszona
+        jsr zeruj_rekordy
 wznow:  ldx #$FF
         txs
         cld

@@ -6,37 +6,29 @@
 .include "rekord.inc"
 .include "reguly.inc"
 .include "muzyka.inc"
-.export tytul, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
+.include "tekst.inc"
+.export tytul, klatka_ekranu, wcisniete, czekaj_na_puszczenie, drazek_liczy, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
-.import pierwszy_etap, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
+.import pierwszy_etap, od_pierwszego, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
 .import ozyw_znaki
-.import czysc_tekst, pokaz_tekst, wez_kolory, czekaj_klatke, wczytaj_etap, wez_etap, ostatni, powitanie
-.import t_cel, t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3
+.import czysc_tekst, pokaz_tekst, wez_kolory, czekaj_klatke, wczytaj_etap, wez_etap, etap_probny, powitanie
+.import zapisz_wynik, wpisz_inicjaly, sa_wyniki, pisz_wyniki, pisz_gwiazdki, pisz_rekord
+.import t_cel, t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3, t_klawisze4, t_wielka, t_wielka2
 .import t_dalej, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 
 POLE      = 8                           ; screen column of the field's column 0
 LINIE     = 3
-ETAPY     = 32
-PROSTO    = %1100                       ; the stick's bits for left and right
-W_LEWO    = %1000
-W_PRAWO   = %0100
+W_LEWO    = %0100                       ; bits of the stick, 1 while pushed
+W_PRAWO   = %1000
+KLATKI_WIDOKU = 250                     ; frames for which the title shows the keys, then the best results
+WIDOK     = ekran + 10 * 40             ; where it does
+WIDOK_BAJTY = 5 * 40
 KLATKI_KROKU = 7
 PIERWSZE_POWTORZENIE = 25               ; frames for which the stick is held until it counts again,
 POWTORZENIE = 5                         ; and from then on
 CZAS_EKRANU = 50                        ; frames without fire before it ends a screen, for who still hammers it
 POSCIG    = 5                           ; the tracker's distance
 LOGO_TLO  = 3                           ; screen column of the first letter's left edge
-
-; writes a text in the middle of a row of the text screen
-.macro pisz_w wiersz, tekst
-        lda #<(ekran + wiersz * 40)
-        sta napis
-        lda #>(ekran + wiersz * 40)
-        sta napis+1
-        lda #<tekst
-        ldx #>tekst
-        jsr pisz_srodkiem
-.endmacro
 
 .segment "RODATA"
 ; DORVA in tiles: five letters of five columns, a bit for each tile
@@ -61,6 +53,11 @@ do_kroku: .res 1        ; frames until her next step
 parzyste: .res 1        ; the two tiles of the frame
 nieparzyste: .res 1
 poczatek: .res 1
+widok:  .res 1          ; which of its views the title shows, and frames until the next one
+do_widoku: .res 1
+prowadzi: .res 1        ; who walks below the logo, and who follows
+goni:   .res 1
+cegla:  .res 1          ; what the logo is made of
 barwa_tekstu: .res 1    ; the colour behind the text
 swieto: .res 1          ; not 0: it changes all the time
 
@@ -75,10 +72,18 @@ tytul:  lda pierwszy_etap
         sta droga
         sta barwa_tekstu
         sta swieto
-        lda #PROSTO
         sta drazek_tytulu
+        sta widok
+        lda #KLATKI_WIDOKU
+        sta do_widoku
         lda #UTWOR_TYTUL
         jsr zagraj_utwor
+        lda #IDZIE_PRAWO
+        sta prowadzi
+        lda #TROPICIEL + PRAWO
+        sta goni
+        lda #BLOK
+        sta cegla
         jsr rysuj_tytul
 @czekaj:
         jsr klatka_tytulu
@@ -86,19 +91,15 @@ tytul:  lda pierwszy_etap
         bne @drazek
         jmp czekaj_na_puszczenie
 @drazek:
-        jsr bez_wyboru
+        dec do_widoku
+        bne :+
+        lda #KLATKI_WIDOKU
+        sta do_widoku
+        inc widok
+        jsr rysuj_widok
+:       jsr etap_probny
         bcs @czekaj
-        lda STICK0
-        and #PROSTO
-        ldx #PIERWSZE_POWTORZENIE
-        cmp drazek_tytulu
-        bne @liczy_sie
-        dec czekanie
-        bne @czekaj
-        ldx #POWTORZENIE
-@liczy_sie:
-        stx czekanie
-        sta drazek_tytulu
+        jsr drazek_liczy
         cmp #W_LEWO
         beq @wstecz
         cmp #W_PRAWO
@@ -121,16 +122,23 @@ tytul:  lda pierwszy_etap
         jsr nazwij_etap
         jmp @czekaj
 
-; C: the first stage is also the last one, as in a test build, so there is nothing to choose.
-bez_wyboru:
-        lda numer_etapu
-        cmp #1
-        bne @jest
-        lda ostatni
-        beq @jest
-        sec
+; A := the directions of the stick that count in this frame, 0 for none: when it moves, and again and again while it is
+; held.
+drazek_liczy:
+        lda STICK0
+        eor #15
+        ldx #PIERWSZE_POWTORZENIE
+        cmp drazek_tytulu
+        bne @liczy_sie
+        dec czekanie
+        bne @nie
+        ldx #POWTORZENIE
+@liczy_sie:
+        stx czekanie
+        sta drazek_tytulu
+        ora #0
         rts
-@jest:  clc
+@nie:   lda #0
         rts
 
 ; Shows the title for stage numer_etapu: the logo has the tiles and colours of that stage.
@@ -140,31 +148,53 @@ rysuj_tytul:
         ldy #MUR_H
         jsr rysuj_logo
         jsr pisz_linie
-        pisz_w 7, t_nowy
-        jsr bez_wyboru
+        pisz_w 6, t_nowy
+        jsr etap_probny
         bcc :+
         lda #0
-        sta ekran + 7 * 40 + 14         ; no arrows
-        sta ekran + 7 * 40 + 24
+        sta ekran + 6 * 40 + 14         ; no arrows
+        sta ekran + 6 * 40 + 24
 :       jsr nazwij_etap
         pisz_w 9, t_grasz
-        pisz_w 11, t_cel
-        pisz_w 12, t_klawisze1
-        pisz_w 13, t_klawisze2
-        pisz_w 14, t_klawisze3
+        jsr rysuj_widok
         jmp pokaz_tekst
 
-; Writes the number of the chosen stage and its greeting.
+; Writes the number of the chosen stage, its greeting, and what has been achieved.
 nazwij_etap:
         lda numer_etapu
         jsr dwie_cyfry
-        stx ekran + 7 * 40 + 21
-        sta ekran + 7 * 40 + 22
+        stx ekran + 6 * 40 + 21
+        sta ekran + 6 * 40 + 22
         ldx #31
 @znak:  lda powitanie,x
-        sta ekran + 8 * 40 + 4,x
+        sta ekran + 7 * 40 + 4,x
         dex
         bpl @znak
+        jsr etap_probny
+        bcs :+
+        jsr pisz_gwiazdki
+        jsr pisz_rekord
+:       rts
+
+; Writes the keys or, by turns, the best results, if there are any.
+rysuj_widok:
+        ldx #WIDOK_BAJTY
+        lda #0
+@czysc: sta WIDOK - 1,x
+        dex
+        bne @czysc
+        jsr sa_wyniki
+        beq @klawisze
+        lda widok
+        lsr
+        bcc @klawisze
+        jmp pisz_wyniki
+@klawisze:
+        pisz_w 10, t_cel
+        pisz_w 11, t_klawisze1
+        pisz_w 12, t_klawisze2
+        pisz_w 13, t_klawisze3
+        pisz_w 14, t_klawisze4
         rts
 
 ; Game over.
@@ -180,11 +210,30 @@ ekran_konca:
 ; The last stage is done.
 ekran_wygranej:
         inc swieto
+        lda od_pierwszego
+        bne @zwykla
+        jsr etap_probny
+        bcs @zwykla
+        lda #TROPICIEL + PRAWO          ; now she follows the tracker
+        sta prowadzi
+        lda #IDZIE_PRAWO
+        sta goni
+        lda #MASKA
+        sta cegla
+        lda #MONETA
+        ldy #POCHODNIA
+        jsr rysuj_logo
+        pisz_w 1, t_wygrana
+        pisz_w 3, t_wielka
+        pisz_w 5, t_wielka2
+        jmp @wynik
+@zwykla:
         lda #MASKA
         ldy #MONETA
         jsr rysuj_logo
         pisz_w 3, t_wygrana
         pisz_w 5, t_wygrana2
+@wynik:
         jsr pisz_wynik
         lda #UTWOR_WYGRANA
         jmp czekaj_na_gracza
@@ -196,29 +245,26 @@ ekran_bez_dorvy:
         pisz_w 4, t_brak
         pisz_w 6, t_brak2
         lda #UTWOR_TYTUL
-; Shows the screen, with tune A, until the trigger or START is pressed, not before it has been let go for a while.
+; Shows the screen, with tune A, until the trigger or START is pressed, not before it has been let go for a while. A
+; result for the table needs initials before.
 czekaj_na_gracza:
         jsr zagraj_utwor
-        pisz_w 12, t_dalej
         jsr pokaz_tekst
         lda #CZAS_EKRANU
         sta czekanie
-@czekaj:
-        jsr klatka_tytulu
-        lda swieto
-        beq :+
-        lda RTCLOK+2                    ; the next hue every 32 frames
-        lsr
-        and #$F0
-        sta barwa_tekstu
-:       jsr wcisniete
-        beq @wcisniete
-        lda czekanie
-        beq @czekaj
+@puszczony:
+        jsr klatka_ekranu
+        jsr wcisniete
+        beq @puszczony
         dec czekanie
-        jmp @czekaj
-@wcisniete:
-        lda czekanie
+        bne @puszczony
+        jsr zapisz_wynik
+        bcs :+
+        jsr wpisz_inicjaly
+:       pisz_w 12, t_dalej
+@czekaj:
+        jsr klatka_ekranu
+        jsr wcisniete
         bne @czekaj
 czekaj_na_puszczenie:
         jsr czekaj_klatke
@@ -294,7 +340,7 @@ rysuj_logo:
         sty poczatek
 @bit:   asl bity
         bcc :+
-        lda #BLOK
+        lda cegla
         sta (linijka),y
 :       iny
         tya
@@ -320,11 +366,19 @@ rysuj_logo:
         bne @rzad
         rts
 
+; A frame of a screen at the end of a game.
+klatka_ekranu:
+        lda swieto
+        beq klatka_tytulu
+        lda RTCLOK+2                    ; the next hue every 32 frames
+        lsr
+        and #$F0
+        sta barwa_tekstu
 ; Waits for the next frame of a text screen, whose key is M.
 klatka_tytulu:
         jsr czekaj_klatke
         jsr klawisz_muzyki
-; Below the name the heroine walks across the screen, followed by a tracker.
+; Below the name the heroine walks across the screen, followed by a tracker, or the other way round.
 idz_pod_logo:
         jsr ozyw_znaki
         dec do_kroku
@@ -344,12 +398,12 @@ idz_pod_logo:
         bpl @czysc
         cpx #40
         bcs @tropiciel
-        lda #IDZIE_PRAWO
+        lda prowadzi
         sta logo + (LOGO_WIERSZE - 1) * 40,x
 @tropiciel:
         cpx #POSCIG
         bcc @nic
-        lda #TROPICIEL + PRAWO
+        lda goni
         sta logo + (LOGO_WIERSZE - 1) * 40 - POSCIG,x
 @nic:   rts
 
@@ -359,9 +413,9 @@ pisz_linie:
         sta skad_tytul
         lda #>tytuly
         sta skad_tytul+1
-        lda #<(ekran + 1 * 40 + POLE)
+        lda #<(ekran + POLE)
         sta linijka
-        lda #>(ekran + 1 * 40 + POLE)
+        lda #>(ekran + POLE)
         sta linijka+1
         ldx #LINIE
 @linia: ldy #0
