@@ -169,6 +169,7 @@ TEST_F(Stage, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
     Form_QueryUnload(e);
     EXPECT_EQ(readFile(etap(1))[uklad::NAZWA + 15], 33);
     EXPECT_EQ(text(TXT_AUTOR).znaki, std::string(64, 'q')) << "full texts stay as they are";
+    EXPECT_EQ(text(TXT_AUTOR_GRY + 1).znaki, "OLA" + std::string(17, ' '));
     const Bajty lines = readFile(base / "PLIKI/DP1.DTA");
     EXPECT_EQ(lines[20], 'O');
 
@@ -202,6 +203,7 @@ TEST_F(Stage, ClearBuildsTheWalledField) {
     EXPECT_EQ(cell(5, 5), znak(5));
     for (PokazanyZnak& pokazany : e.okno.imgPG)
         pokazany.znak = BOMBA;
+    e.okno.pola[TXT_AUTOR].tekst = ascii("ala");
     cmdCzysc_Click(e);
     EXPECT_TRUE(e.okno.txtAutorEnabled);
     EXPECT_EQ(shown.back(), "Czyszczenie usunie całą zawartość mapy!\nKontynuować?");
@@ -213,6 +215,7 @@ TEST_F(Stage, ClearBuildsTheWalledField) {
     EXPECT_EQ(e.okno.hscMonet, 1);
     EXPECT_EQ(e.okno.etapInfo.celMasek, 1);
     EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst, Tekst::spaces(32));
+    EXPECT_EQ(e.okno.pola[TXT_AUTOR].tekst, Tekst::spaces(64));
     EXPECT_EQ(readFile(etap(1)), sampleEtap(1));
     e.okno.optNN = 1;
     ClearEtap(e);
