@@ -275,6 +275,7 @@ TEST_F(Damage, EveryOtherLengthIsKept) {
         run(cmdLoad_Click, "obcy");
         ASSERT_EQ(said(), length == ETAP_SIZE_BYTES ? "" : "Niewłaściwy format pliku!");
         ASSERT_EQ(disk.find(at("obcy"))->bytes, damaged);
+        ASSERT_EQ(e.OstatniaSciezka, at("obcy"));
         ASSERT_TRUE(unpack(sampleEtap(1)));
     }
 }

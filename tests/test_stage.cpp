@@ -123,12 +123,8 @@ TEST_F(Stage, TheLastOneIsMarkedAsSuch) {
     EXPECT_EQ(e.okno.chkOstatni, 0);
 }
 
-TEST_F(Stage, LoadTakesOnlyFilesOf931Bytes) {
+TEST_F(Stage, LoadTakesAStageOverIntoTheCurrentOne) {
     start();
-    writeFile(root / "obcy", Bajty(932, 1));
-    run(cmdLoad_Click, "obcy");
-    EXPECT_EQ(said(), "Niewłaściwy format pliku!");
-    EXPECT_EQ(e.OstatniaSciezka, root / "obcy");
     writeFile(root / "obcy", sampleEtap(17));
     run(cmdLoad_Click, "obcy");
     EXPECT_EQ(e.okno.hscMonet, 17);
