@@ -262,6 +262,14 @@ def records():
         yield (f"{what} has its end, and a result and stars or nothing of the kind",
                (*dumps["cegla"], any(dumps["wyniki"]), any(dumps["premie"])), (end, found, found))
 
+def pages():
+    """Left alone, the title shows the tiles. The stick ends that and does nothing else, fire begins a game."""
+    for keys, after in ("R9", "rysuj_tytul"), ("F9", "graj_etap"):
+        played = play(game, f"-1700 {keys} -1300", ["pokaz_opis", dump("logo", 640), "rysuj_strone", after, "klatka_tytulu",
+                                                   dump("numer_etapu")])
+        yield (f"from page to page, until {keys}", (played.stops[:3], [*played.dumps["logo"][41:43]]),
+               (["pokaz_opis", "rysuj_strone", after], [12, 0]))
+
 def overlay():
     """In each world the two players cover the heroine's cell and nothing else."""
     commands = ["wcisniete", f"BPC {address['graj_etap']:X}"]
@@ -400,7 +408,7 @@ def machines():
     yield "a machine of 64 KB shows what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
 
 CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (tunes,), (music, "-pal", 50),
-          (music, "-ntsc", 60), (records,), (overlay,), (only_stage,), (all_stages,), (motion,), (foreign_codes,),
+          (music, "-ntsc", 60), (records,), (pages,), (overlay,), (only_stage,), (all_stages,), (motion,), (foreign_codes,),
           (bars,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
           (reset, "-basic"), (machines,)]
 

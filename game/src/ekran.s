@@ -5,7 +5,7 @@
 ; changes the colours while the beam draws an empty line.
 .include "atari.inc"
 .include "reguly.inc"
-.export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, wez_kolory, blysnij, czekaj_klatke, czekaj_klatki, czysc_tekst
+.export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, pokaz_opis, wez_kolory, blysnij, czekaj_klatke, czekaj_klatki, czysc_tekst
 .export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, panel_paskow, kolory
 .import barwa_tekstu
 .import pokaz_nakladke, schowaj_nakladke, plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
@@ -26,6 +26,7 @@ po_liscie: .res 2       ; the first interrupt of the current display list
 
 .segment "LISTY"
 PUSTE8  = $70
+PUSTE6  = $50
 PUSTE4  = $30
 PUSTE3  = $20
 PUSTE2  = $10
@@ -38,6 +39,7 @@ TRYB6   = $06                           ; text, 20 columns in four colours
 SKOK    = $41
 
 OBRAZ   = $22                           ; playfield of 40 columns
+JASNY   = $0C                           ; of a text
 GRACZE  = $18                           ; players, at single-line resolution
 
 lista_planszy:
@@ -72,11 +74,25 @@ lista_tekstu:
         .res TEKST_WIERSZE - 6, TRYB2
         .byte PUSTE3                    ; above the keys of the title
         .res 5, TRYB2
-        .byte PUSTE2 | DLI
+        .byte PUSTA | DLI, PUSTA
         .byte LMS | TRYB4
         .word stopka
         .byte SKOK
         .word lista_tekstu
+
+; A heading, tiles and texts by turns, a line below. It shows the memory from logo on.
+lista_opisow:
+        .byte PUSTE8, PUSTE8
+        .byte LMS | TRYB2
+        .word logo
+    .repeat OPISY_STRONY
+        .byte PUSTE6 | DLI, PUSTA, TRYB4
+        .byte PUSTA | DLI, PUSTA, TRYB2
+    .endrepeat
+        .byte PUSTE8, TRYB2
+        .byte SKOK
+        .word lista_opisow
+        .assert ekran = logo + LOGO_WIERSZE * 40, error, "one piece of memory"
         .assert * - lista_planszy < 256, error, "display lists within a page"
 
 .segment "CODE"
@@ -130,6 +146,24 @@ pokaz_tekst:
         ldx #>zestaw
         lda #<lista_tekstu
         ldy #>lista_tekstu
+        bne pokaz
+
+; Shows a page about the tiles.
+pokaz_opis:
+        lda #<dli_stopka
+        ldx #>dli_stopka
+        jsr ustaw_dli
+        jsr wez_kolory
+        lda #JASNY
+        sta COLOR0+1
+        lda #0
+        sta COLOR0+2
+        sta COLOR0+4
+        lda #OBRAZ
+        sta obraz
+        ldx #>czcionka
+        lda #<lista_opisow
+        ldy #>lista_opisow
 pokaz:  stx CHBAS
         sta SDLSTL
         sty SDLSTL+1
@@ -288,15 +322,15 @@ dli_ramka:
 ; logo -> text
 dli_tekst:
         pha
-        lda #>czcionka
+        lda #0
         sta WSYNC
+        sta COLBK
+        lda #>czcionka
         sta CHBASE
-        lda #$0C
+        lda #JASNY
         sta COLPF1
         lda barwa_tekstu
         sta COLPF2
-        lda #0
-        sta COLBK
         nastepne_dli dli_stopka
         pla
         rti
@@ -304,14 +338,15 @@ dli_tekst:
 ; text -> tiles
 dli_stopka:
         pha
-        lda #>zestaw
+        lda kolory + 8
         sta WSYNC
+        sta COLBK
+        lda #>zestaw
         sta CHBASE
         lda kolory + 5
         sta COLPF1
         lda kolory + 6
         sta COLPF2
-        lda kolory + 8
-        sta COLBK
+        nastepne_dli dli_tekst          ; on a page about the tiles
         pla
         rti

@@ -4,7 +4,7 @@
 .include "tekst.inc"
 .export pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi
 .export t_cel, t_grasz, t_klawisze1, t_klawisze2, t_klawisze3, t_klawisze4, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
-.export t_etap_nr, t_nowy, t_dalej, t_wielka, t_wielka2, t_rekord, t_inicjaly, t_litery
+.export t_etap_nr, t_nowy, t_dalej, t_wielka, t_wielka2, t_rekord, t_inicjaly, t_litery, t_opisy
 .exportzp napis
 
 .segment "ZEROPAGE"
@@ -26,6 +26,7 @@ t_wygrana2:  tekst "DORVA PRZESZlA OSTATNI ETAP"
 t_wielka:    tekst "DORVA PRZESZlA CAla GRe"
 t_wielka2:   tekst "OD PIERWSZEGO ETAPU DO OSTATNIEGO!"
 t_rekord:    tekst "PREMIA "
+t_opisy:     tekst "CO CZEKA NA PLANSZY"
 t_inicjaly:  tekst "TWOJE INICJAlY    "
 t_litery:    tekst "JOYSTICK - LITERY   FIRE - DALEJ"
 t_dalej:     tekst "     FIRE LUB START - DALEJ     "

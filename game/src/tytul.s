@@ -8,11 +8,12 @@
 .include "muzyka.inc"
 .include "tekst.inc"
 .export tytul, klatka_ekranu, wcisniete, czekaj_na_puszczenie, drazek_liczy, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
+.exportzp skad
 .importzp numer_etapu, napis
 .import pierwszy_etap, od_pierwszego, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
 .import ozyw_znaki
 .import czysc_tekst, pokaz_tekst, wez_kolory, czekaj_klatke, wczytaj_etap, wez_etap, etap_probny, powitanie
-.import zapisz_wynik, wpisz_inicjaly, sa_wyniki, pisz_wyniki, pisz_gwiazdki, pisz_rekord
+.import pokaz_opisy, zapisz_wynik, wpisz_inicjaly, sa_wyniki, pisz_wyniki, pisz_gwiazdki, pisz_rekord
 .import t_cel, t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3, t_klawisze4, t_wielka, t_wielka2
 .import t_dalej, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 
@@ -21,6 +22,7 @@ LINIE     = 3
 W_LEWO    = %0100                       ; bits of the stick, 1 while pushed
 W_PRAWO   = %1000
 KLATKI_WIDOKU = 250                     ; frames for which the title shows the keys, then the best results
+WIDOKI    = 4                           ; so many times, then what the tiles do
 WIDOK     = ekran + 10 * 40             ; where it does
 WIDOK_BAJTY = 5 * 40
 KLATKI_KROKU = 7
@@ -39,7 +41,7 @@ litery: .byte %11110, %10001, %10001, %10001, %11110
         .byte %01110, %10001, %11111, %10001, %10001
 
 .segment "ZEROPAGE"
-skad_tytul: .res 2
+skad:   .res 2          ; what is written
 linijka: .res 2
 
 .segment "BSS"
@@ -96,7 +98,16 @@ tytul:  lda pierwszy_etap
         lda #KLATKI_WIDOKU
         sta do_widoku
         inc widok
-        jsr rysuj_widok
+        lda widok
+        cmp #WIDOKI
+        bcc @widok
+        jsr pokaz_opisy
+        jsr drazek_liczy                ; a stick that ended it doesn't choose
+        lda #0
+        sta widok
+        jsr rysuj_tytul
+        jmp @czekaj
+@widok: jsr rysuj_widok
 :       jsr etap_probny
         bcs @czekaj
         jsr drazek_liczy
@@ -120,6 +131,11 @@ tytul:  lda pierwszy_etap
         jsr wez_etap
         jsr wez_kolory
         jsr nazwij_etap
+        lda #0
+        sta widok
+        lda #KLATKI_WIDOKU
+        sta do_widoku
+        jsr rysuj_widok
         jmp @czekaj
 
 ; A := the directions of the stick that count in this frame, 0 for none: when it moves, and again and again while it is
@@ -410,16 +426,16 @@ idz_pod_logo:
 ; Writes the three title lines, each from its start column on, up to the first 155.
 pisz_linie:
         lda #<tytuly
-        sta skad_tytul
+        sta skad
         lda #>tytuly
-        sta skad_tytul+1
+        sta skad+1
         lda #<(ekran + POLE)
         sta linijka
         lda #>(ekran + POLE)
         sta linijka+1
         ldx #LINIE
 @linia: ldy #0
-        lda (skad_tytul),y
+        lda (skad),y
         clc
         adc linijka                     ; the column, minus one for the byte in front of the text
         sta linijka
@@ -430,7 +446,7 @@ pisz_linie:
         dec linijka+1
 :       dec linijka
         iny
-@znak:  lda (skad_tytul),y
+@znak:  lda (skad),y
         cmp #TYTUL_KONIEC
         beq @koniec
         sta (linijka),y
@@ -441,7 +457,7 @@ pisz_linie:
         ldy #0
         sec                             ; back to the left edge, two screen lines down
         lda linijka
-        sbc (skad_tytul),y
+        sbc (skad),y
         sta linijka
         bcs :+
         dec linijka+1
@@ -452,11 +468,11 @@ pisz_linie:
         bcc :+
         inc linijka+1
 :       clc
-        lda skad_tytul
+        lda skad
         adc #TYTUL_BAJTY
-        sta skad_tytul
+        sta skad
         bcc :+
-        inc skad_tytul+1
+        inc skad+1
 :       dex
         bne @linia
         rts
