@@ -140,7 +140,7 @@ TEST(Ostrzezenia, EachFaultHasItsWords) {
         {"więcej niż jedno wyjście: 2", [&](auto& image) { put(image, 210, 9); }},
         {"znaki bez obrazka, o kodach: 64, 255",
          [&](auto& image) { put(image, 210, 255), put(image, 211, 64), put(image, 212, 64); }},
-        {"obce znaki na krawędzi, kratek: 2",
+        {"obce znaki na brzegu, kratek: 2",
          [&](auto& image) { put(image, 0, 1), put(image, 799, 5 + INV), put(image, 1, 6), put(image, 2, 0); }},
         {"puste powitanie", [](auto& image) { std::fill_n(image.begin() + uklad::NAZWA, NAZWA_WIDTH, Bajt{0}); }},
         {"edytor nie odczyta całego etapu: cel masek to 0", [](auto& image) { image[uklad::CEL_MASEK] = 0; }},

@@ -56,7 +56,7 @@ void addKrawedz(Teksty& teksty, std::span<const Bajt> plansza) {
         count += isEdge(cell) && z != NIC && z != MUREK_PIONOWY && z != MUREK_POZIOMY;
     }
     if (count > 0)
-        teksty.push_back("obce znaki na krawędzi, kratek: " + text(count));
+        teksty.push_back("obce znaki na brzegu, kratek: " + text(count));
 }
 
 Teksty ownOf(const Karta& karta) {
