@@ -1,7 +1,7 @@
 #!/bin/bash
 # pictures.sh: draws the pictures docs/obrazy/znaki*.png from the built tile sets, and takes okno*.png again from the
-# running program, while it paints the stage of the guide's first ten minutes, and emulator*.png. Needs a build, Xvfb,
-# openbox, xdotool, ImageMagick and atari800.
+# running program, while it paints the stage of the guide's first ten minutes, przeglad*.png from the overview, and
+# emulator*.png. Needs a build, Xvfb, openbox, xdotool, ImageMagick and atari800.
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -74,6 +74,19 @@ shot kopie root
 xdotool key Escape sleep 0.4
 close
 
+# The overview: stage 7 can't be won, its earlier versions could.
+put() { printf %b "$2" | dd of="$1" bs=1 seek="$3" conv=notrunc status=none; } # put FILE BYTES OFFSET
+put "$copies/DETAP.7.0121 2026-11-24 17.40" '\0\0\0\0\0\0\0\0\0\0\0\0' 487
+put "$copies/DETAP.7.0122 2026-11-24 18.05" '\0\0\0\0\0\0' 407
+put "$shop/planszownik/ETAPY/DETAP.7" '\143' 832
+title='Przegląd etapów' start "$shop/planszownik/przeglad" 2>/dev/null
+xdotool key F8 sleep 0.5
+shot przeglad
+xdotool key Return sleep 1
+shot wersje "$(xdotool search --onlyvisible --name 'wersje etapu 7' | tail -n 1)"
+xdotool key Escape sleep 0.4
+close
+
 key() { for key; do xdotool keydown "$key" sleep 0.15 keyup "$key" sleep 0.15; done; } # the emulator looks at frames
 atari800 -config "$room/atari" -win-width 672 -win-height 480 >"$room/log" 2>&1 & # its menu, two pixels each
 servers="$! $servers"
@@ -90,6 +103,8 @@ keep paleta okno-paleta 256 434x391+654+47
 keep info okno-info 64 660x40+86+354
 keep pytanie okno-pytanie 64 315x105+481+287
 keep kopie okno-kopie 64 759x482+259+99
+keep przeglad przeglad 96
+keep wersje przeglad-wersje 96
 keep klawisze emulator-klawisze 16 640x262+16+40
 
 font=src/qt/zasoby/czcionki/LiberationSans
