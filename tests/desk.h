@@ -151,7 +151,7 @@ protected:
         operation(e);
     }
     // The texts of the message boxes since the last call, with bars in between.
-    std::string said() {
+    std::string messages() {
         std::string all;
         for (const std::string& text : std::exchange(shown, {}))
             all += (all.empty() ? "" : "|") + text;

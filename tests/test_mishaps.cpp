@@ -260,7 +260,7 @@ TEST_F(Damage, EveryFlippedBitIsTakenOverOrKept) {
         ASSERT_TRUE(unpack(sampleEtap(1)));
     }
     EXPECT_EQ(refused, 15);
-    EXPECT_EQ(said(), "");
+    EXPECT_EQ(messages(), "");
 }
 
 TEST_F(Damage, EveryOtherLengthIsKept) {
@@ -273,7 +273,7 @@ TEST_F(Damage, EveryOtherLengthIsKept) {
         ASSERT_EQ(disk.find(file)->bytes, sampleEtap(length < ETAP_SIZE_BYTES ? 1 : 2));
         disk.put(at("obcy"), damaged);
         run(cmdLoad_Click, "obcy");
-        ASSERT_EQ(said(), length == ETAP_SIZE_BYTES ? "" : "Niewłaściwy format pliku!");
+        ASSERT_EQ(messages(), length == ETAP_SIZE_BYTES ? "" : "Niewłaściwy format pliku!");
         ASSERT_EQ(disk.find(at("obcy"))->bytes, damaged);
         ASSERT_EQ(e.OstatniaSciezka, at("obcy"));
         ASSERT_TRUE(unpack(sampleEtap(1)));

@@ -48,7 +48,7 @@ TEST_F(GameBuild, GameHoldsAllStagesAndNothingElseChanges) {
     start();
     cell(4, 4) = KLUCZ;
     run(cmdCreate_Click, "gra.xex");
-    EXPECT_EQ(said(), "Został utworzony plik XEX z grą Dorva.\nUruchomić grę na emulatorze Atari?");
+    EXPECT_EQ(messages(), "Został utworzony plik XEX z grą Dorva.\nUruchomić grę na emulatorze Atari?");
     cmdORN_Click(e);
     EXPECT_EQ(started, (decltype(started){{base / "PLIKI/DP3.BAT", OknoProgramu::Hidden},
                                           {base / "OBIEKTY/ORN.exe", OknoProgramu::Normal}}));
@@ -101,7 +101,7 @@ TEST_F(GameBuild, TestBuildTakesTheBoardAndMarksItLast) {
         ASSERT_TRUE(SetOstatni(e, ostatni));
         cmdTest_Click(e);
         EXPECT_EQ(e.okno.chkOstatni, ostatni) << "the box holds what it held";
-        EXPECT_EQ(said(), "Został utworzony plik XEX z testowanym etapem.\nUruchomić plik na emulatorze Atari?");
+        EXPECT_EQ(messages(), "Został utworzony plik XEX z testowanym etapem.\nUruchomić plik na emulatorze Atari?");
     }
     EXPECT_FALSE(fs::exists(etap(20)));
 

@@ -153,7 +153,7 @@ TEST_F(FilesPosix, ReadOnlyTreeAndReadOnlyFiles) {
             start();
             cell(5, 5) = BOMBA;
             SelectEtapNR(e, 31);
-            EXPECT_TRUE(said().starts_with("Nie można zapisać etapu."));
+            EXPECT_TRUE(messages().starts_with("Nie można zapisać etapu."));
             EXPECT_EQ(e.NumerEtapu, 1);
             EXPECT_EQ(e.okno.optEtapNR, 0);
             EXPECT_TRUE(e.okno.chkOstatniEnabled);

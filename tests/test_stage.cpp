@@ -134,26 +134,26 @@ TEST_F(Stage, LoadTakesAStageOverIntoTheCurrentOne) {
     run(cmdLoad_Click, "nie ma");
     EXPECT_EQ(e.OstatniaSciezka, root / "nie ma");
     EXPECT_FALSE(fs::exists(root / "nie ma"));
-    EXPECT_EQ(said(), "");
+    EXPECT_EQ(messages(), "");
 }
 
 TEST_F(Stage, SaveAsksBeforeItReplaces) {
     start();
     SelectEtapNR(e, 6);
     run(cmdSave_Click, "kopia etapu");
-    EXPECT_EQ(said(), "Dane etapu zostały pomyślnie zapisane");
+    EXPECT_EQ(messages(), "Dane etapu zostały pomyślnie zapisane");
     EXPECT_EQ(readFile(root / "kopia etapu"), sampleEtap(7));
     writeFile(root / "inny", {1, 2, 3});
     answers = {false};
     run(cmdSave_Click, "inny");
-    EXPECT_EQ(said(), "Plik już istnieje!\nZastąpić?");
+    EXPECT_EQ(messages(), "Plik już istnieje!\nZastąpić?");
     EXPECT_EQ(readFile(root / "inny"), (Bajty{1, 2, 3}));
     EXPECT_EQ(e.OstatniaSciezka, root / "kopia etapu");
     run(cmdSave_Click, "brak/folderu");
     EXPECT_EQ(e.OstatniaSciezka, root / "brak/folderu");
     chosen = "";
     cmdSave_Click(e);
-    EXPECT_EQ(said(), "") << "a dialog that names no file is cancelled";
+    EXPECT_EQ(messages(), "") << "a dialog that names no file is cancelled";
 }
 
 TEST_F(Stage, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
@@ -183,7 +183,7 @@ TEST_F(Stage, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
     for (const auto& row : rows) {
         const Tekst before = std::exchange(text(row.box), ascii(std::string(row.length, 'A')));
         run(row.operation, "plik");
-        EXPECT_EQ(said(), row.message);
+        EXPECT_EQ(messages(), row.message);
         text(row.box) = before;
     }
     EXPECT_EQ(e.okno.optEtapNR, 0);
@@ -226,7 +226,7 @@ TEST_F(Stage, AnArchiveRestoresEveryStageAndTheTitleLines) {
     writeFile(base / "PLIKI/DP1.DTA", lines);
     start();
     run(cmdSaveArch_Click, "gra.dpa");
-    EXPECT_EQ(said(), "Archiwum zostało pomyślnie zapisane");
+    EXPECT_EQ(messages(), "Archiwum zostało pomyślnie zapisane");
     const Bajty archive = readFile(*chosen);
     ASSERT_EQ(archive.size(), ARCHIWUM_SIZE_BYTES);
     EXPECT_TRUE(std::equal(lines.begin(), lines.end(), archive.begin()));
@@ -241,7 +241,7 @@ TEST_F(Stage, AnArchiveRestoresEveryStageAndTheTitleLines) {
     EXPECT_EQ(e.NumerEtapu, 7);
     EXPECT_EQ(e.okno.hscMonet, 7);
     EXPECT_EQ(e.okno.pola[TXT_AUTOR_GRY].tekst.znaki[0], '\xA3');
-    EXPECT_EQ(said(), "");
+    EXPECT_EQ(messages(), "");
     for (int number = 1; number <= ETAPY_COUNT; ++number)
         EXPECT_EQ(readFile(etap(number)), sampleEtap(number)) << number;
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA"), lines);
@@ -253,11 +253,11 @@ TEST_F(Stage, AnArchiveOfAnotherLengthChangesNothing) {
     start();
     const auto before = e.OstatniaSciezka;
     run(cmdLoadArch_Click, "zle.dpa");
-    EXPECT_EQ(said(), "") << "a missing file gives no message";
+    EXPECT_EQ(messages(), "") << "a missing file gives no message";
     for (std::size_t size : {29851U, 29853U}) {
         writeFile(*chosen, Bajty(size, 1));
         cmdLoadArch_Click(e);
-        EXPECT_EQ(said(), "Niewłaściwy format pliku!");
+        EXPECT_EQ(messages(), "Niewłaściwy format pliku!");
     }
     EXPECT_EQ(e.OstatniaSciezka, before);
     EXPECT_EQ(readFile(etap(2)), sampleEtap(2));
@@ -275,7 +275,7 @@ TEST_F(Stage, AnArchiveNeedsAllStagesAndTheTitleLines) {
     cmdSaveArch_Click(e);
     EXPECT_TRUE(dialogs.empty());
     EXPECT_EQ(readFile(etap(20)).size(), 0U);
-    EXPECT_EQ(said(), "");
+    EXPECT_EQ(messages(), "");
 }
 
 TEST_F(Stage, AnArchiveMayBreakOffOrHoldARefusedField) {

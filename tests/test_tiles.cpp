@@ -172,7 +172,7 @@ TEST_F(Tiles, PaletteDialogWritesTheChosenSlot) {
     PickKolor(e, 0);
     cmdResetKolory_Click(e);
     const std::string blocked = "Nie można zmienić kolorów ponieważ\nustawiony jest znacznik \"Blokuj kolory\".";
-    EXPECT_EQ(said(), blocked + "|" + blocked);
+    EXPECT_EQ(messages(), blocked + "|" + blocked);
     EXPECT_EQ(e.WybranySlot, 11);
     Form_Unload(e);
     EXPECT_FALSE(e.okno.lblKolor[11].wybrany || e.okno.dlgPaleta.otwarte);
