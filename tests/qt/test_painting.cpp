@@ -114,13 +114,16 @@ TEST_F(Painting, OnlyWhatChangedIsRepainted) {
             QTest::qWait(50);
             return std::exchange(region, {});
         }
-    } ofBoard, ofPicker;
+    } ofBoard, ofPicker, ofBufor;
     board->installEventFilter(&ofBoard);
     find("imgZnak")->installEventFilter(&ofPicker);
+    find("imgBufor")->installEventFilter(&ofBufor);
     (void)ofBoard.painted();
+    ofBufor.region = {};
     clickSlot(7);
     press(10 * 40 + 10);
     EXPECT_EQ(ofBoard.painted(), QRegion(160, 160, 16, 16));
+    EXPECT_FALSE(ofBufor.painted().isEmpty());
     moveOver(56);
     (void)ofPicker.painted();
     e.okno.imgZnak[56].enabled = !e.okno.imgZnak[56].enabled; // while the pointer rests on it
