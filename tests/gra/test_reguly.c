@@ -208,7 +208,7 @@ static const struct row walking[] = {
     {"D     ", "r 18 . 5 r 7", "    D"},      /* the same direction again: held, it waits as at first */
     {0, "4", "     D"},
     {"  D   ", "r 2 . 7 l 7", "  D   "}, /* after a rest, a tap of seven ticks is one step */
-    {"D   ", "rd 10", " D"}, /* if the newest direction is barred she goes on in another one */
+    {"D   ", "rd 10", " D"},             /* if the newest direction is barred she goes on in another one */
     {0, "7", "   D"},
     {"D   /|| ", "r 3 d 9", "  D"},
     {0, "1", "/##D"},
