@@ -322,15 +322,14 @@ dli_ramka:
 ; logo -> text
 dli_tekst:
         pha
-        lda #0
+        lda barwa_tekstu
         sta WSYNC
         sta COLBK
+        sta COLPF2
         lda #>czcionka
         sta CHBASE
         lda #JASNY
         sta COLPF1
-        lda barwa_tekstu
-        sta COLPF2
         nastepne_dli dli_stopka
         pla
         rti
