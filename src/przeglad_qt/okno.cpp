@@ -95,8 +95,12 @@ std::string missingText(const Gra& gra) {
     return numbers.empty() ? "" : "\nBrakujące etapy są w nim puste: " + numbers + ".";
 }
 
+void say(QWidget* parent, const Komunikat& komunikat) {
+    (void)showMessageBox(parent, komunikat);
+}
+
 void say(QWidget* parent, const std::string& text, Ikona ikona) {
-    (void)showMessageBox(parent, {TITLE, text, ikona, Przyciski::Ok});
+    say(parent, {TITLE, text, ikona, Przyciski::Ok});
 }
 
 } // namespace
@@ -131,6 +135,8 @@ OknoPrzegladu::OknoPrzegladu(const fs::path& base, std::string_view version)
     addActions();
     connect(&zmiany_, &QUndoStack::cleanChanged, this, [this](bool clean) { setWindowModified(!clean); });
     connect(&zmiany_, &QUndoStack::indexChanged, this, &OknoPrzegladu::showStatus);
+    upuszczenie_.setSingleShot(true);
+    connect(&upuszczenie_, &QTimer::timeout, this, [this] { open(upuszczony_); });
     showGra(readZestaw(SYSTEM_CALLS, base_), base_);
     arkusz_->setFocus();
 }
@@ -262,7 +268,7 @@ void OknoPrzegladu::openEarlier() {
             propozycje.back().obraz.setDevicePixelRatio(devicePixelRatio());
         }
     if (propozycje.empty())
-        return (void)showMessageBox(this, NIE_MA_GIER);
+        return say(this, NIE_MA_GIER);
     if (const auto chosen = chooseObraz(this, "Wcześniejsze gry", "&Otwórz", propozycje))
         open(paths[*chosen]);
 }
@@ -274,7 +280,7 @@ void OknoPrzegladu::chooseWersja() {
     const Karta& karta = model_.gra().karty[place];
     const auto wersje = listWersje(SYSTEM_CALLS, base_, karta.numer, karta.image);
     if (wersje.empty())
-        return (void)showMessageBox(this, NIE_MA_WERSJI);
+        return say(this, NIE_MA_WERSJI);
     std::vector<Propozycja> propozycje;
     for (const auto& [image, made] : wersje) {
         propozycje.push_back({rysownik_.plansza(image, qRound(8 * devicePixelRatio())), czasKopii(made)});
@@ -291,12 +297,17 @@ bool OknoPrzegladu::writeAsked(std::string_view name, std::string_view filter, s
         return false;
     if (!path->has_extension())
         *path += fs::path(name).extension();
-    if (isInZestaw(SYSTEM_CALLS, base_, *path))
-        return showMessageBox(this, ZESTAW_ROBOCZY) && false;
+    if (isInZestaw(SYSTEM_CALLS, base_, *path)) {
+        say(this, ZESTAW_ROBOCZY);
+        return false;
+    }
     if (fileExists(SYSTEM_CALLS, *path) && !showMessageBox(this, komunikaty::ZASTAPIC))
         return false;
     ostatniaSciezka_ = *path;
-    return writeWhole(SYSTEM_CALLS, *path, bytes) || (showMessageBox(this, komunikaty::NIE_MOZNA_PLIKU) && false);
+    const bool isWritten = writeWhole(SYSTEM_CALLS, *path, bytes);
+    if (!isWritten)
+        say(this, komunikaty::NIE_MOZNA_PLIKU);
+    return isWritten;
 }
 
 bool OknoPrzegladu::saveArchiwum() {
@@ -317,7 +328,7 @@ void OknoPrzegladu::saveObraz() {
     QByteArray png;
     QBuffer buffer(&png);
     if (!rysownik_.arkusz(model_.gra()).save(&buffer, "PNG"))
-        return (void)showMessageBox(this, komunikaty::NIE_MOZNA_PLIKU);
+        return say(this, komunikaty::NIE_MOZNA_PLIKU);
     const Bajty bytes(png.begin(), png.end());
     if (writeAsked("Dorva - etapy.png", FILTR_OBRAZU, bytes))
         statusBar()->showMessage("Zapisano obraz " + nameOfPath(ostatniaSciezka_));
@@ -354,11 +365,10 @@ void OknoPrzegladu::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void OknoPrzegladu::dropEvent(QDropEvent* event) {
-    const QString name = event->mimeData()->urls().first().toLocalFile();
+    upuszczony_ = toPath(event->mimeData()->urls().first().toLocalFile());
     event->acceptProposedAction();
     // Not before the other program is told that the drop is done: a message would hold it up.
-    QMetaObject::invokeMethod(
-        this, [this, name] { open(toPath(name)); }, Qt::QueuedConnection);
+    upuszczenie_.start(0);
 }
 
 } // namespace dorva

@@ -6,6 +6,7 @@
 #include "tiles/magazyn.h"
 
 #include <QMainWindow>
+#include <QTimer>
 #include <QUndoStack>
 
 #include <filesystem>
@@ -50,11 +51,12 @@ private:
     // Asks for a file and writes it. False if the user cancelled, or the file is refused or can't be written.
     bool writeAsked(std::string_view name, std::string_view filter, std::span<const Bajt> bytes);
 
-    std::filesystem::path base_, zrodlo_, ostatniaSciezka_;
+    std::filesystem::path base_, zrodlo_, ostatniaSciezka_, upuszczony_;
     Magazyn frmZestawy_;
     Rysownik rysownik_{frmZestawy_};
     KartyModel model_;
     QUndoStack zmiany_;
+    QTimer upuszczenie_; // opens what was dropped, once the drop is over
     Arkusz* arkusz_;
     QLabel *opis_, *linie_, *ostrzezenia_;
     bool saidStored_ = false; // that the editor's stage is here as it was last stored
