@@ -216,18 +216,18 @@ TEST_F(Przeglad, EarlierVersionsComeNewestFirstAndOnce) {
         ASSERT_TRUE(keepCopy(SYSTEM_CALLS, file, bytes, time, ending));
     };
     Bajty game = sampleArchiwum();
-    keep(etap(7), 1, sampleEtap(1));
-    keep(etap(7), 3, sampleEtap(3));
+    keep(etap(7), 0, sampleEtap(3));
+    keep(etap(7), 3, sampleEtap(4));
     keep(etap(7), 5, sampleEtap(7));
+    keep(etap(7), 1, sampleEtap(1)); // a file that was older than the screen before it
     keep(etap(7), 6, Bajty(930));
     keep(base / sciezki::ARCHIWUM, 2, game, ".dpa"); // holds stage 26 as the seventh
     std::copy_n(sampleEtap(3).begin(), ETAP_SIZE_BYTES, game.begin() + AUTOR_GRY_SIZE_BYTES + 6 * ETAP_SIZE_BYTES);
     keep(base / sciezki::ARCHIWUM, 4, game, ".dpa");
     const auto wersje = listWersje(SYSTEM_CALLS, base, 7, sampleEtap(7));
-    ASSERT_EQ(wersje.size(), 3U);
-    EXPECT_EQ(wersje[0].image, sampleEtap(3));
-    EXPECT_EQ(wersje[1].image, sampleEtap(26));
-    EXPECT_EQ(wersje[2].image, sampleEtap(1));
+    ASSERT_EQ(wersje.size(), 4U);
+    for (int i = 0; const int number : {3, 4, 26, 1})
+        EXPECT_EQ(wersje[i++].image, sampleEtap(number)) << number;
     EXPECT_EQ(wersje[0].made.size(), 16U);
     EXPECT_GT(wersje[0].made, wersje[1].made);
     EXPECT_EQ(readFile(listGry(SYSTEM_CALLS, base).front().path), game);

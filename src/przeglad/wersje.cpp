@@ -6,23 +6,21 @@
 
 #include <algorithm>
 #include <functional>
-#include <iterator>
 
 namespace dorva {
 
 std::vector<Wersja> listWersje(const SystemCalls& system, const std::filesystem::path& base, int number,
                                const EtapImage& present) {
-    std::vector<Wersja> copies, parts, all;
+    std::vector<Wersja> all, different;
     for (const Kopia& kopia : listCopies(system, sciezki::etap(base, number)))
         if (const auto image = readFirst(system, kopia.path, ETAP_SIZE_BYTES))
-            copies.push_back({*image, kopia.made});
+            all.push_back({*image, kopia.made});
     for (const Kopia& kopia : listGry(system, base))
         if (const auto archiwum = readFirst(system, kopia.path, ARCHIWUM_SIZE_BYTES)) {
             const auto image = etapOf(*archiwum, number);
-            parts.push_back({{image.begin(), image.end()}, kopia.made});
+            all.push_back({{image.begin(), image.end()}, kopia.made});
         }
-    std::ranges::merge(copies, parts, std::back_inserter(all), std::greater(), &Wersja::made, &Wersja::made);
-    std::vector<Wersja> different;
+    std::ranges::stable_sort(all, std::greater(), &Wersja::made);
     for (const Wersja& wersja : all)
         if (wersja.image != present && std::ranges::find(different, wersja.image, &Wersja::image) == different.end())
             different.push_back(wersja);
