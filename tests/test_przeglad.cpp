@@ -143,7 +143,7 @@ TEST(Ostrzezenia, EachFaultHasItsWords) {
         {"obce znaki na brzegu, kratek: 2",
          [&](auto& image) { put(image, 0, 1), put(image, 799, 5 + INV), put(image, 1, 6), put(image, 2, 0); }},
         {"puste powitanie", [](auto& image) { std::fill_n(image.begin() + uklad::NAZWA, NAZWA_WIDTH, Bajt{0}); }},
-        {"edytor nie odczyta całego etapu: cel masek to 0", [](auto& image) { image[uklad::CEL_MASEK] = 0; }},
+        {"edytor nie odczyta całego etapu: cel etapu to 0", [](auto& image) { image[uklad::CEL_MASEK] = 0; }},
         {"edytor nie odczyta całego etapu: świat to 4", [](auto& image) { image[uklad::SWIAT] = 3; }},
         {"taki sam jak etap 1", [](auto& image) { image = faultless(1); }},
         {"OSTATNI, a po nim niepustych etapów: 30", [](auto& image) { image[uklad::OSTATNI] = 1; }},

@@ -42,7 +42,7 @@ void takeOstatni(Gra& gra) {
 std::string refusal(const EtapImage& image) {
     const int cel = image[uklad::CEL_MASEK], ostatni = image[uklad::OSTATNI], swiat = image[uklad::SWIAT];
     if (cel < CEL_MIN || cel > CEL_MAX)
-        return "cel masek to " + std::to_string(cel);
+        return "cel etapu to " + std::to_string(cel);
     if (ostatni > OSTATNI_MAX)
         return "znacznik OSTATNI to " + std::to_string(ostatni);
     if (swiat >= SWIATY_COUNT)
