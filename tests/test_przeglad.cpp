@@ -203,6 +203,15 @@ TEST(Ustawianie, StagesMoveAndMarksStay) {
     const Gra older = replaced(gra, 4, faultless(31));
     EXPECT_EQ(older.karty[4].image[uklad::OSTATNI], 2);
     EXPECT_EQ(older.karty[4].numer, 5);
+    Gra lost = faultlessGra(); // two places whose marks only earlier versions know
+    lost.karty[3] = {{}, "brak", 4}, lost.karty[31] = {{}, "brak", 32};
+    takeOstatni(lost);
+    EtapImage last = faultless(4);
+    last[uklad::OSTATNI] = 1;
+    EXPECT_EQ(replaced(lost, 3, last).karty[3].image, last);
+    EXPECT_EQ(replaced(lost, 31, faultless(4)).karty[31].image, last) << "place 32 is always marked";
+    EXPECT_EQ(replaced(exchanged(lost, 3, 0), 0, last).karty[0].image, faultless(4)) << "a place of another stage";
+
     Gra bad = faultlessGra();
     bad.karty[0].image[uklad::OSTATNI] = 7;
     takeOstatni(bad);

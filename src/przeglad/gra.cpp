@@ -9,6 +9,12 @@ namespace {
 
 constexpr Bajt OSTATNI_MAX = 2; // drawn half checked in the editor
 
+// The mark that a stage gives the place where it was read.
+Bajt markOf(const EtapImage& image, int place) {
+    const Bajt mark = !image.empty() && image[uklad::OSTATNI] <= OSTATNI_MAX ? image[uklad::OSTATNI] : Bajt{0};
+    return place == ETAPY_COUNT - 1 && mark == 0 ? Bajt{1} : mark;
+}
+
 // Gives each stage that has come to another place the mark of that place.
 void stamp(Gra& gra, const Gra& before) {
     for (int i = 0; i < ETAPY_COUNT; ++i)
@@ -30,13 +36,8 @@ bool isWall(Znak z) {
 } // namespace
 
 void takeOstatni(Gra& gra) {
-    for (int i = 0; i < ETAPY_COUNT; ++i) {
-        const EtapImage& image = gra.karty[i].image;
-        const bool hasMark = !image.empty() && image[uklad::OSTATNI] <= OSTATNI_MAX;
-        gra.ostatni[i] = hasMark ? image[uklad::OSTATNI] : Bajt{0};
-    }
-    if (gra.ostatni.back() == 0)
-        gra.ostatni.back() = 1;
+    for (int i = 0; i < ETAPY_COUNT; ++i)
+        gra.ostatni[i] = markOf(gra.karty[i].image, i);
 }
 
 std::string refusal(const EtapImage& image) {
@@ -77,6 +78,8 @@ Gra exchanged(Gra gra, int one, int other) {
 }
 
 Gra replaced(Gra gra, int place, const EtapImage& image) {
+    if (const Karta& old = gra.karty[place]; old.image.empty() && old.numer == place + 1)
+        gra.ostatni[place] = markOf(image, place); // it was lost with the stage
     return changed(std::move(gra), [&](auto& karty) { karty[place] = {image, "", karty[place].numer}; });
 }
 
