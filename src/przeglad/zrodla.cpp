@@ -106,6 +106,11 @@ Odczyt readZrodlo(const SystemCalls& system, const std::filesystem::path& path) 
             return {{}, "W tym folderze nie ma etapów (ETAPY/DETAP.1 do DETAP.32)."};
         return {gra, ""};
     }
+    const auto length = lengthOf(system, path);
+    if (length && *length != ARCHIWUM_SIZE_BYTES && *length != GRA_SIZE_BYTES)
+        return {{},
+                "To nie jest archiwum ani gra zbudowana edytorem. Archiwum ma " + std::to_string(ARCHIWUM_SIZE_BYTES) +
+                    " bajtów, gra " + std::to_string(GRA_SIZE_BYTES) + ", a ten plik " + std::to_string(*length) + "."};
     const auto bytes = readWhole(system, path);
     if (!bytes)
         return {{}, fileExists(system, path) ? "Pliku nie można odczytać." : "Nie ma takiego pliku."};
@@ -113,12 +118,7 @@ Odczyt readZrodlo(const SystemCalls& system, const std::filesystem::path& path) 
         return {gra, ""};
     if (auto gra = parseGra(*bytes))
         return {gra, ""};
-    if (bytes->size() == GRA_SIZE_BYTES)
-        return {{}, "Plik ma długość gry, ale nie zbudował jej edytor: nie ma w nim jego linii ekranu tytułowego."};
-    return {{},
-            "To nie jest archiwum ani gra zbudowana edytorem. Archiwum ma " + std::to_string(ARCHIWUM_SIZE_BYTES) +
-                " bajtów, gra " + std::to_string(GRA_SIZE_BYTES) + ", a ten plik " + std::to_string(bytes->size()) +
-                "."};
+    return {{}, "Plik ma długość gry, ale nie zbudował jej edytor: nie ma w nim jego linii ekranu tytułowego."};
 }
 
 } // namespace dorva
