@@ -230,11 +230,12 @@ void OknoPrzegladu::change(const QString& caption, const Gra& after, int place) 
 }
 
 void OknoPrzegladu::open(const fs::path& path) {
+    if (!mayDiscard()) // may also write the very file
+        return;
     const Odczyt odczyt = readZrodlo(SYSTEM_CALLS, path);
     if (!odczyt.gra)
         return say(this, path.filename().string() + "\n\n" + odczyt.dlaczego, Ikona::Critical);
-    if (mayDiscard())
-        showGra(*odczyt.gra, path);
+    showGra(*odczyt.gra, path);
 }
 
 void OknoPrzegladu::askOpen() {

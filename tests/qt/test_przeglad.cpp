@@ -183,6 +183,11 @@ TEST_F(OverviewWindow, AnEarlierVersionComesBackAndTheEditorLoadsIt) {
     EXPECT_EQ(readFile(etap(3)), sampleEtap(3)) << "read when the window opened";
     run("Zapisz archiwum", {name(root / "gra"), "Anuluj"});
     EXPECT_TRUE(said.back().startsWith("Plik już istnieje!")) << "what it says once isn't said again";
+
+    run([&] { przeglad->open(root / "gra.dpa"); }, {});
+    dropCard(0, 1, 0.5);
+    run("Odśwież", {"Zapisz archiwum...", name(root / "gra.dpa"), "OK", "OK"});
+    EXPECT_EQ(gra().karty[1].image, sampleEtap(20)) << "what was saved right before is read";
 }
 
 TEST_F(OverviewWindow, AWrongArchiveIsTakenBack) {
