@@ -161,7 +161,8 @@ void OknoPrzegladu::addActions() {
     etap->addActions({cofnij, ponow});
     etap->addSeparator();
     QAction* wersje = etap->addAction("&Wcześniejsze wersje...", this, &OknoPrzegladu::chooseWersja);
-    connect(arkusz_, &QListView::activated, wersje, &QAction::trigger);
+    wersje->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
+    connect(arkusz_, &QListView::doubleClicked, wersje, &QAction::trigger); // a click may activate, on some desktops
     arkusz_->addAction(wersje);
     arkusz_->setContextMenuPolicy(Qt::ActionsContextMenu);
     etap->addSeparator();

@@ -32,7 +32,7 @@ std::optional<int> chooseObraz(QWidget* parent, const QString& title, const QStr
     layout->addWidget(buttons);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    QObject::connect(list, &QListWidget::itemActivated, &dialog, &QDialog::accept);
+    QObject::connect(list, &QListWidget::itemDoubleClicked, &dialog, &QDialog::accept);
     const bool chosen = dialog.exec() == QDialog::Accepted && list->currentRow() >= 0;
     return chosen ? std::optional(list->currentRow()) : std::nullopt;
 }
