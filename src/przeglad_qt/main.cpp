@@ -4,6 +4,7 @@
 #include "qt/czcionki.h"
 #include "qt/ekran.h"
 #include "qt/program.h"
+#include "qt/sesja.h"
 #include "system/proces.h"
 
 #include <cstdio>
@@ -37,6 +38,7 @@ int main(int argc, char** argv) {
     if (!dorva::prepareFolder(folder))
         return EXIT_FAILURE;
     dorva::OknoPrzegladu okno(folder, DORVA_VERSION);
+    dorva::storeAtSessionEnd(okno);
     dorva::showCentred(okno);
     return QApplication::exec();
 }

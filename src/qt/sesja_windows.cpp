@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QSessionManager>
 #include <QWidget>
 
 namespace dorva {
@@ -15,9 +16,11 @@ void endFileDialog(QFileDialog* dialog) {
 
 // Stores the work but keeps the window open: another program may still cancel the shutdown.
 void storeAtSessionEnd(QWidget& window) {
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window, [&window] {
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window, [&window](QSessionManager& session) {
         QCloseEvent event;
         QCoreApplication::sendEvent(&window, &event);
+        if (!event.isAccepted()) // the user goes on working
+            session.cancel();
     });
 }
 
