@@ -5,6 +5,7 @@
 #include "qt/ekran.h"
 #include "qt/program.h"
 #include "qt/sesja.h"
+#include "system/pliki.h"
 #include "system/proces.h"
 
 #include <cstdio>
@@ -35,7 +36,8 @@ int main(int argc, char** argv) {
     font.setPixelSize(FONT_PIXELS);
     QApplication::setFont(font);
     const auto folder = dorva::ownFolder();
-    if (!dorva::prepareFolder(folder))
+    // Only a fresh package: what is missing later stays missing.
+    if (!dorva::fileExists(dorva::SYSTEM_CALLS, folder / "ETAPY") && !dorva::prepareFolder(folder))
         return EXIT_FAILURE;
     dorva::OknoPrzegladu okno(folder, DORVA_VERSION);
     dorva::storeAtSessionEnd(okno);
