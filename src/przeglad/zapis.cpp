@@ -13,15 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The file behind a symbolic link, also where it is missing: a write would create it.
-fs::path behindLinks(fs::path path) {
-    constexpr int LINKS_MAX = 40;
-    std::error_code error;
-    for (int links = 0; links < LINKS_MAX && fs::is_symlink(path, error); ++links)
-        path = path.parent_path() / fs::read_symlink(path, error);
-    return path;
-}
-
 void append(Bajty& image, const Bajty& bytes) {
     image.insert(image.end(), bytes.begin(), bytes.end());
 }
@@ -59,7 +50,8 @@ bool isInZestaw(const SystemCalls& system, const fs::path& base, const fs::path&
         if (isSameFile(system, file, target))
             return true;
     std::error_code error;
-    const fs::path real = fs::weakly_canonical(behindLinks(fs::absolute(target, error)), error);
+    const fs::path real =
+        fs::weakly_canonical(behindLinks(system, fs::absolute(target, error)).value_or(target), error);
     for (fs::path folder = real; folder != folder.parent_path(); folder = folder.parent_path())
         for (const char* own : {"ETAPY", "PLIKI"})
             if (isSameFile(system, folder, base / own))

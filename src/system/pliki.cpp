@@ -60,20 +60,6 @@ fs::path folderOf(const fs::path& path) {
     return path.has_parent_path() ? path.parent_path() : fs::path(".");
 }
 
-// The file that a path stands for once its symbolic links are followed, also where that file is missing.
-// Nothing if the system can't say: a rename might then replace a link by a file.
-std::optional<fs::path> resolved(const SystemCalls& system, fs::path path) {
-    constexpr int LINKS_MAX = 40;
-    for (int links = 0; links < LINKS_MAX; ++links) {
-        fs::path target;
-        const Result result = system.readLink(path, target);
-        if (result != Result::Ok)
-            return result == Result::Missing ? std::optional(path) : std::nullopt;
-        path = path.parent_path() / target;
-    }
-    return std::nullopt;
-}
-
 // What a write is about to replace: the file behind all links, and its mode if it exists. Nothing if it couldn't be
 // opened for writing; a rename alone would replace read-only files, devices and folders too.
 struct Target {
@@ -82,7 +68,7 @@ struct Target {
 };
 
 std::optional<Target> findTarget(const SystemCalls& system, const fs::path& path) {
-    const auto file = resolved(system, path);
+    const auto file = behindLinks(system, path);
     if (!file)
         return std::nullopt;
     FileInfo info;
@@ -161,6 +147,18 @@ bool fileExists(const SystemCalls& system, const fs::path& path) {
 bool isSameFile(const SystemCalls& system, const fs::path& one, const fs::path& other) {
     bool same = false;
     return system.isSame(one, other, same) == Result::Ok && same;
+}
+
+std::optional<fs::path> behindLinks(const SystemCalls& system, fs::path path) {
+    constexpr int LINKS_MAX = 40;
+    for (int links = 0; links < LINKS_MAX; ++links) {
+        fs::path target;
+        const Result result = system.readLink(path, target);
+        if (result != Result::Ok)
+            return result == Result::Missing ? std::optional(path) : std::nullopt;
+        path = path.parent_path() / target;
+    }
+    return std::nullopt;
 }
 
 bool isWritable(const SystemCalls& system, const fs::path& path) {

@@ -37,6 +37,10 @@ bool fileExists(const SystemCalls&, const std::filesystem::path&);
 // Whether two paths lead to one file; also false if the system can't say.
 bool isSameFile(const SystemCalls&, const std::filesystem::path&, const std::filesystem::path&);
 
+// The file that a path stands for once its symbolic links are followed, also where that file is missing.
+// Nothing if the system can't say: a rename might then replace a link by a file.
+std::optional<std::filesystem::path> behindLinks(const SystemCalls&, std::filesystem::path);
+
 // Whether a regular file exists at the path and may be written.
 bool isWritable(const SystemCalls&, const std::filesystem::path&);
 
