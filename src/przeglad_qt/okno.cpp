@@ -46,7 +46,7 @@ constexpr Komunikat ETAP_W_EDYTORZE{
     "przełącz w nim najpierw na inny etap, a tutaj naciśnij F5.\n\nZapisać archiwum?",
     Ikona::Information, Przyciski::YesNo};
 constexpr Komunikat ZESTAW_ROBOCZY{
-    "Uwaga!", "Foldery ETAPY i PLIKI należą do edytora i przegląd w nich nie pisze.\nWybierz inny folder.",
+    "Uwaga!", "Foldery ETAPY i PLIKI należą do edytora, przegląd niczego w nich nie zapisuje.\nWybierz inny folder.",
     Ikona::Critical, Przyciski::Ok};
 constexpr Komunikat NIE_MA_WERSJI{TITLE, "Innych wersji tego etapu nie ma w folderze KOPIE.", Ikona::Information,
                                   Przyciski::Ok};
@@ -115,6 +115,7 @@ OknoPrzegladu::OknoPrzegladu(const fs::path& base, std::string_view version)
     auto* middle = new QWidget(this);
     opis_ = new QLabel(middle);
     opis_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    opis_->setTextFormat(Qt::PlainText);
     opis_->setWordWrap(true);
     linie_ = new QLabel(middle);
     linie_->setTextFormat(Qt::PlainText);
@@ -194,7 +195,7 @@ void OknoPrzegladu::showGra(const Gra& gra, const fs::path& source) {
     const QString name = QDir::toNativeSeparators(nameOfPath(source));
     opis_->setText(source == base_ ? "Etapy edytora z folderu " + name +
                                          ". Etap otwarty teraz w edytorze jest tu taki, jaki był przy ostatnim zapisie."
-                                   : "Plik " + name);
+                                   : "Otwarto: " + name);
     QStringList linie;
     for (const Tekst& linia : gra.linie)
         linie += toQString(trimmed(linia));
