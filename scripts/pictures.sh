@@ -80,7 +80,7 @@ put "$copies/DETAP.7.0121 2026-11-24 17.40" '\0\0\0\0\0\0\0\0\0\0\0\0' 487
 put "$copies/DETAP.7.0122 2026-11-24 18.05" '\0\0\0\0\0\0' 407
 put "$shop/planszownik/ETAPY/DETAP.7" '\143' 832
 title='Przegląd etapów' start "$shop/planszownik/przeglad" 2>/dev/null
-xdotool key F8 sleep 0.5
+xdotool windowsize --sync "$window" 948 640 key F8 sleep 0.5 # no wider than a page shows it unscaled
 shot przeglad
 xdotool key Return sleep 1
 shot wersje "$(xdotool search --onlyvisible --name 'wersje etapu 7' | tail -n 1)"
