@@ -134,6 +134,7 @@ protected:
         };
         edytor.haki.startProgram = [this](const fs::path& p, OknoProgramu o) { started.emplace_back(p, o); };
         edytor.haki.loadPicture = [this](const fs::path& p, int, int) -> std::optional<Bitmapa> {
+            EXPECT_EQ(p.parent_path().filename(), "ORN_EXPORT");
             const auto found = strips.find(p.filename().string());
             return found == strips.end() ? std::nullopt : std::optional(found->second);
         };
