@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """play-check.py [--pictures] [BUILD]: plays the built game in the emulator atari800 and looks into its memory. Without
 the emulator it says so and ends with success. --pictures: also takes docs/obrazy/gra-*.png and etap-*.png again (needs
-Xvfb and ImageMagick)."""
+Xvfb, ImageMagick and xwd)."""
 import os
 import re
 import shutil
@@ -408,6 +408,21 @@ def keep(*names):
         subprocess.run(["convert", f"{temporary.name}/{name}.png", "+dither", "-colors", "64", "-strip", "-define",
                         "png:exclude-chunks=date,time", f"PNG8:docs/obrazy/gra-{name}.png"], check=True)
 
+FILM_STAGE, FILM_PICTURES = 24, 190
+
+def film(*machine):
+    """The beginning of a stage's recorded run as a moving picture: one look after the other at the running game."""
+    pictures = [Path(f"{temporary.name}/film{number}.xwd") for number in range(101, 101 + FILM_PICTURES)]
+    looks = "; ".join(f"xwd -silent -root -out {picture}; sleep 0.05" for picture in pictures)
+    (Path(temporary.name) / "looks").write_text(f"sleep 0.3; {looks}\n")
+    play(game, f"{TO_GAME} {run_of(FILM_STAGE)}",
+         ["wcisniete", f"BPC {address['graj_etap']:X}", enter(FILM_STAGE), "takt_dorvy",
+          f"!sh {temporary.name}/looks &", "policz_premie"], *machine, shown=True)
+    seconds = pictures[-1].stat().st_mtime - pictures[0].stat().st_mtime
+    subprocess.run(["convert", "-delay", str(round(100 * seconds / (FILM_PICTURES - 1))), *pictures, "-crop", "672x480+0+0",
+                    "+repage", "-sample", "50%", "+dither", "-colors", "24", "-layers", "OptimizePlus", "-strip",
+                    "docs/obrazy/gra-film.gif"], check=True)
+
 # Where the numbers of the panel's table stand, above and below it.
 PANEL_PLACES = [*((x, 1) for x in (41, 164, 281, 408, 571, 738)), *((x, 114) for x in (166, 496, 688, 732, 876))]
 
@@ -418,7 +433,7 @@ def renew_pictures():
         subprocess.run([build / "game/tools/swiaty", "plansza", art, data / f"ETAPY/DETAP.{stage}", board], check=True)
         subprocess.run(["convert", board, "-strip", f"PNG8:{picture}"], check=True)
     reading, writing = os.pipe()
-    display = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-noreset", "-screen", "0", "1024x768x24"],
+    display = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-noreset", "-screen", "0", "672x480x24"],
                                pass_fds=[writing], stderr=subprocess.DEVNULL)
     os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
     machine = ["-pal", "-win-width", "672", "-win-height", "480"]
@@ -435,6 +450,7 @@ def renew_pictures():
         commands += [f"BPC {address['graj_etap']:X}", enter(stage), look(f"etap{stage}"), "takt_dorvy"]
     play(game, "R1 -99 " * 60, commands, *machine, shown=True)  # a move every two seconds ends each greeting
     play(game, f"{TO_GAME} R7 -150 S9 -60", [*full_panel(72, 41), look("panel"), "graj_etap"], *machine, shown=True)
+    film(*machine)
     display.terminate()
     numbers = [word for number, (x, y) in enumerate(PANEL_PLACES, 1)
                for word in ("-annotate", f"+{x}+{y}", str(number))]
