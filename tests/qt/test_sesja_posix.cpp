@@ -64,6 +64,27 @@ TEST_F(SessionPosix, TheProgramLoadsAndStoresTheFolderThatItStandsIn) {
     EXPECT_EQ(readFile(etap(1)).size(), std::size_t(ETAP_SIZE_BYTES));
 }
 
+TEST_F(SessionPosix, TheOverviewLaysOnlyAFreshPackage) {
+    fs::create_directories(base / "wzorzec/PLIKI");
+    for (const char* name : {"ETAPY", "PLIKI/DP1.DTA"})
+        fs::rename(base / name, base / "wzorzec" / name);
+    fs::copy_file(DORVA_PRZEGLAD, base / "przeglad");
+    QProcess program;
+    const auto start = [&] { program.start(QString::fromStdString((base / "przeglad").string()), QStringList()); };
+    start();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return fs::exists(etap(1)); }));
+    QTest::qWait(500);
+    program.terminate();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << "the signal closes the window, which may ask";
+    EXPECT_TRUE(fs::remove(base / "PLIKI/DP1.DTA"));
+    start();
+    QTest::qWait(500);
+    program.terminate();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_FALSE(fs::exists(base / "PLIKI/DP1.DTA"));
+}
+
 TEST(Program, WithoutADisplayOneSentenceQtsReasonAndStatusOne) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* variable : {"WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_LOGGING_RULES", "XDG_SESSION_TYPE"})
