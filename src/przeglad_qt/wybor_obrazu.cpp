@@ -21,8 +21,12 @@ std::optional<int> chooseObraz(QWidget* parent, const QString& title, const QStr
     list->setResizeMode(QListView::Adjust);
     list->setVerticalScrollMode(QListView::ScrollPerPixel);
     list->setSpacing(8);
-    for (const auto& [obraz, podpis] : propozycje)
-        list->addItem(new QListWidgetItem(QPixmap::fromImage(obraz), podpis));
+    for (const auto& [obraz, podpis] : propozycje) {
+        const QPixmap pixmap = QPixmap::fromImage(obraz);
+        QIcon icon(pixmap);
+        icon.addPixmap(pixmap, QIcon::Selected); // else the chosen one would be tinted
+        list->addItem(new QListWidgetItem(icon, podpis));
+    }
     list->setIconSize(propozycje.front().obraz.deviceIndependentSize().toSize());
     list->setCurrentRow(0);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
