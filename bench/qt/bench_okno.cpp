@@ -1,6 +1,6 @@
 // The window at work: a stroke until its repaint has finished, and a change to another world; and the boards of the
-// overview. Each benchmark X has a
-// baseline XPlain, the barest widget that does the same. DORVA_DATA is the built data tree.
+// overview. Each benchmark X has a baseline XPlain, the barest widget that does the same. DORVA_DATA is the built data
+// tree.
 #include "edytor.h"
 #include "przeglad/zrodla.h"
 #include "przeglad_qt/rysownik.h"

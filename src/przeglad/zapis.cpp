@@ -5,7 +5,6 @@
 #include "stage/archiwum_image.h"
 #include "system/pliki.h"
 
-#include <algorithm>
 #include <system_error>
 
 namespace dorva {
