@@ -25,8 +25,8 @@ enum { WAIT = 4, TRIGGER = 5, EVERYTHING = 0xFFFE }; /* WAIT and TRIGGER follow 
 enum { IDEAS = 32, WAITS = 6, MOVES = 3, DEATH = 9000 };
 enum { EARLIER = 4, STEPS_APART = 10, RETURNS = 60 };
 
-/* What a cell costs to enter, by tile; NEVER: it can't be entered. For doors and the exit see set_prices. A bomb is dear,
-   since it may be part of a chain: it is taken where the plan says so. */
+/* What a cell costs to enter, by tile; NEVER: it can't be entered. For doors and the exit see set_prices. A bomb is
+   dear, since it may be part of a chain: it is taken where the plan says so. */
 static const byte prices[64] = {
     4,  4,     120,   4,     4,     NEVER, NEVER, NEVER, 12,    NEVER, NEVER, 24,    4,     4,     90,    NEVER,
     4,  NEVER, NEVER, 40,    40,    40,    40,    NEVER, 61,    61,    61,    61,    61,    61,    61,    61,
