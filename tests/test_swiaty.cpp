@@ -5,7 +5,6 @@
 #include "stage/zbior_etapow.h"
 
 #include <algorithm>
-#include <set>
 
 namespace dorva::test {
 namespace {
@@ -82,29 +81,6 @@ TEST(TileSets, DirectionsMirrorInBothDrawings) {
     }
 }
 
-// How many pixels of a tile have each of the four bit pairs.
-std::array<int, 4> pixelCounts(const Shape& shape) {
-    std::array<int, 4> counts{};
-    for (Bajt row : shape)
-        for (int shift = 0; shift < 8; shift += 2)
-            ++counts[row >> shift & 3];
-    return counts;
-}
-
-TEST(TileSets, WhatHurtsIsDrawnInTheDressAndWhatIsSafeHasNoneOfIt) {
-    for (const std::string name : TILE_SETS) {
-        const Bajty znaki = readData("OBIEKTY/ORN_EXPORT/" + name);
-        for (auto [first, last] : {std::pair{2, 2}, {18, 33}, {35, 48}, {54, 54}})
-            for (int code = first; code <= last; ++code) {
-                const auto [tlo, grunt, twarz, ubranie] = pixelCounts(shapeOf(znaki, code));
-                EXPECT_GT(ubranie, std::max(grunt, twarz)) << name << " " << NAZWY_ZNAKOW[code];
-            }
-        for (auto [first, last] : {std::pair{0, 1}, {3, 10}, {12, 17}, {34, 34}, {55, 57}})
-            for (int code = first; code <= last; ++code)
-                EXPECT_EQ(pixelCounts(shapeOf(znaki, code))[3], 0) << name << " " << NAZWY_ZNAKOW[code];
-    }
-}
-
 class BuiltStages : public Desk {};
 
 TEST_F(BuiltStages, TheEditorFindsNoFaultAndKeepsEveryByte) {
@@ -120,26 +96,6 @@ TEST_F(BuiltStages, TheEditorFindsNoFaultAndKeepsEveryByte) {
         PackEtap(e);
         EXPECT_EQ(e.image, readEtap(number)) << number;
         EXPECT_EQ(e.image[uklad::OSTATNI], number == ETAPY_COUNT) << number;
-    }
-}
-
-TEST(BuiltColours, FiguresStandOutFromTheBoardAndDangerFromAllElse) {
-    constexpr int NO_HUE = 0, HUES = 15;
-    for (int number = 1; number <= ETAPY_COUNT; ++number) {
-        const Bajty etap = readEtap(number);
-        const auto kolor = [&](std::size_t slot) { return etap[uklad::KOLORY + KOLORY_FIRST_SLOT + slot]; };
-        const auto luminanceApart = [&](std::size_t a, std::size_t b) {
-            return std::abs(kolor(a) % 16 - kolor(b) % 16);
-        };
-        constexpr std::size_t GRUNT = 0, TWARZ = 1, UBRANIE = 2, TLO = 4;
-        for (auto [a, b] :
-             {std::pair{GRUNT, TLO}, {TWARZ, TLO}, {UBRANIE, TLO}, {TWARZ, GRUNT}, {UBRANIE, GRUNT}, {UBRANIE, TWARZ}})
-            EXPECT_GE(luminanceApart(a, b), 4) << number << ": " << a << " and " << b;
-        const int danger = kolor(UBRANIE) / 16, face = kolor(TWARZ) / 16, apart = std::abs(danger - face);
-        if (danger != NO_HUE && face != NO_HUE) {
-            EXPECT_GE(std::min(apart, HUES - apart), 4) << number;
-        }
-        EXPECT_NE(danger, NO_HUE) << number;
     }
 }
 
