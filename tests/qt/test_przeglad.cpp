@@ -29,7 +29,7 @@ protected:
         przeglad->show();
         przeglad->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(przeglad.get()));
-        arkusz = przeglad->findChild<Arkusz*>();
+        arkusz = dynamic_cast<Arkusz*>(przeglad->findChild<QListView*>());
     }
     void TearDown() override {
         przeglad.reset();
