@@ -41,7 +41,7 @@ run_tests() {
     cp -r "$folder"/*.dll "$folder/platforms" "$folder/qt.conf" build/windows/tests/qt/*.exe \
         "$QT_WINDOWS/bin/Qt6Test.dll" "$place"
     (cd "$place" && timeout 600 wine dorva_qt_tests.exe --gtest_brief \
-        --gtest_filter=-DialogWindows.FilesAreListedByNumberAndAlphabetInPolish -platform windows)
+        --gtest_filter=-DialogWindows.FilesAreListedByNumberAndAlphabetInPolish)
 }
 
 start_windows() { start wine "$folder/planszownik.exe"; sleep 1; }

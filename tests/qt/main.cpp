@@ -1,4 +1,4 @@
-// Runs the window's tests with an application but without a display.
+// Runs the window's tests with an application; where that can be done, without a display.
 #include "qt/program.h"
 
 #include <QTemporaryDir>
@@ -6,7 +6,7 @@
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", DORVA_PLATFORM);
     ::testing::InitGoogleTest(&argc, argv);
     const QTemporaryDir settings; // for settings that Qt might write by itself
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
