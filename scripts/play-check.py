@@ -255,6 +255,15 @@ def pages():
            (played.stops, *played.dumps["logo"][41:43], *played.dumps["numer_etapu"]),
            (["pokaz_opis", "rysuj_strone", "rysuj_tytul", "pokaz_opis"], 12, 0, 1))
 
+def demonstration():
+    """After the pages. It ends at the exit or with a move of the stick, and the chosen stage stays."""
+    for what, file, moves, won in (("the sample's first stage is played to its end", game, "-3800", 1),
+                                   ("a move of the stick ends that", game, "-3250 L9 -99", 0),
+                                   ("a game with another one has none", test_build(stages[2], stages[3]), "-3250", 0)):
+        played = play(file, f"-400 R9 {moves}", ["pokaz_gre", "rysuj_tytul", dump("wynik"), dump("numer_etapu")])
+        yield (what, (played.stops, *played.dumps["wynik"], *played.dumps["numer_etapu"]),
+               (["pokaz_gre", "rysuj_tytul"], won, 2))
+
 def overlay():
     """In each world the two players cover the heroine's cell and nothing else."""
     commands = ["wcisniete", f"BPC {address['graj_etap']:X}"]
@@ -393,8 +402,8 @@ def machines():
     yield "a machine of 64 KB shows what is missing", play(game, "-1000", ["stoj"], "-xl").stops, ["stoj"]
 
 CHECKS = [(title,), (all_runs, "-pal"), (all_runs, "-ntsc"), (dying,), (keys,), (choice,), (tunes,), (music, "-pal", 50),
-          (music, "-ntsc", 60), (records,), (pages,), (overlay,), (only_stage,), (all_stages,), (motion,),
-          (foreign_codes,), (bars,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
+          (music, "-ntsc", 60), (records,), (pages,), (demonstration,), (overlay,), (only_stage,), (all_stages,),
+          (motion,), (foreign_codes,), (bars,), (empty_board,), (any_bytes,), (pace, "-pal"), (pace, "-ntsc"), (reset, "-nobasic"),
           (reset, "-basic"), (machines,)]
 
 # Pictures for the documents.

@@ -48,10 +48,11 @@ k_premia:    tekst "PREMIA ZA CZAS 00"
 k_drzwi:     tekst "DRZWI OTWARTE!"
 k_nowa_gra:  tekst "START JESZCZE RAZ - NOWA GRA"
 k_koniec:    tekst "ESC JESZCZE RAZ - KONIEC GRY"
+k_pokaz:     tekst "POKAZ - FIRE LUB START: GRA"
 
 .linecont +
 .define KOMUNIKATY k_klucz, k_klucz, k_maski, k_otwarte, k_bomba, k_stoi, k_rusza, k_ogien, k_zycie, k_pauza, \
-        k_stracila, k_premia, k_drzwi, k_nowa_gra, k_koniec
+        k_stracila, k_premia, k_drzwi, k_nowa_gra, k_koniec, k_pokaz
 komunikaty_lo: .lobytes KOMUNIKATY
 komunikaty_hi: .hibytes KOMUNIKATY
 

@@ -62,7 +62,7 @@ do_strony: .res 2       ; frames until the next page
 
 .segment "CODE"
 
-; Shows all pages, or those until the stick moves or the trigger or START is pressed.
+; Shows all pages. C: the stick has moved or the trigger or START been pressed, which ended them.
 pokaz_opisy:
         lda #<opisy
         sta skad
@@ -95,7 +95,10 @@ pokaz_opisy:
         bne @czekaj
         dec strona
         bne @strona
+        clc
+        rts
 @koniec:
+        sec
         rts
 
 ; Writes the next page, from skad on.

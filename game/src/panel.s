@@ -11,6 +11,7 @@
 .include "atari.inc"
 .include "reguly.inc"
 .export zacznij_panel, rysuj_panel, panel_takt, info_powitanie, info_takt
+.exportzp zostalo
 .importzp energia, zycia, klucze, bomby, brak_masek, pochodnia, maszyna_stoi, komunikat, numer_etapu, napis
 .import pytanie, punkty, premia, monety, panel_symboli, panel_cyfr, panel_paskow, linia_info, powitanie
 .import pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi, t_etap_nr

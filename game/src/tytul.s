@@ -13,7 +13,7 @@
 .import pierwszy_etap, od_pierwszego, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
 .import ozyw_znaki
 .import czysc_tekst, pokaz_tekst, wez_kolory, czekaj_klatke, wczytaj_etap, wez_etap, etap_probny, powitanie
-.import pokaz_opisy, zapisz_wynik, wpisz_inicjaly, sa_wyniki, pisz_wyniki, pisz_gwiazdki, pisz_rekord
+.import pokaz_opisy, pokaz_gre, zapisz_wynik, wpisz_inicjaly, sa_wyniki, pisz_wyniki, pisz_gwiazdki, pisz_rekord
 .import t_cel, t_grasz, t_nowy, t_klawisze1, t_klawisze2, t_klawisze3, t_klawisze4, t_wielka, t_wielka2
 .import t_dalej, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 
@@ -22,7 +22,7 @@ LINIE     = 3
 W_LEWO    = %0100                       ; bits of the stick, 1 while pushed
 W_PRAWO   = %1000
 KLATKI_WIDOKU = 250                     ; frames for which the title shows the keys, then the best results
-WIDOKI    = 4                           ; so many times, then what the tiles do
+WIDOKI    = 4                           ; so many times, then what the tiles do, and a demonstration
 WIDOK     = ekran + 10 * 40             ; where it does
 WIDOK_BAJTY = 5 * 40
 KLATKI_KROKU = 7
@@ -102,6 +102,9 @@ tytul:  lda pierwszy_etap
         cmp #WIDOKI
         bcc @widok
         jsr pokaz_opisy
+        bcs @przerwane
+        jsr pokaz_gre
+@przerwane:
         jsr drazek_liczy                ; a stick that ended it doesn't choose
         lda #0
         sta widok
