@@ -136,6 +136,7 @@ OknoPrzegladu::OknoPrzegladu(const fs::path& base, std::string_view version)
     addActions();
     connect(&zmiany_, &QUndoStack::cleanChanged, this, [this](bool clean) { setWindowModified(!clean); });
     connect(&zmiany_, &QUndoStack::indexChanged, this, &OknoPrzegladu::showStatus);
+    connect(arkusz_->selectionModel(), &QItemSelectionModel::currentChanged, statusBar(), &QStatusBar::clearMessage);
     upuszczenie_.setSingleShot(true);
     connect(&upuszczenie_, &QTimer::timeout, this, [this] { open(upuszczony_); });
     showGra(readZestaw(SYSTEM_CALLS, base_), base_);
@@ -338,8 +339,10 @@ void OknoPrzegladu::saveObraz() {
 }
 
 void OknoPrzegladu::nextOstrzezenie() {
-    for (int step = 1; step <= ETAPY_COUNT; ++step) {
-        const int place = (arkusz_->place() + step) % ETAPY_COUNT;
+    // The selected card's own, too, if they aren't shown yet.
+    const int first = arkusz_->place() + (statusBar()->currentMessage().isEmpty() ? 0 : 1);
+    for (int step = 0; step < ETAPY_COUNT; ++step) {
+        const int place = (first + step) % ETAPY_COUNT;
         if (model_.ostrzezenia(place).empty())
             continue;
         arkusz_->select(place);
