@@ -55,8 +55,9 @@ protected:
     void dropCard(int from, int onto, double part) {
         arkusz->select(from);
         const QRect card = arkusz->visualRect(arkusz->model()->index(onto, 0));
-        QDropEvent event(QPointF(card.left() + part * card.width(), card.center().y()), Qt::MoveAction,
-                         arkusz->model()->mimeData({arkusz->currentIndex()}), Qt::LeftButton, {});
+        const std::unique_ptr<QMimeData> data(arkusz->model()->mimeData({arkusz->currentIndex()}));
+        QDropEvent event(QPointF(card.left() + part * card.width(), card.center().y()), Qt::MoveAction, data.get(),
+                         Qt::LeftButton, {});
         struct Otwarty : Arkusz { // Qt delivers a drop only after a drag of its own
             using Arkusz::dropEvent;
         };
