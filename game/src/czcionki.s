@@ -135,19 +135,23 @@ zrob_czcionki:
 
 ; dokad := address of character A (0..127) in the text font. Keeps X.
 adres_znaku:
+        jsr osiem_bajtow
+        clc
+        adc #>czcionka
+        sta dokad+1
+        rts
+
+; dokad := eight times A without its bit 7, since a character has eight bytes; A := dokad+1. Keeps X.
+osiem_bajtow:
         ldy #0
         sty dokad+1
         asl
-        rol dokad+1
         asl
         rol dokad+1
         asl
         rol dokad+1
         sta dokad
         lda dokad+1
-        clc
-        adc #>czcionka
-        sta dokad+1
         rts
 
 ; Copies the character set of world A (0..2) to where ANTIC reads it: 64 tiles, and a chequer for the other codes.
@@ -245,15 +249,7 @@ rysuj_znak:
 
 ; dokad := where the drawing of code A is in the set, in either form; A := dokad+1. Keeps X.
 wskaz_rysunek:
-        ldy #0
-        sty dokad+1
-        asl
-        asl
-        rol dokad+1
-        asl
-        rol dokad+1
-        sta dokad
-        lda dokad+1
+        jsr osiem_bajtow
         ora #>zestaw
         sta dokad+1
         rts
