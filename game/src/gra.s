@@ -3,7 +3,7 @@
 .include "reguly.inc"
 .include "rekord.inc"
 .include "muzyka.inc"
-.export graj, pierwszy_etap, od_pierwszego, pytanie, pauza, klawisz_muzyki
+.export graj, takt_gry, pierwszy_etap, od_pierwszego, pytanie, pauza, klawisz_muzyki
 .importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
@@ -151,14 +151,8 @@ graj_etap:
         sta drazek
         lda STRIG0
         sta spust
-        jsr takt_dorvy
-        jsr rysuj_nakladke              ; before the beam gets to the board; the other tiles may come later
-        jsr ozyw_znaki
-        jsr takt_innych
-        lda otwarte
-        beq :+
-        jsr otworz_wyjscie
-:       lda efekt
+        jsr takt_gry
+        lda efekt
         jsr zagraj
         jsr info_takt
         jsr panel_takt
@@ -173,6 +167,17 @@ graj_etap:
         sta pytanie
         sta pauza
         jmp rysuj_panel
+
+; A tick with its picture on the board.
+takt_gry:
+        jsr takt_dorvy
+        jsr rysuj_nakladke              ; before the beam gets to the board; the other tiles may come later
+        jsr ozyw_znaki
+        jsr takt_innych
+        lda otwarte
+        beq :+
+        jmp otworz_wyjscie
+:       rts
 
 ; The keys mean the same in the greeting, in play and in a pause. START and ESC have to be pressed twice, since once may
 ; be a slip. C: the try has ended, and wynik says how.

@@ -4,9 +4,9 @@
 .include "reguly.inc"
 .include "rekord.inc"
 .export pokaz_gre
-.importzp numer_etapu, drazek, spust, wynik, otwarte, komunikat, zostalo
-.import plansza, cel_masek, wczytaj_etap, etap_probny, nowa_gra, nowy_etap, reguly_start, takt_dorvy, takt_innych
-.import pokaz_plansze, rysuj_nakladke, dojdz, otworz_wyjscie, ozyw_znaki, czekaj_klatke, czekaj_klatki
+.importzp numer_etapu, drazek, spust, wynik, komunikat, zostalo
+.import plansza, cel_masek, wczytaj_etap, etap_probny, nowa_gra, nowy_etap, reguly_start
+.import pokaz_plansze, takt_gry, dojdz, czekaj_klatke, czekaj_klatki
 .import zacznij_panel, rysuj_panel, panel_takt, info_takt, wcisniete, klawisz_muzyki
 
 KLATKI_PO = 60                          ; frames for which the end is seen
@@ -110,14 +110,8 @@ klatka_pokazu:
         sta drazek
         lda #1
         sta spust
-        jsr takt_dorvy
-        jsr rysuj_nakladke
-        jsr ozyw_znaki
-        jsr takt_innych
-        lda otwarte
-        beq :+
-        jsr otworz_wyjscie
-:       jsr info_takt
+        jsr takt_gry
+        jsr info_takt
         jmp panel_takt
 
 ; Z: board and goal are those of the sample's first stage.
