@@ -4,7 +4,7 @@
 .include "tekst.inc"
 .export pokaz_opisy
 .importzp napis, skad
-.import logo, ekran, czysc_tekst, pisz_srodkiem, pokaz_opis, czekaj_klatke, klawisz_muzyki, ozyw_znaki, wcisniete
+.import logo, ekran, czysc_tekst, pisz_srodkiem, pokaz_opis, ozyw_znaki, klatka_bez_gracza
 .import t_opisy, t_grasz
 
 STRONY    = 4
@@ -78,14 +78,9 @@ pokaz_opisy:
         lda #>KLATKI_STRONY
         sta do_strony+1
 @czekaj:
-        jsr czekaj_klatke
-        jsr klawisz_muzyki
+        jsr klatka_bez_gracza
+        bcs @koniec
         jsr ozyw_znaki
-        jsr wcisniete
-        beq @koniec
-        lda STICK0
-        cmp #15
-        bne @koniec
         lda do_strony
         bne :+
         dec do_strony+1
@@ -96,9 +91,7 @@ pokaz_opisy:
         dec strona
         bne @strona
         clc
-        rts
 @koniec:
-        sec
         rts
 
 ; Writes the next page, from skad on.

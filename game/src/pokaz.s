@@ -1,13 +1,12 @@
 ; The demonstration: stage 1 played by its recorded run, to the tune of the title. A game whose first stage isn't the
 ; sample's has none.
-.include "atari.inc"
 .include "reguly.inc"
 .include "rekord.inc"
 .export pokaz_gre
 .importzp numer_etapu, drazek, spust, wynik, komunikat, zostalo
 .import plansza, cel_masek, wczytaj_etap, etap_probny, nowa_gra, nowy_etap, reguly_start
-.import pokaz_plansze, takt_gry, dojdz, czekaj_klatke, czekaj_klatki
-.import zacznij_panel, rysuj_panel, panel_takt, info_takt, wcisniete, klawisz_muzyki
+.import pokaz_plansze, takt_gry, dojdz, czekaj_klatki
+.import zacznij_panel, rysuj_panel, panel_takt, info_takt, klatka_bez_gracza
 
 KLATKI_PO = 60                          ; frames for which the end is seen
 STUKNIECIE = 2                          ; frames of a step in which the stick is pushed
@@ -64,13 +63,8 @@ pokaz_gre:
 @krok:  lda #KROK
         sta do_kroku
 @klatka:
-        jsr czekaj_klatke
-        jsr klawisz_muzyki
-        jsr wcisniete
-        beq @powrot
-        lda STICK0
-        cmp #15
-        bne @powrot
+        jsr klatka_bez_gracza
+        bcs @powrot
         jsr klatka_pokazu
         lda wynik
         bne @koniec

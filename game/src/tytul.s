@@ -7,7 +7,7 @@
 .include "reguly.inc"
 .include "muzyka.inc"
 .include "tekst.inc"
-.export tytul, klatka_ekranu, wcisniete, czekaj_na_puszczenie, drazek_liczy, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
+.export tytul, klatka_ekranu, klatka_bez_gracza, wcisniete, czekaj_na_puszczenie, drazek_liczy, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .exportzp skad
 .importzp numer_etapu, napis
 .import pierwszy_etap, od_pierwszego, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
@@ -296,6 +296,19 @@ wcisniete:
         lda CONSOL
         and #1
         and STRIG0
+        rts
+
+; A frame of what the title shows by itself. C: the stick has moved, or the trigger or START been pressed.
+klatka_bez_gracza:
+        jsr czekaj_klatke
+        jsr klawisz_muzyki
+        jsr wcisniete
+        beq @gracz
+        lda STICK0
+        eor #15
+        cmp #1
+        rts
+@gracz: sec
         rts
 
 pisz_wynik:
