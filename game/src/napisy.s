@@ -2,7 +2,7 @@
 .include "atari.inc"
 .include "reguly.inc"
 .include "tekst.inc"
-.export pisz, pisz_srodkiem, dwie_cyfry, komunikaty_lo, komunikaty_hi
+.export pisz, pisz_srodkiem, dwie_cyfry, pisz_bcd, komunikaty_lo, komunikaty_hi
 .export t_cel, t_grasz, t_klawisze1, t_klawisze2, t_klawisze3, t_klawisze4, t_koniec, t_wynik, t_wygrana, t_wygrana2, t_brak, t_brak2
 .export t_etap_nr, t_nowy, t_dalej, t_wielka, t_wielka2, t_rekord, t_inicjaly, t_litery, t_opisy
 .exportzp napis
@@ -107,4 +107,19 @@ dwie_cyfry:
         bne @dziesiatki
 @reszta:
         adc #26
+        rts
+
+; Writes the two digits of A, which is in BCD, to napis from column Y on. Y := the column behind them. Keeps X.
+pisz_bcd:
+        pha
+        lsr
+        lsr
+        lsr
+        lsr
+        jsr @cyfra
+        pla
+        and #15
+@cyfra: ora #16
+        sta (napis),y
+        iny
         rts

@@ -5,7 +5,7 @@
 .include "tekst.inc"
 .export zeruj_rekordy, zapisz_etap, zapisz_wynik, wpisz_inicjaly, sa_wyniki, pisz_wyniki, pisz_gwiazdki, pisz_rekord
 .importzp numer_etapu, napis
-.import premia, punkty, ekran, pisz, pisz_srodkiem, dwie_cyfry
+.import premia, punkty, ekran, pisz, pisz_srodkiem, dwie_cyfry, pisz_bcd
 .import etap_probny, klatka_ekranu, wcisniete, czekaj_na_puszczenie, drazek_liczy, t_rekord, t_inicjaly, t_litery
 
 WPISY     = 5
@@ -222,21 +222,11 @@ pisz_wyniki:
         cpy #2 + LITERY
         bne @litera
         iny
-@cyfry: iny
-        lda wyniki,x
-        lsr
-        lsr
-        lsr
-        lsr
-        ora #16
-        sta (napis),y
         iny
-        lda wyniki,x
-        and #15
-        ora #16
-        sta (napis),y
+@cyfry: lda wyniki,x
+        jsr pisz_bcd
         inx
-        cpy #3 + LITERY + 6
+        cpy #4 + LITERY + 6
         bne @cyfry
         clc
         lda napis

@@ -10,7 +10,7 @@
 .export tytul, klatka_ekranu, klatka_bez_gracza, wcisniete, czekaj_na_puszczenie, drazek_liczy, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .exportzp skad
 .importzp numer_etapu, napis
-.import pierwszy_etap, od_pierwszego, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry
+.import pierwszy_etap, od_pierwszego, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry, pisz_bcd
 .import ozyw_znaki
 .import czysc_tekst, pokaz_tekst, wez_kolory, czekaj_klatke, wczytaj_etap, wez_etap, etap_probny, powitanie
 .import pokaz_opisy, pokaz_gre, zapisz_wynik, wpisz_inicjaly, sa_wyniki, pisz_wyniki, pisz_gwiazdki, pisz_rekord
@@ -30,6 +30,7 @@ PIERWSZE_POWTORZENIE = 25               ; frames for which the stick is held unt
 POWTORZENIE = 5                         ; and from then on
 CZAS_EKRANU = 50                        ; frames without fire before it ends a screen, for who still hammers it
 POSCIG    = 5                           ; the tracker's distance
+PUNKTY    = 7                           ; column of the digits in their text
 LOGO_TLO  = 3                           ; screen column of the first letter's left edge
 
 .segment "RODATA"
@@ -314,20 +315,9 @@ klatka_bez_gracza:
 pisz_wynik:
         pisz_w 8, t_wynik
         ldx #0
-        ldy #0
+        ldy #PUNKTY                     ; napis is where the text begins
 @cyfry: lda punkty,x
-        lsr
-        lsr
-        lsr
-        lsr
-        ora #16
-        sta ekran + 8 * 40 + 20,y
-        lda punkty,x
-        and #15
-        ora #16
-        sta ekran + 8 * 40 + 21,y
-        iny
-        iny
+        jsr pisz_bcd
         inx
         cpx #3
         bne @cyfry
