@@ -13,13 +13,29 @@
 namespace dorva {
 namespace {
 
+using Linie = std::array<Tekst, LINIE_COUNT>;
+
 Tekst linia(std::span<const Bajt> bytes, int index) {
     return Tekst::fromBytes(bytes.subspan(index * LINIA_WIDTH, LINIA_WIDTH));
 }
 
+// `kartaOf` gives the card of each number, 1..32.
+template <typename KartaOf> Gra graOf(const Linie& linie, KartaOf kartaOf) {
+    Gra gra;
+    gra.linie = linie;
+    for (int number = 1; number <= ETAPY_COUNT; ++number)
+        gra.karty[number - 1] = kartaOf(number);
+    takeOstatni(gra);
+    return gra;
+}
+
+Karta readable(std::span<const Bajt> image, int number) {
+    return {{image.begin(), image.end()}, "", number};
+}
+
 // Those of DP1.DTA; without the file those of a new window. A line that a short file lacks is blank.
-std::array<Tekst, LINIE_COUNT> readLinie(const SystemCalls& system, const std::filesystem::path& file) {
-    std::array<Tekst, LINIE_COUNT> linie;
+Linie readLinie(const SystemCalls& system, const std::filesystem::path& file) {
+    Linie linie;
     const auto bytes = readUpTo(system, file, AUTOR_GRY_SIZE_BYTES);
     const Okno first = bytes ? Okno{} : defaultOkno();
     for (int i = 0; i < LINIE_COUNT; ++i) {
@@ -53,49 +69,36 @@ std::optional<Tekst> parseLinia(std::span<const Bajt> bytes) {
 } // namespace
 
 Gra readZestaw(const SystemCalls& system, const std::filesystem::path& folder) {
-    Gra gra;
-    gra.linie = readLinie(system, folder / sciezki::AUTOR_GRY);
-    for (int number = 1; number <= ETAPY_COUNT; ++number) {
+    return graOf(readLinie(system, folder / sciezki::AUTOR_GRY), [&](int number) {
         const auto file = sciezki::etap(folder, number);
-        auto image = readFirst(system, file, ETAP_SIZE_BYTES);
-        gra.karty[number - 1] = image ? Karta{*image, "", number} : Karta{{}, reason(system, file), number};
-    }
-    takeOstatni(gra);
-    return gra;
+        const auto image = readFirst(system, file, ETAP_SIZE_BYTES);
+        return image ? readable(*image, number) : Karta{{}, reason(system, file), number};
+    });
 }
 
 std::optional<Gra> parseArchiwum(std::span<const Bajt> bytes) {
     if (bytes.size() != ARCHIWUM_SIZE_BYTES)
         return std::nullopt;
-    Gra gra;
+    Linie linie;
     for (int i = 0; i < LINIE_COUNT; ++i)
-        gra.linie[i] = linia(bytes, i);
-    for (int number = 1; number <= ETAPY_COUNT; ++number) {
-        const auto image = etapOf(bytes, number);
-        gra.karty[number - 1] = {{image.begin(), image.end()}, "", number};
-    }
-    takeOstatni(gra);
-    return gra;
+        linie[i] = linia(bytes, i);
+    return graOf(linie, [&](int number) { return readable(etapOf(bytes, number), number); });
 }
 
 std::optional<Gra> parseGra(std::span<const Bajt> bytes) {
     if (bytes.size() != GRA_SIZE_BYTES)
         return std::nullopt;
-    Gra gra;
+    Linie linie;
     for (int i = 0; i < LINIE_COUNT; ++i) {
         const std::size_t offset = LINIE_TYTULU_OFFSET + i * LINIA_TYTULU_SIZE_BYTES;
         auto tekst = parseLinia(bytes.subspan(offset, LINIA_TYTULU_SIZE_BYTES));
         if (!tekst)
             return std::nullopt;
         tekst->znaki.resize(LINIA_WIDTH, ' ');
-        gra.linie[i] = *tekst;
+        linie[i] = *tekst;
     }
-    for (int i = 0; i < ETAPY_COUNT; ++i) {
-        const auto image = bytes.subspan(rekordOffset(i), ETAP_SIZE_BYTES);
-        gra.karty[i] = {{image.begin(), image.end()}, "", i + 1};
-    }
-    takeOstatni(gra);
-    return gra;
+    return graOf(
+        linie, [&](int number) { return readable(bytes.subspan(rekordOffset(number - 1), ETAP_SIZE_BYTES), number); });
 }
 
 Odczyt readZrodlo(const SystemCalls& system, const std::filesystem::path& path) {
