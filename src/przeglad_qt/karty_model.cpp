@@ -3,11 +3,18 @@
 #include "przeglad/ostrzezenia.h"
 #include "qt/konwersje.h"
 
+#include <string>
+
 namespace dorva {
 
 void KartyModel::setGra(const Gra& gra) {
     gra_ = gra;
-    ostrzezenia_ = listOstrzezenia(gra_);
+    for (int place = 0; const auto& teksty : listOstrzezenia(gra_)) {
+        ostrzezenia_[place].clear();
+        for (const std::string& text : teksty)
+            ostrzezenia_[place] += toQString(text);
+        ++place;
+    }
     emit dataChanged(index(0), index(ETAPY_COUNT - 1));
 }
 
@@ -22,10 +29,7 @@ QVariant KartyModel::data(const QModelIndex& index, int role) const {
         return QString("%1. %2").arg(place + 1).arg(karta.image.empty() ? "" : toQString(nazwaOf(karta.image)));
     if (role != Qt::ToolTipRole)
         return {};
-    QStringList lines;
-    for (const std::string& text : ostrzezenia_[place])
-        lines += toQString(text);
-    return lines.join('\n');
+    return ostrzezenia_[place].join('\n');
 }
 
 Qt::ItemFlags KartyModel::flags(const QModelIndex& index) const {

@@ -4,10 +4,9 @@
 #include "przeglad/gra.h"
 
 #include <QAbstractListModel>
+#include <QStringList>
 
 #include <array>
-#include <string>
-#include <vector>
 
 namespace dorva {
 
@@ -17,7 +16,7 @@ public:
 
     [[nodiscard]] const Gra& gra() const { return gra_; }
     void setGra(const Gra&);
-    [[nodiscard]] const std::vector<std::string>& ostrzezenia(int place) const { return ostrzezenia_[place]; }
+    [[nodiscard]] const QStringList& ostrzezenia(int place) const { return ostrzezenia_[place]; }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] QVariant data(const QModelIndex&,
@@ -27,7 +26,7 @@ public:
 
 private:
     Gra gra_;
-    std::array<std::vector<std::string>, ETAPY_COUNT> ostrzezenia_;
+    std::array<QStringList, ETAPY_COUNT> ostrzezenia_;
 };
 
 } // namespace dorva

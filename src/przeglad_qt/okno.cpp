@@ -346,10 +346,7 @@ void OknoPrzegladu::nextOstrzezenie() {
         if (model_.ostrzezenia(place).empty())
             continue;
         arkusz_->select(place);
-        QStringList texts;
-        for (const std::string& text : model_.ostrzezenia(place))
-            texts += toQString(text);
-        return statusBar()->showMessage(QString("Etap %1: ").arg(place + 1) + texts.join("; "));
+        return statusBar()->showMessage(QString("Etap %1: ").arg(place + 1) + model_.ostrzezenia(place).join("; "));
     }
     statusBar()->showMessage("Nie ma ostrzeżeń");
 }

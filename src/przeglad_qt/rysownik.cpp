@@ -125,8 +125,7 @@ QImage Rysownik::arkusz(const Gra& gra) {
     return sheet;
 }
 
-void drawOstrzezenia(QPainter& painter, const QRect& rect, const std::vector<std::string>& teksty,
-                     const QPalette& palette) {
+void drawOstrzezenia(QPainter& painter, const QRect& rect, const QStringList& teksty, const QPalette& palette) {
     painter.setPen(isDark(palette) ? QColor(255, 130, 120) : QColor(190, 0, 0));
     const int count = static_cast<int>(teksty.size()), lines = std::min(count, WIERSZE_COUNT);
     for (int i = 0; i < lines; ++i) {
@@ -137,7 +136,7 @@ void drawOstrzezenia(QPainter& painter, const QRect& rect, const std::vector<std
             line.setRight(line.right() - painter.fontMetrics().horizontalAdvance(more) - ODSTEP);
         }
         painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
-                         painter.fontMetrics().elidedText("• " + toQString(teksty[i]), Qt::ElideRight, line.width()));
+                         painter.fontMetrics().elidedText("• " + teksty[i], Qt::ElideRight, line.width()));
     }
 }
 

@@ -7,10 +7,9 @@
 #include <QImage>
 #include <QPalette>
 #include <QRect>
+#include <QStringList>
 
 #include <map>
-#include <string>
-#include <vector>
 
 class QPainter;
 
@@ -47,6 +46,6 @@ private:
 };
 
 // The lines below the board: a line a warning, as many as fit.
-void drawOstrzezenia(QPainter&, const QRect&, const std::vector<std::string>& teksty, const QPalette&);
+void drawOstrzezenia(QPainter&, const QRect&, const QStringList& teksty, const QPalette&);
 
 } // namespace dorva
