@@ -269,7 +269,6 @@ void OknoPrzegladu::openEarlier() {
         if (const Odczyt odczyt = readZrodlo(SYSTEM_CALLS, kopia.path); odczyt.gra) {
             paths.push_back(kopia.path);
             propozycje.push_back({rysownik_.film(*odczyt.gra, side), czasKopii(kopia.made)});
-            propozycje.back().obraz.setDevicePixelRatio(devicePixelRatio());
         }
     if (propozycje.empty())
         return say(this, NIE_MA_GIER);
@@ -286,10 +285,8 @@ void OknoPrzegladu::chooseWersja() {
     if (wersje.empty())
         return say(this, NIE_MA_WERSJI);
     std::vector<Propozycja> propozycje;
-    for (const auto& [image, made] : wersje) {
+    for (const auto& [image, made] : wersje)
         propozycje.push_back({rysownik_.plansza(image, qRound(8 * devicePixelRatio())), czasKopii(made)});
-        propozycje.back().obraz.setDevicePixelRatio(devicePixelRatio());
-    }
     const QString title = QString("Wcześniejsze wersje etapu %1").arg(karta.numer);
     if (const auto chosen = chooseObraz(this, title, "&Weź tę", propozycje))
         change("wcześniejszą wersję", replaced(model_.gra(), place, wersje[*chosen].image), place);

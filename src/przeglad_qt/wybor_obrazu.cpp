@@ -22,12 +22,13 @@ std::optional<int> chooseObraz(QWidget* parent, const QString& title, const QStr
     list->setVerticalScrollMode(QListView::ScrollPerPixel);
     list->setSpacing(8);
     for (const auto& [obraz, podpis] : propozycje) {
-        const QPixmap pixmap = QPixmap::fromImage(obraz);
+        QPixmap pixmap = QPixmap::fromImage(obraz);
+        pixmap.setDevicePixelRatio(parent->devicePixelRatio());
+        list->setIconSize(pixmap.deviceIndependentSize().toSize());
         QIcon icon(pixmap);
         icon.addPixmap(pixmap, QIcon::Selected); // else the chosen one would be tinted
         list->addItem(new QListWidgetItem(icon, podpis));
     }
-    list->setIconSize(propozycje.front().obraz.deviceIndependentSize().toSize());
     list->setCurrentRow(0);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     buttons->button(QDialogButtonBox::Ok)->setText(accept);

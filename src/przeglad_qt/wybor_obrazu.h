@@ -12,7 +12,7 @@ class QWidget;
 namespace dorva {
 
 struct Propozycja {
-    QImage obraz;
+    QImage obraz; // in pixels of the screen; all of one size
     QString podpis;
 };
 
