@@ -76,14 +76,15 @@ private:
     int placeBefore_, placeAfter_;
 };
 
-Magazyn loadZestawy(const fs::path& base) {
-    Magazyn magazyn;
+// Loads the tile sets anew. A world whose pictures are gone is shown without.
+void loadZestawy(Magazyn& magazyn, const fs::path& base) {
+    magazyn.imgZnak = {};
+    ++magazyn.wersja;
     Haki haki;
     haki.loadPicture = loadBitmapa;
     const auto zestawy = listZestawy(SYSTEM_CALLS, base);
     for (Swiat swiat = 0; swiat < std::min<int>(SWIATY_COUNT, zestawy.size()); ++swiat)
-        (void)loadPasek(magazyn, haki, zestawy[swiat], swiat); // a world without pictures is shown without
-    return magazyn;
+        (void)loadPasek(magazyn, haki, zestawy[swiat], swiat);
 }
 
 // "Brakujące etapy (3, 4) są w nim puste."
@@ -188,9 +189,7 @@ void OknoPrzegladu::addActions() {
 }
 
 void OknoPrzegladu::showGra(const Gra& gra, const fs::path& source) {
-    const unsigned wersja = frmZestawy_.wersja;
-    frmZestawy_ = loadZestawy(base_);
-    frmZestawy_.wersja += wersja + 1;                           // so that pictures are prepared anew
+    loadZestawy(frmZestawy_, base_);
     const int place = source == zrodlo_ ? arkusz_->place() : 0; // the same game again keeps its place
     zrodlo_ = source;
     const QString name = QDir::toNativeSeparators(nameOfPath(source));
