@@ -11,10 +11,6 @@ namespace {
 
 using Teksty = std::vector<std::string>;
 
-std::string text(int number) {
-    return std::to_string(number);
-}
-
 // What the panel of the editor shows in red.
 void addPanel(Teksty& teksty, const Spis& spis, int celMasek) {
     if (spis.dorvy == 0)
@@ -22,18 +18,19 @@ void addPanel(Teksty& teksty, const Spis& spis, int celMasek) {
     if (spis.wyjscia == 0)
         teksty.emplace_back("nie ma wyjścia");
     if (tooFewMaski(spis.maski, celMasek))
-        teksty.push_back("za mało masek: " + text(spis.maski) + ", a cel to " + text(celMasek));
+        teksty.push_back("za mało masek: " + std::to_string(spis.maski) + ", a cel to " + std::to_string(celMasek));
     if (tooFewKlucze(spis.klucze, spis.drzwi))
-        teksty.push_back("za mało kluczy: " + text(spis.klucze) + ", a drzwi jest " + text(spis.drzwi));
+        teksty.push_back("za mało kluczy: " + std::to_string(spis.klucze) + ", a drzwi jest " +
+                         std::to_string(spis.drzwi));
     if (unpaired(spis.przedmioty))
-        teksty.push_back("magiczny przedmiot bez pary (jest ich " + text(spis.przedmioty) + ")");
+        teksty.push_back("magiczny przedmiot bez pary (jest ich " + std::to_string(spis.przedmioty) + ")");
 }
 
 void addTooMany(Teksty& teksty, const Spis& spis) {
     if (spis.dorvy > 1)
-        teksty.push_back("więcej niż jedna Dorva: " + text(spis.dorvy));
+        teksty.push_back("więcej niż jedna Dorva: " + std::to_string(spis.dorvy));
     if (spis.wyjscia > 1)
-        teksty.push_back("więcej niż jedno wyjście: " + text(spis.wyjscia));
+        teksty.push_back("więcej niż jedno wyjście: " + std::to_string(spis.wyjscia));
 }
 
 void addObce(Teksty& teksty, std::span<const Bajt> plansza) {
@@ -41,12 +38,8 @@ void addObce(Teksty& teksty, std::span<const Bajt> plansza) {
     for (const Bajt code : plansza)
         if (!isTile(znak(code)))
             kody.insert(code);
-    if (kody.empty())
-        return;
-    std::string list;
-    for (const int code : kody)
-        list += (list.empty() ? "" : ", ") + text(code);
-    teksty.push_back("znaki bez obrazka, o kodach: " + list);
+    if (!kody.empty())
+        teksty.push_back("znaki bez obrazka, o kodach: " + listed(kody));
 }
 
 void addKrawedz(Teksty& teksty, std::span<const Bajt> plansza) {
@@ -56,7 +49,7 @@ void addKrawedz(Teksty& teksty, std::span<const Bajt> plansza) {
         count += isEdge(cell) && z != NIC && z != MUREK_PIONOWY && z != MUREK_POZIOMY;
     }
     if (count > 0)
-        teksty.push_back("obce znaki na brzegu, kratek: " + text(count));
+        teksty.push_back("obce znaki na brzegu, kratek: " + std::to_string(count));
 }
 
 Teksty ownOf(const Karta& karta) {
@@ -93,6 +86,13 @@ int equalBefore(const Gra& gra, int place) {
 
 } // namespace
 
+std::string listed(const std::set<int>& numbers) {
+    std::string list;
+    for (const int number : numbers)
+        list += (list.empty() ? "" : ", ") + std::to_string(number);
+    return list;
+}
+
 std::array<Teksty, ETAPY_COUNT> listOstrzezenia(const Gra& gra) {
     std::array<Teksty, ETAPY_COUNT> all;
     bool isBehindLast = false;
@@ -104,14 +104,14 @@ std::array<Teksty, ETAPY_COUNT> listOstrzezenia(const Gra& gra) {
         if (karta.image.empty())
             continue;
         if (const int same = isEmpty(karta) ? 0 : equalBefore(gra, i); same > 0)
-            all[i].push_back("taki sam jak etap " + text(same));
+            all[i].push_back("taki sam jak etap " + std::to_string(same));
         if (karta.image[uklad::OSTATNI] == 0)
             continue;
         isBehindLast = true;
         const auto more = std::count_if(gra.karty.begin() + i + 1, gra.karty.end(),
                                         [](const Karta& later) { return !isEmpty(later); });
         if (more > 0)
-            all[i].push_back("OSTATNI, a po nim niepustych etapów: " + text(static_cast<int>(more)));
+            all[i].push_back("OSTATNI, a po nim niepustych etapów: " + std::to_string(static_cast<int>(more)));
     }
     return all;
 }

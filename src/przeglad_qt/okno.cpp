@@ -1,5 +1,6 @@
 #include "przeglad_qt/okno.h"
 
+#include "przeglad/ostrzezenia.h"
 #include "przeglad/wersje.h"
 #include "przeglad/zapis.h"
 #include "przeglad/zrodla.h"
@@ -28,6 +29,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <set>
 #include <string>
 
 namespace dorva {
@@ -89,11 +91,11 @@ void loadZestawy(Magazyn& magazyn, const fs::path& base) {
 
 // "Brakujące etapy (3, 4) są w nim puste."
 std::string missingText(const Gra& gra) {
-    std::string numbers;
+    std::set<int> numbers;
     for (int i = 0; i < ETAPY_COUNT; ++i)
         if (gra.karty[i].image.empty())
-            numbers += (numbers.empty() ? "" : ", ") + std::to_string(i + 1);
-    return numbers.empty() ? "" : "\nBrakujące etapy są w nim puste: " + numbers + ".";
+            numbers.insert(i + 1);
+    return numbers.empty() ? "" : "\nBrakujące etapy są w nim puste: " + listed(numbers) + ".";
 }
 
 void say(QWidget* parent, const Komunikat& komunikat) {
