@@ -36,6 +36,13 @@ class FirstFrame : public QObject {
     }
 };
 
+void showUntilPainted(QWidget& window) {
+    FirstFrame firstFrame;
+    window.installEventFilter(&firstFrame);
+    window.show();
+    QApplication::exec();
+}
+
 void runEditor(int argc, char** argv, const std::filesystem::path& folder) {
     QApplication application(argc, argv);
     dorva::setUpApplication(application);
@@ -43,20 +50,14 @@ void runEditor(int argc, char** argv, const std::filesystem::path& folder) {
     dorva::OknoGlowne okno(edytor);
     dorva::Form_Load(edytor, folder, "0.0.0");
     okno.showRecord();
-    FirstFrame firstFrame;
-    okno.installEventFilter(&firstFrame);
-    okno.show();
-    QApplication::exec();
+    showUntilPainted(okno);
 }
 
 void runPrzeglad(int argc, char** argv, const std::filesystem::path& folder) {
     QApplication application(argc, argv);
     dorva::setUpApplication(application);
     dorva::OknoPrzegladu okno(folder, "0.0.0");
-    FirstFrame firstFrame;
-    okno.installEventFilter(&firstFrame);
-    okno.show();
-    QApplication::exec();
+    showUntilPainted(okno);
 }
 
 void runBare(int argc, char** argv, const char* text) {
@@ -65,10 +66,7 @@ void runBare(int argc, char** argv, const char* text) {
     window.setFixedSize(dorva::OKNO_WIDTH, dorva::OKNO_HEIGHT);
     if (text)
         new QLabel(text, &window);
-    FirstFrame firstFrame;
-    window.installEventFilter(&firstFrame);
-    window.show();
-    QApplication::exec();
+    showUntilPainted(window);
 }
 
 struct Figures {
