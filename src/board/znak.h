@@ -41,6 +41,11 @@ constexpr bool isEdge(int cell) {
     return row == 0 || row == PLANSZA_ROWS - 1 || column == 0 || column == PLANSZA_COLUMNS - 1;
 }
 
+// The edge rule: only walls and empty cells may stand there.
+constexpr bool mayBeOnEdge(Znak z) {
+    return z == NIC || z == MUREK_PIONOWY || z == MUREK_POZIOMY;
+}
+
 // The tooltips of the picker, by STD code.
 inline constexpr std::array<std::string_view, ZNAKI_COUNT> NAZWY_ZNAKOW{
     "NIC",

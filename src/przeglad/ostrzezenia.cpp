@@ -44,10 +44,8 @@ void addObce(Teksty& teksty, std::span<const Bajt> plansza) {
 
 void addKrawedz(Teksty& teksty, std::span<const Bajt> plansza) {
     int count = 0;
-    for (int cell = 0; cell < PLANSZA_CELLS; ++cell) {
-        const Znak z = znak(plansza[cell]);
-        count += isEdge(cell) && z != NIC && z != MUREK_PIONOWY && z != MUREK_POZIOMY;
-    }
+    for (int cell = 0; cell < PLANSZA_CELLS; ++cell)
+        count += isEdge(cell) && !mayBeOnEdge(znak(plansza[cell]));
     if (count > 0)
         teksty.push_back("obce znaki na brzegu, kratek: " + std::to_string(count));
 }

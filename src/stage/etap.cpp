@@ -11,9 +11,9 @@
 namespace dorva {
 namespace {
 
-// The edge rule: only walls and empty cells may stand there, anything else becomes a wall.
+// What may not be on the edge becomes a wall there.
 Znak ruled(Znak z, Znak krawedz) {
-    return z == NIC || z == MUREK_PIONOWY || z == MUREK_POZIOMY ? z : krawedz;
+    return mayBeOnEdge(z) ? z : krawedz;
 }
 
 // Dorva is only ever stored in her STD form.
