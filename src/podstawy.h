@@ -15,5 +15,6 @@ using Swiat = int;                     // one of the three worlds of the game, 0
 inline constexpr int SLOTY_COUNT = 12; // colour registers
 
 inline constexpr int CEL_MIN = 1, CEL_MAX = 99; // limits of the mask goal
+inline constexpr int OSTATNI_MAX = 2;           // the last-stage box: empty, checked, half checked
 
 } // namespace dorva

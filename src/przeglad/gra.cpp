@@ -7,8 +7,6 @@
 namespace dorva {
 namespace {
 
-constexpr Bajt OSTATNI_MAX = 2; // drawn half checked in the editor
-
 // The mark that a stage gives the place where it was read.
 Bajt markOf(const EtapImage& image, int place) {
     const Bajt mark = !image.empty() && image[uklad::OSTATNI] <= OSTATNI_MAX ? image[uklad::OSTATNI] : Bajt{0};

@@ -92,8 +92,7 @@ bool UnpackEtap(Edytor& e) {
 }
 
 bool SetOstatni(Edytor& e, int value) {
-    constexpr int GREYED = 2;
-    if (value < 0 || value > GREYED)
+    if (value < 0 || value > OSTATNI_MAX)
         return false;
     e.okno.chkOstatni = static_cast<Bajt>(value);
     return true;
