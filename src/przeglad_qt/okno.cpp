@@ -286,6 +286,7 @@ void OknoPrzegladu::chooseWersja() {
     if (wersje.empty())
         return say(this, NIE_MA_WERSJI);
     std::vector<Propozycja> propozycje;
+    propozycje.reserve(wersje.size());
     for (const auto& [image, made] : wersje)
         propozycje.push_back({rysownik_.plansza(image, qRound(8 * devicePixelRatio())), czasKopii(made)});
     const QString title = QString("Wcześniejsze wersje etapu %1").arg(karta.numer);
