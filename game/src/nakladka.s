@@ -12,8 +12,7 @@ PIERWSZA_LINIA = 36                     ; scan line of the board's first row
 LEWY_BRZEG = 48                         ; colour clock of its first column
 SUKNIA    = $DE                         ; stands out from the ground of every world
 CERA      = $2A
-ZRANIONA  = $5A                         ; the dress while she flickers
-BIEL      = $0E                         ; all of her, as she blinks before her first move
+BIEL      = $0E                         ; her dress while she flickers, all of her as she blinks before her first move
 WYS       = 8
 
 .segment "ZEROPAGE"
@@ -169,7 +168,7 @@ rysuj_nakladke:
         lda ochrona
         and #4
         beq :+
-        ldx #ZRANIONA
+        ldx #BIEL
 :       stx PCOLR0
         jsr odslon
         lda obraz
