@@ -237,6 +237,8 @@ def records():
     points = [16 + digit for byte in dumps["punkty"] for digit in divmod(byte, 16)]
     yield ("initials B, space and A are chosen; after RESET too the title shows the result by turns with the keys",
            [*dumps["ekrantable"][10 * 40 + 13:][:13]], [17, 14, 0, 34, 0, 33, 0, *points])
+    played = play(game, f"-400 F10 -60 {run_of(1)} -300 E5 -9 E5 -60 T10 -90", ["wpisz_inicjaly", "rysuj_tytul"])
+    yield "START takes the initials as they are, and the closing screen stays", played.stops, ["wpisz_inicjaly"]
     yield ("the finished stage has a star, dark on light as the chosen one, and its best bonus",
            (dumps["ekran"][8 * 40 + 4:][:32], [*dumps["ekran"][6 * 40 + 34:][:2]]),
            (bytes([10 + 128] + [14] * 31), [16 + digit for digit in divmod(dumps["premie"][0] - 1, 10)]))

@@ -147,15 +147,14 @@ wpisz_inicjaly:
         jmp @klatka
 @dalej: lda CONSOL
         lsr
-        bcc @gotowe                     ; START
-        jsr czekaj_na_puszczenie
+        bcs :+
+        lda #LITERY - 1                 ; START: all of them
+        sta ktora
+:       jsr czekaj_na_puszczenie
         inc ktora
         lda ktora
         cmp #LITERY
         bcc @klatka
-@gotowe:
-        lda #LITERY
-        sta ktora
 ; Writes the initials, the one to be chosen dark on light, and keeps them.
 pokaz_inicjaly:
         ldx miejsce
