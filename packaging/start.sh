@@ -16,7 +16,7 @@ odmow() { # shows a message even if no terminal is open, in letters that every X
 
 [ -f "$program" ] || odmow "W folderze $PWD brakuje pliku $program. Rozpakuj jeszcze raz plik .tar.gz."
 [ -x "$program" ] || chmod +x "$program" 2>/dev/null # a copy from a stick may have lost the right
-[ -x "$program" ] || odmow "Folder $PWD jest bez prawa wykonywania (noexec). Skopiuj go do swojego folderu domowego."
+[ -x "$program" ] || odmow "System nie pozwala na start z folderu $PWD (noexec). Skopiuj go do swojego folderu domowego."
 [ -w . ] || odmow "Brak prawa do zapisu w folderze $PWD. Skopiuj go do swojego folderu domowego."
 brak=$(ldd "./$program" 2>/dev/null | grep 'not found')
 [ -z "$brak" ] || odmow "Brakuje bibliotek Qt 6. W Debianie: sudo apt install libqt6widgets6
