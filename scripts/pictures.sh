@@ -45,8 +45,6 @@ slot 21 1 && cell 6 6   # DORVA
 slot 9 0 && cell 33 13  # WYJŚCIE
 slot 0 1                # MASKA
 cell 12 5 && cell 24 11 && cell 28 13
-slot 6 0 && drag 24 12 27 12
-slot 8 0 && drag 5 4 7 4
 press "lblInfo(2)" # makes the number of masks the goal
 press txtNazwa
 xdotool type --delay 60 'mój pierwszy etap'
