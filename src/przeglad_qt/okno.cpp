@@ -166,7 +166,7 @@ void OknoPrzegladu::addActions() {
     etap->addActions({cofnij, ponow});
     etap->addSeparator();
     QAction* wersje = etap->addAction("&Wcześniejsze wersje...", this, &OknoPrzegladu::chooseWersja);
-    wersje->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
+    wersje->setShortcuts({Qt::Key_Enter, Qt::Key_Return}); // the first is shown, and keyboards here say Enter
     connect(arkusz_, &QListView::doubleClicked, wersje, &QAction::trigger); // a click may activate, on some desktops
     arkusz_->addAction(wersje);
     arkusz_->setContextMenuPolicy(Qt::ActionsContextMenu);
