@@ -125,12 +125,13 @@ TEST_F(Stage, TheLastOneIsMarkedAsSuch) {
 
 TEST_F(Stage, LoadTakesAStageOverIntoTheCurrentOne) {
     start();
-    writeFile(root / "obcy", sampleEtap(17));
+    writeFile(root / "obcy", sampleEtap(16));
     run(cmdLoad_Click, "obcy");
-    EXPECT_EQ(e.okno.hscMonet, 17);
+    EXPECT_EQ(e.okno.hscMonet, 16);
+    EXPECT_EQ(e.okno.imgPG[205].obraz.znak, cell(5, 5)) << "a stage of the same world is shown, too";
     EXPECT_EQ(e.NumerEtapu, 1);
     Form_QueryUnload(e);
-    EXPECT_EQ(readFile(etap(1)), sampleEtap(17));
+    EXPECT_EQ(readFile(etap(1)), sampleEtap(16));
     run(cmdLoad_Click, "nie ma");
     EXPECT_EQ(e.OstatniaSciezka, root / "nie ma");
     EXPECT_FALSE(fs::exists(root / "nie ma"));

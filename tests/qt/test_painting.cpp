@@ -95,8 +95,8 @@ TEST_F(Painting, ButtonsAndTools) {
     moveTo(centreOf(92), Qt::LeftButton | Qt::RightButton);
     EXPECT_NE(cellOf(92), KLUCZ);
     EXPECT_EQ(e.okno.obrys, 92);
-    moveTo(centreOf(40) - QPoint(16, 0), Qt::NoButton); // beside the board
-    moveTo(centreOf(0) - QPoint(0, 16), Qt::NoButton);
+    for (QPoint beside : {QPoint(-8, 24), {24, -8}, {648, 24}, {24, 328}}) // the board
+        moveTo(beside, Qt::NoButton);
     EXPECT_EQ(e.okno.obrys, 92);
     const QRgb corner = shot("imgPG").pixel(centreOf(92) - QPoint(8, 8));
     EXPECT_TRUE(corner == qRgb(255, 255, 255) || corner == qRgb(0, 0, 0)); // its line is there
