@@ -115,6 +115,7 @@ dorva_takt:
         jsr sprawdz_spust
         jsr sprawdz_drazek
         lda odstep
+        ora wynik                       ; the ground may have killed her
         bne @rysuj
         ldy #KROK
         lda nowy

@@ -341,8 +341,9 @@ static const struct row elements[] = {
     {"Dwwwwwwwwwwwwwwwwwwwwwwwwww", "RR", "#w", "e91"}, /* 4 a cell, so it carries 24 of them */
     {0, "RRRRRRRRRRRRRRRRRRRRRR", 0, "e3 h25"},
     {0, "R", 0, "w2"},
-    {"Dw ", "R 25", 0, "e91"},   /* and 4 for half a second in one */
-    {"Dff ", "RR", "#f", "e79"}, /* no wound comes while she flickers from the last one */
+    {"Dw ", "R 25", 0, "e91"},           /* and 4 for half a second in one */
+    {"0:DwE", "=e8 R 19 R", "#D", "w2"}, /* who dies in it takes no further step */
+    {"Dff ", "RR", "#f", "e79"},         /* no wound comes while she flickers from the last one */
     {0, "38", 0, "e79"},
     {0, "2", 0, "e59"},
     {"Dbbb ", "R", 0, "f52"},
