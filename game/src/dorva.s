@@ -5,7 +5,7 @@
 .export na_pole, na_to, wejdz, mur, zapadnij, zostaw_zapach
 .exportzp dorva, dorva_x, dorva_y, zegar, kier, cel_kod, opor, naczynia, krzyk, ochrona, glebokosc
 .importzp drazek, spust, wsk, wpod, wstan, wzap, kolej, wynik, komunikat, energia, bomby
-.import plansza, zapach, sasiad, delta_lo, delta_hi, wskaz_pole, wejscia_lo, wejscia_hi
+.import plansza, zapach, sasiad, delta_lo, delta_hi, wskaz_pole, wejscia_lo, wejscia_hi, dotknieta
 .import zran, zabierz, zglos_efekt
 
 KIERUNKI_DRAZKA = 4
@@ -132,6 +132,8 @@ dorva_takt:
         inc bezruch
         bne @rysuj
 @nacisniety:
+        ldx #0
+        stx dotknieta
         jsr wez_kierunek
         cpx kier
         beq @od_nowa

@@ -1,7 +1,7 @@
 ; What happens when the heroine steps at a tile, one routine for each kind of tile. A routine gets the code in cel_kod,
 ; the direction in kier, and Y for the tile's cell. It either lets her go there (na_pole, na_to, wejdz) or just returns.
 .include "reguly.inc"
-.export wejscia_lo, wejscia_hi, spisz_magie
+.export wejscia_lo, wejscia_hi, spisz_magie, dotknieta
 .importzp wsk, wpod, wstan, dorva, dorva_x, dorva_y, kier, cel_kod, opor, naczynia
 .importzp klucze, maszyna_stoi, pochodnia, otwarte, brak_masek, wynik, komunikat, po_przeskoku
 .import plansza, sasiad, wskaz_pole, przejdz, przesun, zapal
@@ -18,6 +18,7 @@ wsk_magii: .res 2
 
 .segment "BSS"
 szarpana: .res 1        ; the direction of the thicket that she tugs at
+dotknieta: .res 1       ; the machine has been touched since the latest press of the stick
 magia:  .res WIERSZE    ; by row: not 0 if a magic object is there
 
 .segment "RODATA"
@@ -161,8 +162,12 @@ pochodnie:
         powiedz KOM_OGIEN
         jmp na_puste
 
-; A touch stops the machine, and with it all emitters and launchers; the next touch starts it again.
+; A touch stops the machine, and with it all emitters and launchers; the next touch starts it again. A stick that is
+; held on touches it only once.
 maszyna:
+        lda dotknieta
+        bne @juz
+        inc dotknieta
         lda maszyna_stoi
         eor #1
         sta maszyna_stoi
@@ -175,7 +180,7 @@ maszyna:
         beq :+
         ldx #KOM_STOI
 :       stx komunikat
-        rts
+@juz:   rts
 
 ; A crate is pushed to a free cell, or fills a trap, water, fire or swamp.
 skrzynia:

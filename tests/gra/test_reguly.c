@@ -323,6 +323,8 @@ static const struct row shooting[] = {
     {"       / *  D  /@      ", "=a1 400", 0, "e99"}, /* the machine stops emitters */
     {"D@", "R", "D~@", "a1"},
     {0, "R", 0, "a0"},
+    {"D  @", "r 200", "  D~@", "a1"}, /* a stick that is held touches it once */
+    {0, ". 2 r 1", 0, "a0"},
     {"m     D", "9", "~m ", 0}, /* throwers see rows and columns; they take aim first */
     {0, "54", "m", "e87"},
     {"m|/ |/D|", "45", "m", "e87"},
