@@ -266,6 +266,10 @@ def demonstration():
         yield (what, (played.stops, *played.dumps["wynik"], *played.dumps["numer_etapu"]),
                (["pokaz_gre", "rysuj_tytul"], won, 2))
 
+    for where, moves in ("pages", "-1700"), ("demonstration", "-2950"), ("second after it", "-3120"):
+        played = play(game, f"-400 {moves} F2 -60", ["pokaz_opisy", "graj_etap"])
+        yield f"a tap of fire in the {where} starts the game", played.stops, ["pokaz_opisy", "graj_etap"]
+
 def overlay():
     """In each world the two players cover the heroine's cell and nothing else."""
     commands = ["wcisniete", f"BPC {address['graj_etap']:X}"]

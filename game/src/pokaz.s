@@ -5,7 +5,7 @@
 .export pokaz_gre
 .importzp numer_etapu, drazek, spust, wynik, komunikat, zostalo
 .import plansza, cel_masek, wczytaj_etap, etap_probny, nowa_gra, nowy_etap, reguly_start
-.import pokaz_plansze, takt_gry, dojdz, czekaj_klatki
+.import pokaz_plansze, takt_gry, dojdz
 .import zacznij_panel, rysuj_panel, panel_takt, info_takt, klatka_bez_gracza
 
 KLATKI_PO = 60                          ; frames for which the end is seen
@@ -31,7 +31,7 @@ ruchy:  .include "ruchy.inc"
 wybrany: .res 1         ; the stage that the title offers
 ruch:   .res 1          ; which of the moves is being made,
 do_konca: .res 1        ; how many of its steps are left,
-do_kroku: .res 1        ; and frames until the next step
+do_kroku: .res 1        ; and frames until the next step, or the end
 
 .segment "CODE"
 
@@ -76,8 +76,12 @@ pokaz_gre:
         bne @ruch
 @koniec:
         jsr dojdz
-        ldx #KLATKI_PO
-        jsr czekaj_klatki
+        lda #KLATKI_PO
+        sta do_kroku
+@po:    jsr klatka_bez_gracza
+        bcs @powrot
+        dec do_kroku
+        bne @po
 @powrot:
         lda wybrany
         sta numer_etapu

@@ -92,7 +92,7 @@ tytul:  lda pierwszy_etap
         jsr klatka_tytulu
         jsr wcisniete
         bne @drazek
-        jmp czekaj_na_puszczenie
+@gra:   jmp czekaj_na_puszczenie
 @drazek:
         dec do_widoku
         bne :+
@@ -106,6 +106,8 @@ tytul:  lda pierwszy_etap
         bcs @przerwane
         jsr pokaz_gre
 @przerwane:
+        jsr wcisniete
+        beq @gra
         jsr drazek_liczy                ; a stick that ended it doesn't choose
         lda #0
         sta widok
