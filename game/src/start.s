@@ -1,7 +1,7 @@
 ; The entry: takes over the machine, then runs title and game by turns.
 .include "atari.inc"
 .export start
-.import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj, pierwszy_etap, pauza, wyciszona, zeruj_rekordy
+.import zrob_czcionki, zacznij_ekran, cisza, ucisz_muzyke, tytul, graj, pierwszy_etap, pauza, pytanie, wyciszona, zeruj_rekordy
 
 .segment "CODE"
 start:  lda #1
@@ -25,6 +25,7 @@ wznow:  ldx #$FF
         lda #0
         sta COLDST
         sta pauza
+        sta pytanie
         lda #1
         sta BOOTQ
         jsr cisza
