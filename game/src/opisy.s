@@ -3,7 +3,7 @@
 .include "reguly.inc"
 .include "tekst.inc"
 .export pokaz_opisy
-.importzp napis, skad
+.importzp napis
 .import logo, ekran, czysc_tekst, pisz_srodkiem, pokaz_opis, ozyw_znaki, klatka_bez_gracza
 .import t_opisy, t_grasz
 
@@ -54,6 +54,9 @@ opisy:  opis "MASKA - ZBIERZ TYLE, ILE WYMAGA ETAP", MASKA
         opis "TROPICIEL - IDZIE TWOIM sLADEM", TROPICIEL, TROPICIEL + 1, TROPICIEL + 2, TROPICIEL + 3
         opis "MIOTNIK - RZUCA KAMYKIEM, GDY CIe WIDZI", MIOTNIK, KAMYK + 1
         opis "PLUJKA - STRZELA W SWOIM WIERSZU", PLUJKA, STRZALKA + 1
+
+.segment "ZEROPAGE"
+skad:   .res 2          ; the line to be written
 
 .segment "BSS"
 strona: .res 1          ; pages that are left

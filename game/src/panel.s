@@ -7,7 +7,7 @@
 ;   columns    0-5             7-12            14-15            17-19
 ;   bars       heart, energy   clock, bonus    torch, machine   coins towards a life
 ; The upper two bits of a character choose its colour: slots 0 keys, 1 bombs, 2 masks and stage, 3 energy, points.
-; The bars have the colours of energy and masks, since time is points as well.
+; The bar of the bonus for time has the colour of masks, to differ from that of energy.
 .include "atari.inc"
 .include "reguly.inc"
 .export zacznij_panel, rysuj_panel, panel_takt, info_powitanie, info_takt

@@ -31,7 +31,7 @@ premie: .res ETAPY      ; of each stage: 0, or else it has been finished, and th
 REKORDY = * - wyniki
 inicjaly: .res LITERY   ; those entered last
 miejsce: .res 1         ; where the new result stands in wyniki
-ktora:  .res 1          ; the letter to be chosen
+ktora:  .res 1          ; the letter to be chosen; in the table, the digit in front of a result
 
 .segment "CODE"
 

@@ -8,7 +8,6 @@
 .include "muzyka.inc"
 .include "tekst.inc"
 .export tytul, klatka_ekranu, klatka_bez_gracza, wcisniete, czekaj_na_puszczenie, drazek_liczy, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
-.exportzp skad
 .importzp numer_etapu, napis
 .import pierwszy_etap, od_pierwszego, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry, pisz_bcd
 .import ozyw_znaki
@@ -42,7 +41,6 @@ litery: .byte %11110, %10001, %10001, %10001, %11110
         .byte %01110, %10001, %11111, %10001, %10001
 
 .segment "ZEROPAGE"
-skad:   .res 2          ; what is written
 linijka: .res 2
 
 .segment "BSS"
@@ -431,56 +429,28 @@ idz_pod_logo:
         sta logo + (LOGO_WIERSZE - 1) * 40 - POSCIG,x
 @nic:   rts
 
-; Writes the three title lines, each from its start column on, up to the first 155.
+; Writes the three title lines, each from its start column on; 155 fills them up and isn't shown.
 pisz_linie:
-        lda #<tytuly
-        sta skad
-        lda #>tytuly
-        sta skad+1
-        lda #<(ekran + POLE)
-        sta linijka
-        lda #>(ekran + POLE)
-        sta linijka+1
-        ldx #LINIE
-@linia: ldy #0
-        lda (skad),y
+        ldy #0                          ; Y: the byte of the lines, X: its place on the screen
+        tya
+@linia: sta linijka
         clc
-        adc linijka                     ; the column, minus one for the byte in front of the text
-        sta linijka
-        bcc :+
-        inc linijka+1
-:       lda linijka
-        bne :+
-        dec linijka+1
-:       dec linijka
-        iny
-@znak:  lda (skad),y
+        adc tytuly,y
+        tax
+        lda #TYTUL_BAJTY - 1
+        sta rzad
+@znak:  iny
+        lda tytuly,y
         cmp #TYTUL_KONIEC
-        beq @koniec
-        sta (linijka),y
-        iny
-        cpy #TYTUL_BAJTY
+        beq :+
+        sta ekran + POLE,x
+        inx
+:       dec rzad
         bne @znak
-@koniec:
-        ldy #0
-        sec                             ; back to the left edge, two screen lines down
-        lda linijka
-        sbc (skad),y
-        sta linijka
-        bcs :+
-        dec linijka+1
-:       clc
-        lda linijka
-        adc #81
-        sta linijka
-        bcc :+
-        inc linijka+1
-:       clc
-        lda skad
-        adc #TYTUL_BAJTY
-        sta skad
-        bcc :+
-        inc skad+1
-:       dex
+        iny
+        lda linijka                     ; two screen lines down
+        clc
+        adc #2 * 40
+        cmp #LINIE * 2 * 40
         bne @linia
         rts
