@@ -31,8 +31,7 @@ pochodnia: .res 1
 otwarte: .res 1
 po_przeskoku: .res 1    ; she has leapt in this tick
 numer:  .res 1
-przegladane: .res 2     ; the cell that reguly_start looks at, 0..799
-adres:  .res 2
+adres:  .res 2          ; the cell that reguly_start looks at
 w_stanie: .res 2
 
 .segment "BSS"
@@ -194,20 +193,15 @@ oznacz_brzeg:
 
 ; Finds the first heroine inside the edge and numbers the magic objects: odd, even, odd...
 spisz_plansze:
-        lda #0
-        sta przegladane
-        sta przegladane+1
-        sta numer
-        lda #<plansza
-        sta adres
         lda #>plansza
         sta adres+1
-        lda #<stan
-        sta w_stanie
         lda #>stan
         sta w_stanie+1
-@pole:  ldy #0
-        lda (w_stanie),y
+        ldy #0                          ; the low byte of the cell, since both begin at a page
+        sty adres
+        sty w_stanie
+        sty numer
+@pole:  lda (w_stanie),y
         and #S_BRZEG
         bne @dalej
         lda (adres),y
@@ -220,20 +214,14 @@ spisz_plansze:
         sta (w_stanie),y
         eor #1
         sta numer
-@dalej: inc adres
+@dalej: iny
         bne :+
         inc adres+1
-:       inc w_stanie
-        bne :+
         inc w_stanie+1
-:       inc przegladane
-        bne :+
-        inc przegladane+1
-:       lda przegladane
-        cmp #<POLA
+:       cpy #<POLA
         bne @pole
-        lda przegladane+1
-        cmp #>POLA
+        lda adres+1
+        cmp #>(plansza + POLA)
         bne @pole
         rts
 @ona:   lda dorva
@@ -242,9 +230,10 @@ spisz_plansze:
         lda (adres),y
         and #INV
         sta dorva_inv
-        lda przegladane
-        sta dorva
-        lda przegladane+1
+        sty dorva
+        lda adres+1
+        sec
+        sbc #>plansza
         sta dorva+1
         bcs @dalej
 
