@@ -150,7 +150,8 @@ wyjscie:
         sta (wsk),y
         rts
 
-; Creatures go left and right, guards down and up; both turn back where they can't go on.
+; Creatures go left and right, guards down and up. Both turn back where they can't go on, also from the heroine, whom
+; they wound.
 stwor:  lda #RANA_STWOR
         sta rana_patrolu
         lda kod
@@ -170,13 +171,13 @@ patrol: tax
         beq @zwrot
         lda kod
         jmp przesun
+@atak:  lda rana_patrolu
+        jsr zran
 @zwrot: ldy #TU
         lda kod
         eor #1
         sta (wsk),y
         rts
-@atak:  lda rana_patrolu
-        jmp zran
 
 ; A little creature sleeps until the heroine comes near in its row; then it grows up and runs towards her.
 stworek:

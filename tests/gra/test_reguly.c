@@ -298,12 +298,13 @@ static const struct row wanderers[] = {
     {"d|D/,/ ", "9", " |D/d"}, /* a guard goes down and up */
     {0, "9", " /,/d"},         /* and what it treads on stays */
     {0, "18", "/u"},
-    {"R    D", "45", 0, "e84"}, /* contact wounds, once a second at most */
-    {0, "9", 0, "e84"},
+    {"R    D", "45", "    LD", "e84"}, /* it bites and turns back */
+    {0, "9", "   L D", "e84"},
+    {"RD|", "36", 0, "e84"}, /* contact wounds, once a second at most */
     {0, "60", 0, "e69"},
-    {"DL", "R", "D", "e84"},
-    {0, "4000", 0, "e0 w2"},
-    {"Dd", "R", "D", "e79"}, /* she runs into them */
+    {"DL", "R", "D", "e84"}, /* she runs into them */
+    {"RD|", "4000", 0, "e0 w2"},
+    {"Dd", "R", "D", "e79"},
     {"DT", "R", "DT", "e79"},
     {"D!", "R", "D!", "e87"},
     {"g..D", "9", "R"}, /* it wakes in her row only */
