@@ -433,7 +433,7 @@ FILM_STAGE, FILM_PICTURES = 24, 190
 def film(*machine):
     """The beginning of a stage's recorded run as a moving picture: one look after the other at the running game."""
     pictures = [Path(f"{temporary.name}/film{number}.xwd") for number in range(101, 101 + FILM_PICTURES)]
-    looks = "; ".join(f"xwd -silent -root -out {picture}; sleep 0.05" for picture in pictures)
+    looks = "; ".join(f"xwd -silent -root -out {picture}; sleep 0.07" for picture in pictures)
     (Path(temporary.name) / "looks").write_text(f"sleep 0.3; {looks}\n")
     play(game, f"{TO_GAME} {run_of(FILM_STAGE)}",
          ["wcisniete", f"BPC {address['graj_etap']:X}", enter(FILM_STAGE), "takt_dorvy",
