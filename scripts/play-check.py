@@ -271,8 +271,8 @@ def demonstration():
         yield f"a tap of fire in the {where} starts the game", played.stops, ["pokaz_opisy", "graj_etap"]
     dumps = play(game, f"{TO_GAME} R7 -20 E5 -4500",
                  ["info_komunikat", until("rysuj_tytul", "WARMSTART"),
-                  "pokaz_gre", "panel_takt", "panel_takt", dump("linia_info", 40)]).dumps
-    yield ("its line says so, also after a RESET while a question stood there",
+                  "pokaz_gre", "pokaz_plansze", dump("linia_info", 40)]).dumps
+    yield ("its line says so from the start, also after a RESET while a question stood there",
            "".join(chr(code + 32) for code in dumps["linia_info"]).strip(), "POKAZ - FIRE LUB START: GRA")
 
 def overlay():

@@ -51,10 +51,11 @@ pokaz_gre:
         jsr reguly_start
         jsr zacznij_panel
         jsr rysuj_panel
+        powiedz KOM_POKAZ
+        jsr info_takt
         jsr pokaz_plansze
         lda #0
         sta ruch
-        sta zostalo
 @ruch:  ldx ruch
         lda ruchy,x
         beq @koniec
@@ -92,8 +93,7 @@ klatka_pokazu:
         lda zostalo
         cmp #2
         bcs :+
-        lda #KOM_POKAZ
-        sta komunikat
+        powiedz KOM_POKAZ
 :       ldx ruch
         lda ruchy,x
         lsr
