@@ -4,7 +4,7 @@
 .export dorva_takt, podstaw_dorve, rysuj_dorve, policz_wspolrzedne, dorva_inv
 .export na_pole, na_to, wejdz, mur, zapadnij, zostaw_zapach
 .exportzp dorva, dorva_x, dorva_y, zegar, kier, cel_kod, opor, naczynia, krzyk, ochrona, glebokosc
-.importzp drazek, spust, wsk, wpod, wstan, wzap, kolej, wynik, komunikat, energia, bomby
+.importzp drazek, spust, wsk, wpod, wstan, kolej, wynik, komunikat, energia, bomby
 .import plansza, zapach, sasiad, delta_lo, delta_hi, wskaz_pole, wejscia_lo, wejscia_hi, dotknieta
 .import zran, zabierz, zglos_efekt
 

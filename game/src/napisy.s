@@ -1,5 +1,4 @@
 ; All texts, and how they are written.
-.include "atari.inc"
 .include "reguly.inc"
 .include "tekst.inc"
 .export pisz, pisz_srodkiem, dwie_cyfry, pisz_bcd, komunikaty_lo, komunikaty_hi

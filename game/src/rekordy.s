@@ -11,7 +11,6 @@
 WPISY     = 5
 WPIS      = 6                           ; bytes of a result: three letters, three of points
 LITERY    = 3
-ZADNE     = $FF
 WIERSZ_WYNIKOW = 10
 KOLUMNA_WYNIKOW = 13
 INICJALY  = ekran + 10 * 40 + 26        ; behind their text
