@@ -3,7 +3,7 @@
 .include "reguly.inc"
 .include "rekord.inc"
 .include "muzyka.inc"
-.export graj, takt_gry, pierwszy_etap, od_pierwszego, pytanie, pauza, klawisz_muzyki
+.export graj, takt_gry, pierwszy_etap, pominiete, pytanie, pauza, klawisz_muzyki
 .importzp numer_etapu, drazek, spust, wynik, efekt, zycia, otwarte, komunikat
 .import wczytaj_etap, ostatni, premia, nowa_gra, nowy_etap, cofnij_probe, powtorz_probe
 .import reguly_start, takt_dorvy, takt_innych, rysuj_dorve
@@ -38,7 +38,7 @@ spoznione: .res 1       ; ticks that took longer than their frame; scripts/play-
 
 .segment "BSS"
 pierwszy_etap: .res 1   ; the stage that the title offers and START begins with: chosen there, or reached in the last game
-od_pierwszego: .res 1   ; 0: the game began with stage 1
+pominiete: .res 1       ; stages that the game left out, as it began with a later one
 powitanie_trwa: .res 1  ; 0 when it is over, 2 while the stick has been held since before
 pauza:   .res 1
 klawisze: .res 1        ; the keys that are down
@@ -55,7 +55,7 @@ graj:   lda #0
         jsr nowa_gra
         ldx numer_etapu
         dex
-        stx od_pierwszego
+        stx pominiete
 @etap:  jsr nowy_etap
 @proba: jsr wczytaj_etap
         jsr reguly_start

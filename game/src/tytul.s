@@ -9,7 +9,7 @@
 .include "tekst.inc"
 .export tytul, klatka_ekranu, klatka_bez_gracza, wcisniete, czekaj_na_puszczenie, drazek_liczy, barwa_tekstu, ekran_konca, ekran_wygranej, ekran_bez_dorvy
 .importzp numer_etapu, napis
-.import pierwszy_etap, od_pierwszego, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry, pisz_bcd
+.import pierwszy_etap, pominiete, zagraj_utwor, klawisz_muzyki, tytuly, ekran, logo, stopka, punkty, pisz_srodkiem, dwie_cyfry, pisz_bcd
 .import ozyw_znaki
 .import czysc_tekst, pokaz_tekst, wez_kolory, czekaj_klatke, wczytaj_etap, wez_etap, etap_probny, powitanie
 .import pokaz_opisy, pokaz_gre, zapisz_wynik, wpisz_inicjaly, sa_wyniki, pisz_wyniki, pisz_gwiazdki, pisz_rekord
@@ -230,7 +230,7 @@ ekran_konca:
 ; The last stage is done.
 ekran_wygranej:
         inc swieto
-        lda od_pierwszego
+        lda pominiete
         bne @zwykla
         jsr etap_probny
         bcs @zwykla
