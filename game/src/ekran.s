@@ -7,7 +7,7 @@
 .include "reguly.inc"
 .export zacznij_ekran, zgas_ekran, pokaz_plansze, pokaz_tekst, pokaz_opis, wez_kolory, blysnij, czekaj_klatke, czekaj_klatki, czysc_tekst
 .export ekran, logo, stopka, linia_info, panel_symboli, panel_cyfr, panel_paskow, kolory
-.import barwa_tekstu
+.import barwa_tekstu, wlacz_graczy
 .import pokaz_nakladke, schowaj_nakladke, plansza, czcionka, czcionka_panelu, zestaw, graj_dzwiek, graj_muzyke
 
 .segment "EKRANY"
@@ -133,7 +133,8 @@ pokaz_plansze:
         ldx #>czcionka
         lda #<lista_planszy
         ldy #>lista_planszy
-        bne pokaz
+        jsr pokaz
+        jmp wlacz_graczy
 
 ; Shows a text screen: logo in the stage's colours, text, a row of tiles.
 pokaz_tekst:

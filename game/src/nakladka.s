@@ -4,7 +4,7 @@
 ; character is a copy of the tile's.
 .include "atari.inc"
 .include "reguly.inc"
-.export pokaz_nakladke, rysuj_nakladke, mrugnij_nakladka, schowaj_nakladke, dojdz
+.export pokaz_nakladke, wlacz_graczy, rysuj_nakladke, mrugnij_nakladka, schowaj_nakladke, dojdz
 .importzp dorva, dorva_x, dorva_y, zegar, ochrona, dokad
 .import plansza, pod, zestaw, wskaz_rysunek, czekaj_klatke
 
@@ -81,13 +81,17 @@ pokaz_nakladke:
         sta SIZEP0+1
         lda #1                          ; players in front of the board
         sta GPRIOR
-        lda #2
-        sta GRACTL
         lda dorva_x                     ; she stands
         sta byla_x
         lda dorva_y
         sta byla_y
         jmp rysuj_nakladke
+
+; GTIA takes the players from the bus, where they are only once ANTIC fetches them.
+wlacz_graczy:
+        lda #2
+        sta GRACTL
+        rts
 
 ; One frame of blinking, so that nobody has to search for her.
 mrugnij_nakladka:
