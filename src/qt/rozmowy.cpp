@@ -80,7 +80,6 @@ bool showMessageBox(QWidget* parent, const Komunikat& komunikat) {
         last = box.addButton(yesNo ? "&Nie" : "&Anuluj", QMessageBox::RejectRole);
     // The Enter key, pressed once too often, must not confirm a warning.
     box.setDefaultButton(komunikat.ikona == Ikona::Warning ? last : accept);
-    box.setEscapeButton(last);
     box.exec();
     return box.clickedButton() == accept;
 }
