@@ -73,6 +73,7 @@ xdotool key Escape sleep 0.4
 close
 
 # The overview: stage 7 can't be won, its earlier versions could.
+cp build/release/data/ETAPY/DETAP.1 "$shop/planszownik/ETAPY"
 put() { printf %b "$2" | dd of="$1" bs=1 seek="$3" conv=notrunc status=none; } # put FILE BYTES OFFSET
 put "$copies/DETAP.7.0121 2026-11-24 17.40" '\0\0\0\0\0\0\0\0\0\0\0\0' 487
 put "$copies/DETAP.7.0122 2026-11-24 18.05" '\0\0\0\0\0\0' 407
