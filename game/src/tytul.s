@@ -41,12 +41,12 @@ litery: .byte %11110, %10001, %10001, %10001, %11110
         .byte %01110, %10001, %11111, %10001, %10001
 
 .segment "ZEROPAGE"
-linijka: .res 2
+linijka: .res 2         ; where a row of the logo is written; its low byte, where a title line is
 
 .segment "BSS"
 bity:   .res 1
 litera: .res 1
-rzad:   .res 1
+rzad:   .res 1          ; the row of the logo; the bytes that are left of a title line
 drazek_tytulu: .res 1
 czekanie: .res 1        ; frames until stick or fire counts again
 droga:  .res 1          ; how far she has come below the logo
