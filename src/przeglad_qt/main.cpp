@@ -19,7 +19,7 @@ constexpr int FONT_PIXELS = 13; // the window has room for more than the editor
 
 int check(int argc, char** argv) {
     const auto source = argc > 2 ? std::filesystem::path(argv[2]) : dorva::ownExecutable().parent_path();
-    return dorva::sprawdz(dorva::SYSTEM_CALLS, source, stdout, stderr);
+    return dorva::sprawdz(dorva::SYSTEM_CALLS, source);
 }
 
 } // namespace
