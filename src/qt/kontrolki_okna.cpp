@@ -21,7 +21,8 @@ KontrolkiOkna::KontrolkiOkna(const std::vector<Kontrolka>& katalog, QWidget* win
         widget->setGeometry(pixels(k.left), pixels(k.top), pixels(k.width), pixels(k.height));
         widget->setToolTip(toQString(k.tooltip));
         widget->setEnabled(k.enabled);
-        widget->setVisible(k.visible);
+        if (!k.visible)
+            widget->hide();
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QPen>
 #include <QPoint>
+#include <QStaticText>
 #include <QStyle>
 
 #include <algorithm>
@@ -48,15 +49,16 @@ void drawCaption(QPainter& painter, const QRect& box, int flags, const QString& 
 }
 
 void drawOutlined(QPainter& painter, const QRect& box, int flags, const QString& caption) {
-    const QFontMetrics metrics = painter.fontMetrics();
-    const QPoint begin = placeOfLine(metrics, box, flags, caption).topLeft() + QPoint(0, metrics.ascent());
+    const QPoint begin = placeOfLine(painter.fontMetrics(), box, flags, caption).topLeft();
+    QStaticText text(caption);
+    text.setTextFormat(Qt::PlainText);
     const QPen pen = painter.pen();
     painter.setPen(Qt::black);
     for (int x : {-1, 0, 1})
         for (int y : {-1, 0, 1})
-            painter.drawText(begin + QPoint(x, y), caption);
+            painter.drawStaticText(begin + QPoint(x, y), text);
     painter.setPen(pen);
-    painter.drawText(begin, caption);
+    painter.drawStaticText(begin, text);
 }
 
 } // namespace dorva
