@@ -73,11 +73,6 @@ TEST_F(Board, UniqueTilesCantBePlacedTwice) {
         EXPECT_TRUE(enabled(z));
         imgZnak_Click(e, kod(z));
         ASSERT_EQ(e.okno.imgBufor.znak, z);
-        imgPG_MouseDown(e, 3, LEWY);
-        EXPECT_FALSE(enabled(z));
-        PackEtap(e);
-        EXPECT_TRUE(enabled(z)) << "none is left on the edge";
-        imgZnak_Click(e, kod(z));
         imgPG_MouseDown(e, 205, LEWY);
         imgPG_MouseMove(e, 206, LEWY);
         EXPECT_EQ(cell(5, 5), z);
