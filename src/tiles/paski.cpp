@@ -47,7 +47,7 @@ bool loadPasek(Magazyn& frmZestawy, const Haki& haki, const std::filesystem::pat
     auto path = zestaw;
     path += ".TILES.BMP";
     const auto picTiles = askPicture(haki, path, PASEK_WIDTH, OBRAZ_SIDE);
-    if (!picTiles || !picTiles->isWhole())
+    if (!picTiles)
         return false;
     cutStrip(frmZestawy, *picTiles, swiat);
     return true;
