@@ -1,5 +1,5 @@
 // A disk in memory, used through a table of system calls, and a desk whose files are on it. The calls can be made to
-// fail, and the disk can list every state in which a power cut might leave it.
+// fail, and the disk can list the states in which a power cut might leave it.
 #pragma once
 
 #include "desk.h"
@@ -17,32 +17,12 @@ namespace dorva::test {
 using Path = SystemCalls::Path;
 using Files = std::map<std::string, Bajty>; // by path
 
-// Makes the N-th call fail, and if wanted all after it.
-struct Failure {
-    static constexpr Result SHORT = Result::Ok; // no failure: reads and writes move half of what they were asked to
-    int at = 0;                                 // the failing call, counted from 1; 0: none
-    Result error = Result::Error;
-    bool forGood = false;
-    int calls = 0;
-    bool removeFailed = false;
-
-    [[nodiscard]] bool strikes() { return ++calls == at || (forGood && at > 0 && calls > at); }
-};
-
 struct File {
     Bajty bytes;
     Bajty flushed; // what the disk is sure to hold
     Time modified;
 };
 using FileRef = std::shared_ptr<File>;
-
-// What a power cut may leave of a file: what was written and not flushed may be missing, cut short, zeros or there.
-inline std::vector<Bajty> formsOf(const File& file) {
-    if (file.bytes == file.flushed)
-        return {file.bytes};
-    const auto half = static_cast<std::ptrdiff_t>(file.bytes.size() / 2);
-    return {file.flushed, {file.bytes.begin(), file.bytes.begin() + half}, Bajty(file.bytes.size(), 0), file.bytes};
-}
 
 struct MemoryDisk {
     struct Open {
@@ -51,11 +31,12 @@ struct MemoryDisk {
     };
     std::map<std::string, FileRef> names;
     std::set<std::string> folders;
-    std::map<std::string, std::vector<FileRef>> unsure; // what a name stood for since its folder was last flushed
-    std::set<std::string> unsureFolders;                // made since the folder above was last flushed
+    std::map<std::string, FileRef> unsure; // names changed since their folder was flushed, and what they stood for then
     std::vector<Open> open;
-    Failure failure;
     Time clock = Time(std::chrono::hours(24 * 365 * 50));
+    int calls = 0;
+    int failing = 0;      // the call that fails, counted from 1; 0: none
+    bool forGood = false; // and all after it
 
     void put(const std::string& path, const Bajty& bytes) {
         names[path] = std::make_shared<File>(File{bytes, bytes, clock});
@@ -68,12 +49,13 @@ struct MemoryDisk {
     }
     void setName(const Path& path, const FileRef& file) {
         const std::string name = path.generic_string();
-        unsure[name].push_back(find(path));
+        unsure.try_emplace(name, find(path));
         names[name] = file;
         if (!file)
             names.erase(name);
     }
     Open& at(Handle file) { return open[static_cast<std::size_t>(file)]; }
+    bool fails() { return ++calls == failing || (forGood && calls > failing); }
 
     [[nodiscard]] Files files(std::string_view prefix = "") const {
         Files files;
@@ -83,34 +65,18 @@ struct MemoryDisk {
         return files;
     }
 
-    // Each name that changed since its folder was flushed is old or new, whatever the others are. A folder whose own
-    // name was not flushed may be lost with all that it holds.
+    // No file holds more than what was flushed, and one of the names may be what it was when its folder was flushed. A
+    // new folder may be lost with all that it holds.
     [[nodiscard]] std::vector<Files> afterPowerCut() const {
-        std::map<std::string, std::vector<FileRef>> candidates = unsure;
-        for (const auto& [name, file] : names)
-            candidates[name];
         std::vector<Files> states(1);
-        for (auto& [name, versions] : candidates) {
-            versions.push_back(find(name));
-            std::vector<Files> longer;
-            for (const FileRef& file : versions) {
-                if (!file) {
-                    longer.insert(longer.end(), states.begin(), states.end());
-                    continue;
-                }
-                for (const Bajty& form : formsOf(*file))
-                    for (Files state : states) {
-                        state[name] = form;
-                        longer.push_back(std::move(state));
-                    }
-            }
-            states = std::move(longer);
-        }
-        for (const std::string& folder : unsureFolders) {
-            std::vector<Files> without = states;
-            for (Files& state : without)
-                std::erase_if(state, [&](const auto& entry) { return entry.first.starts_with(folder + '/'); });
-            states.insert(states.end(), without.begin(), without.end());
+        for (const auto& [name, file] : names)
+            states[0][name] = file->flushed;
+        for (const auto& [lost, old] : unsure) {
+            Files state = states[0];
+            std::erase_if(state, [&](const auto& entry) { return (entry.first + '/').starts_with(lost + '/'); });
+            if (old)
+                state[lost] = old->flushed;
+            states.push_back(std::move(state));
         }
         return states;
     }
@@ -147,44 +113,28 @@ inline Result openPath(const Path& path, OpenMode mode, Handle& handle) {
     return Result::Ok;
 }
 
-// How many bytes a transfer moves: all, or half of them if it is the one that fails.
-inline std::size_t moved(std::size_t count, Result& result) {
-    if (!disk.failure.strikes())
-        return count;
-    result = disk.failure.error;
-    return (count + 1) / 2;
-}
+constexpr std::size_t TRANSFER_MAX = 20'000; // bytes that one call moves: less than an archive has
 
 inline Result readBytes(Handle handle, std::span<Bajt> bytes, std::size_t& count) {
     auto& [file, at] = disk.at(handle);
-    Result result = Result::Ok;
-    count = moved(std::min(bytes.size(), file->bytes.size() - at), result);
+    count = std::min({bytes.size(), file->bytes.size() - at, TRANSFER_MAX});
     std::copy_n(file->bytes.begin() + static_cast<std::ptrdiff_t>(at), count, bytes.begin());
     at += count;
-    return result;
+    return Result::Ok;
 }
 
 inline Result writeBytes(Handle handle, std::span<const Bajt> bytes, std::size_t& count) {
-    auto& [file, at] = disk.at(handle);
-    Result result = Result::Ok;
-    count = moved(bytes.size(), result);
-    file->bytes.resize(std::max(file->bytes.size(), at + count));
-    std::ranges::copy(bytes.first(count), file->bytes.begin() + static_cast<std::ptrdiff_t>(at));
-    file->modified = disk.clock;
-    at += count;
-    return result;
+    File& file = *disk.at(handle).file;
+    count = std::min(bytes.size(), TRANSFER_MAX);
+    std::ranges::copy(bytes.first(count), std::back_inserter(file.bytes)); // only new files are written to
+    file.modified = disk.clock;
+    return Result::Ok;
 }
 
 inline Result flushFile(Handle handle) {
     File& file = *disk.at(handle).file;
     file.flushed = file.bytes;
     return Result::Ok;
-}
-
-inline Result closeFile(Handle handle) {
-    if (static_cast<std::size_t>(handle) + 1 == disk.open.size())
-        disk.open.pop_back();
-    return disk.failure.strikes() ? disk.failure.error : Result::Ok;
 }
 
 inline Result moveName(const Path& from, const Path& to) {
@@ -205,38 +155,35 @@ inline Result addFolder(const Path& path) {
         return Result::Missing;
     if (!disk.folders.insert(path.generic_string()).second)
         return Result::Taken;
-    disk.unsureFolders.insert(path.generic_string());
+    disk.unsure[path.generic_string()] = nullptr;
     return Result::Ok;
 }
 
 inline Result flushNames(const Path& folder) {
-    const auto isIn = [&](const std::string& name) { return Path(name).parent_path() == folder; };
-    std::erase_if(disk.unsure, [&](const auto& entry) { return isIn(entry.first); });
-    std::erase_if(disk.unsureFolders, isIn);
+    std::erase_if(disk.unsure, [&](const auto& entry) { return Path(entry.first).parent_path() == folder; });
     return Result::Ok;
 }
 
 inline Result listFolder(const Path& folder, std::vector<Path>& names) {
     if (!disk.folders.contains(folder.generic_string()))
         return Result::Missing;
-    const std::string start = folder.generic_string() + '/';
-    for (auto at = disk.names.lower_bound(start); at != disk.names.end() && at->first.starts_with(start); ++at)
-        if (at->first.find('/', start.size()) == std::string::npos)
-            names.emplace_back(at->first.substr(start.size()));
+    for (const auto& [name, file] : disk.names)
+        if (const Path path = name; path.parent_path() == folder)
+            names.push_back(path.filename());
     return Result::Ok;
 }
 
 template <auto Call, class... Args> Result mayFail(Args... args) {
-    return disk.failure.strikes() && disk.failure.error != Failure::SHORT ? disk.failure.error : Call(args...);
+    return disk.fails() ? Result::Error : Call(args...);
 }
 
 inline const SystemCalls* memoryCalls() {
     static const SystemCalls calls{
         .open = mayFail<openPath>,
-        .read = readBytes,
-        .write = writeBytes,
+        .read = mayFail<readBytes>,
+        .write = mayFail<writeBytes>,
         .flush = mayFail<flushFile>,
-        .close = closeFile,
+        .close = mayFail<[](Handle) { return Result::Ok; }>,
         .stat = mayFail<statPath>,
         .readLink = mayFail<[](const Path&, Path&) { return Result::Missing; }>, // there are no links
         .isSame = mayFail<[](const Path& one, const Path& other, bool& same) {
@@ -245,12 +192,7 @@ inline const SystemCalls* memoryCalls() {
         }>,
         .setMode = mayFail<[](const Path&, std::filesystem::perms) { return Result::Ok; }>,
         .rename = mayFail<moveName>,
-        .remove =
-            [](const Path& path) {
-                const Result result = mayFail<removeName>(path);
-                disk.failure.removeFailed |= result == disk.failure.error;
-                return result;
-            },
+        .remove = mayFail<removeName>,
         .makeFolder = mayFail<addFolder>,
         .flushFolder = mayFail<flushNames>,
         .list = mayFail<listFolder>,
