@@ -8,7 +8,7 @@ steps=(format shell floors sanitizers coverage findings documents package play w
 declare -A needs=( # the steps' packages, as setup.sh takes them; windows.sh installs more
     [format]=clang-format [shell]=shellcheck [floors]=python3 [documents]=build [play]='build python3' [windows]=build
     [sanitizers]='build tests' [coverage]='build tests clang libclang-rt-dev llvm' [findings]='build clang clang-tidy'
-    [package]='build xvfb openbox xdotool desktop-file-utils'
+    [package]='build xvfb xauth openbox xdotool desktop-file-utils'
 )
 for step; do
     [[ " ${steps[*]} " == *" $step "* ]] || { echo "checks: no step $step; there are: ${steps[*]}" >&2; exit 2; }

@@ -1,10 +1,14 @@
-# display.sh: sourced by scripts that use the program by mouse and keys. Gives them a folder for temporary files, a
-# display of their own, the program's window on it, and the places of its controls. Ends what they start when they end.
-# shellcheck shell=sh disable=SC2034
+# display.sh: sourced by scripts that use the program by mouse and keys. Runs them again on a display of their own, of the
+# size $screen. Gives them a folder for temporary files, the program's window, and the places of its controls. Ends what
+# they start when they end.
+# shellcheck shell=sh disable=SC2034,SC2154
 
-for tool in Xvfb openbox xdotool; do
+for tool in xvfb-run xauth openbox xdotool; do
     command -v $tool >/dev/null || { echo "skipped: there is no $tool" && exit; }
 done
+[ -n "${on_own_display-}" ] ||
+    exec env -u QT_QPA_PLATFORM on_own_display=yes \
+        xvfb-run -a -s "-noreset -screen 0 ${screen}x24" "scripts/${0##*/}" "$@"
 room=$(mktemp -d) servers='' editor='' window=''
 finish() {
     for process in $editor $servers; do
@@ -13,6 +17,9 @@ finish() {
     rm -rf "$room"
 }
 trap finish EXIT
+openbox >/dev/null 2>&1 & # for keyboard focus and for closing by key
+servers=$!
+sleep 1
 
 fail() {
     echo "FAILED: $1"
@@ -25,24 +32,8 @@ expect() { # expect TEXT COMMAND...
     if "$@"; then echo "ok: $text"; else fail "$text"; fi
 }
 
-open_display() { # open_display WIDTH HEIGHT
-    Xvfb -displayfd 3 -noreset -screen 0 "$1x$2x24" 3>"$room/display" >/dev/null 2>&1 &
-    servers=$!
-    for _ in $(seq 100); do
-        [ ! -s "$room/display" ] || break
-        sleep 0.2
-    done
-    DISPLAY=:$(cat "$room/display")
-    export DISPLAY
-    unset QT_QPA_PLATFORM
-    openbox >/dev/null 2>&1 & # for keyboard focus and for closing by key
-    servers="$! $servers"
-    sleep 1
-}
-
 # Starts the editor, or the program whose window has the title $title, and sets $editor to its process and $window to
-# its window. A search ends with an error if another
-# window closes in the meantime.
+# its window. A search ends with an error if another window closes in the meantime.
 start() { # start COMMAND...
     "$@" &
     editor=$!

@@ -6,6 +6,7 @@ set -eu
 cd "$(dirname "$0")/.."
 archive=${1-$(find build/release -maxdepth 1 -name 'dorva-planszownik-*.tar.gz' 2>/dev/null | sort | tail -n 1)}
 [ -f "$archive" ] || { echo "package-check: no package; run scripts/package.sh first" && exit 1; }
+screen=1280x720
 . scripts/display.sh
 place="$room/Moje gry (żółć)"
 mkdir "$place"
@@ -23,7 +24,6 @@ fresh() { diff -r "$folder/wzorzec/$1" "$folder/$1"; }
 same() { cmp "$room/$1" "$folder/$1"; }
 changed() { ! cmp -s "$folder/wzorzec/$1" "$folder/$1"; }
 
-open_display 1280 720
 unpack
 folder=$(echo "$place"/dorva-planszownik-*)
 expect "nothing that a user works on stands at its place" all absent

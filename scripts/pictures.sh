@@ -5,13 +5,13 @@
 set -eu
 
 cd "$(dirname "$0")/.."
+screen=1280x720
 . scripts/display.sh
 shop=/tmp/Planszownik # the path is in a picture
 mkdir "$shop"         # fails if it exists: then it is somebody else's
 trap 'finish; rm -rf "$shop"' EXIT
 scripts/lay.sh build/release "$shop/planszownik"
 
-open_display 1280 720
 export HOME="$room/dom"
 mkdir "$HOME"
 copies=$shop/planszownik/ETAPY/KOPIE/DETAP.7

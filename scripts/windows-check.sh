@@ -9,6 +9,7 @@ cd "$(dirname "$0")/.."
 zip=$(realpath build/windows/dorva-planszownik-*-windows-x64.zip)
 pictures=$PWD/build/windows/obrazy
 mkdir -p "$pictures"
+screen=1920x1360 # room for twice the size
 . scripts/display.sh
 
 # The libraries that the executables need.
@@ -31,7 +32,6 @@ for program in planszownik przeglad; do
     expect "$program: no console" eval "x86_64-w64-mingw32-objdump -p '$folder/$program.exe' | grep -q 'Windows GUI'"
 done
 
-open_display 1920 1360 # room for twice the size
 setxkbmap pl
 
 # Runs the window's tests with the libraries of the zip, except the one for Qt's own file dialog, which isn't used there.

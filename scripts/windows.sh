@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 build=build/windows
 export QT_WINDOWS="${XDG_CACHE_HOME:-$HOME/.cache}/dorva-planszownik/qt-windows-6.4.2"
 scripts/setup.sh build g++-mingw-w64-x86-64-posix googletest qt6-base-dev-tools dpkg-dev perl python3 \
-    wine wine64 xvfb openbox xdotool x11-xkb-utils imagemagick unzip
+    wine wine64 xvfb xauth openbox xdotool x11-xkb-utils imagemagick unzip
 for tool in x86_64-w64-mingw32-g++-posix wine cmake; do
     command -v $tool >/dev/null || { echo "windows: skipped: $tool can't be installed here" && exit; }
 done
