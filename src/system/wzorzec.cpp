@@ -1,22 +1,13 @@
 #include "system/wzorzec.h"
 
-#include <chrono>
-#include <thread>
+#include "system/system_own.h"
+
+#include <cerrno>
 
 namespace dorva {
 namespace {
 
 namespace fs = std::filesystem;
-
-// On Windows a file can't be renamed while a scanner holds it, which is likely right after it was written.
-void renamePatiently(const fs::path& from, const fs::path& to, std::error_code& error) {
-    for (int attempt = 0; attempt < 20; ++attempt) {
-        fs::rename(from, to, error);
-        if (!error)
-            return;
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    }
-}
 
 std::error_code layWhole(const fs::path& from, const fs::path& to) {
     std::error_code error;
@@ -28,8 +19,8 @@ std::error_code layWhole(const fs::path& from, const fs::path& to) {
     fs::create_directories(to.parent_path(), error);
     if (!error)
         fs::copy(from, copy, fs::copy_options::recursive, error);
-    if (!error)
-        renamePatiently(copy, to, error);
+    if (!error && own::rename(copy, to) != 0)
+        error.assign(errno, std::generic_category());
     return error;
 }
 
