@@ -1,7 +1,6 @@
 // Game files to try the game with, made by the builder's own functions:
 //   zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP...   makes a game with these title lines and, from stage 1 on, these
 //                                                      stage files; the game ends after the last of them
-//   zloz_gre --tytul GRA                               prints the bytes of a game's title lines, one line each
 #include "etapy.h"
 #include "output/szablon.h"
 #include "stage/etap_image.h"
@@ -32,23 +31,14 @@ void makeGra(const Arguments& a) {
     writeFile(a[1], buildGra(szablon, etapy, {linia(a, 0), linia(a, 1), linia(a, 2)}));
 }
 
-void printTytul(const std::string& name) {
-    const Bajty gra = readFile(name);
-    for (std::size_t i = 0; i < LINIE_COUNT * LINIA_TYTULU_SIZE_BYTES; ++i)
-        std::cout << int{gra.at(LINIE_TYTULU_OFFSET + i)} << ((i + 1) % LINIA_TYTULU_SIZE_BYTES ? ' ' : '\n');
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
     const Arguments arguments(argv + 1, argv + argc);
     try {
-        if (arguments.size() == 2 && arguments[0] == "--tytul")
-            printTytul(arguments[1]);
-        else if (arguments.size() > FIRST_ETAP)
-            makeGra(arguments);
-        else
-            throw SourceError("usage: zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP..., or zloz_gre --tytul GRA");
+        if (arguments.size() <= FIRST_ETAP)
+            throw SourceError("usage: zloz_gre SZABLON WYNIK LINIA LINIA LINIA ETAP...");
+        makeGra(arguments);
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 1;
