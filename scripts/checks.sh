@@ -30,7 +30,7 @@ with_built() { # with_built FILES COMMAND...
 }
 window=src/qt/planszownik game=data/PLIKI/DP2.DTA
 
-# Each step is a function. Its line ends with the last line of its log, or with what summary_STEP takes from it.
+# Each step is a function. Its line ends with the last line of its log.
 
 format() {
     find src tests bench game packaging \( -name '*.cpp' -o -name '*.h' -o -name '*.c' \) -print0 |
@@ -70,7 +70,6 @@ END
 sanitizers() {
     cmake --preset asan && cmake --build --preset asan && ctest --preset asan -j2
 }
-summary_sanitizers() { grep 'tests passed' "$1"; }
 
 # The logic and its tests without Qt, and the branches of the source that they reach.
 coverage() {
@@ -98,15 +97,13 @@ documents() { with_built "$game" scripts/docs-check.sh; }
 play() { with_built "$game" scripts/play-check.py; }
 package() { with_built "$window $game" eval 'scripts/package.sh && scripts/package-check.sh'; }
 windows() { with_built "$window $game" scripts/windows.sh --check; }
-summary_windows() { grep -E '^(windows: )?skipped|PASSED|logic only|all well' "$1" | tail -n 3 | paste -sd';'; }
 
 failed=0
 for step; do
     SECONDS=0
     log=$logs/$step.log
     if $step >"$log" 2>&1; then
-        said=$(if declare -F "summary_$step" >/dev/null; then "summary_$step" "$log"; else tail -n 1 "$log"; fi)
-        printf 'ok      %-11s %4d s  %s\n' "$step" $SECONDS "$said"
+        printf 'ok      %-11s %4d s  %s\n' "$step" $SECONDS "$(tail -n 1 "$log")"
     else
         printf 'FAILED  %-11s %4d s  %s\n' "$step" $SECONDS "$log"
         tail -n 40 "$log"
