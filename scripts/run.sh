@@ -14,8 +14,4 @@ scripts/lay.sh build/release
     exit 1
 }
 [ $# = 0 ] || exit 0
-planszownik/planszownik || {
-    status=$?
-    echo "run: it is built, though: $PWD/planszownik/planszownik" >&2
-    exit $status
-}
+planszownik/planszownik || { echo "run: it is built, though: $PWD/planszownik/planszownik" >&2 && exit 1; }
