@@ -71,3 +71,4 @@ click() { point "$1" "$2"; xdotool click 1; sleep 0.35; }
 point_cell() { point $((96 + 16 * $1 + 8)) $((16 + 16 * $2 + 8)); } # COLUMN ROW
 cell() { point_cell "$1" "$2"; xdotool click 1; sleep 0.35; }
 slot() { click $((168 + 32 * $1 + 17)) $((489 + 32 * $2)); } # COLUMN ROW
+put() { printf %b "$2" | dd of="$1" bs=1 seek="$3" conv=notrunc status=none; } # put FILE BYTES OFFSET

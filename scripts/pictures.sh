@@ -30,10 +30,17 @@ drag() { # from COLUMN ROW to COLUMN ROW
     sleep 0.15
 }
 room_of() { for row in $(seq "$2" "$4"); do drag "$1" "$row" "$3" "$row"; done; }
-shot() { sleep 0.3; import -window "${2-$window}" "$room/$1.png"; }
+keep() { # keep NAME COLOURS [CROP]
+    convert "$room/$1.png" ${3:+-crop "$3" +repage} +dither -colors "$2" -strip "PNG8:docs/obrazy/$1.png"
+}
+shot() { # shot NAME COLOURS [WINDOW [CROP]]
+    sleep 0.3
+    import -window "${3-$window}" "$room/$1.png"
+    keep "$1" "$2" "${4-}"
+}
 
 point 450 350
-shot okno
+shot okno 96
 press cmdCzysc # Tak
 xdotool key Tab Return sleep 0.4
 slot 0 0 # NIC
@@ -51,38 +58,37 @@ xdotool type --delay 60 'mój pierwszy etap'
 xdotool key Tab
 press "optEtapNR(0)"
 point 450 350
-shot pierwszy-etap
+shot okno-pierwszy-etap 96
 press cmdTest
-shot pytanie root
+shot okno-pytanie 64 root 315x105+481+287
 xdotool key Tab Return sleep 0.4
 press "lblKolor(4)"
 palette=$(xdotool search --name 'Paleta Atari' | head -n 1)
 xdotool mousemove --window "$palette" 95 215 mousemove_relative 1 0
 sleep 1.2
-shot paleta root
+shot okno-paleta 256 root 434x391+654+47
 xdotool mousemove --window "$palette" 100 316 click 1 sleep 0.3
 slot 10 0 && cell 20 16 # a door without a key, an odd object, no heroine
 slot 18 1 && cell 22 16
 slot 1 0 && cell 6 6
-shot info
+shot okno-info 64 "$window" 660x40+86+354
 press cmdLoad
 xdotool type "$copies"
 xdotool key Return sleep 0.8 mousemove 600 400 click 1 sleep 0.8 mousemove 500 226 click 1 sleep 0.4
-shot kopie root
+shot okno-kopie 64 root 759x482+259+99
 xdotool key Escape sleep 0.4
 close
 
 # The overview: stage 7 can't be won, its earlier versions could.
 cp build/release/data/ETAPY/DETAP.1 "$shop/planszownik/ETAPY"
-put() { printf %b "$2" | dd of="$1" bs=1 seek="$3" conv=notrunc status=none; } # put FILE BYTES OFFSET
 put "$copies/DETAP.7.0121 2026-11-24 17.40" '\0\0\0\0\0\0\0\0\0\0\0\0' 487
 put "$copies/DETAP.7.0122 2026-11-24 18.05" '\0\0\0\0\0\0' 407
 put "$shop/planszownik/ETAPY/DETAP.7" '\143' 832
 title='Przegląd etapów' start "$shop/planszownik/przeglad" 2>/dev/null
 xdotool windowsize --sync "$window" 948 640 key F8 sleep 0.5 # no wider than a page shows it unscaled
-shot przeglad
+shot przeglad 96
 xdotool key Return sleep 1
-shot wersje "$(xdotool search --onlyvisible --name 'wersje etapu 7' | tail -n 1)"
+shot przeglad-wersje 96 "$(xdotool search --onlyvisible --name 'wersje etapu 7' | tail -n 1)"
 xdotool key Escape sleep 0.4
 close
 
@@ -91,49 +97,35 @@ atari800 -config "$room/atari" -win-width 672 -win-height 480 >"$room/log" 2>&1 
 servers="$! $servers"
 sleep 4
 key F1 Down Down Down Down Down Down Down Down Down Return Down Down Down Down Down Down Return
-shot klawisze "Atari 800 Emulator, Version 5.0.0"
-
-keep() { # keep SHOT NAME COLOURS [CROP]
-    convert "$room/$1.png" ${4:+-crop "$4" +repage} +dither -colors "$3" -strip "PNG8:docs/obrazy/$2.png"
-}
-keep okno okno 96
-keep pierwszy-etap okno-pierwszy-etap 96
-keep paleta okno-paleta 256 434x391+654+47
-keep info okno-info 64 660x40+86+354
-keep pytanie okno-pytanie 64 315x105+481+287
-keep kopie okno-kopie 64 759x482+259+99
-keep przeglad przeglad 96
-keep wersje przeglad-wersje 96
-keep klawisze emulator-klawisze 16 640x262+16+40
+shot emulator-klawisze 16 "Atari 800 Emulator, Version 5.0.0" 640x262+16+40
 
 font=src/qt/zasoby/czcionki/LiberationSans
-number() { # number SHOT PLACE...: numbers for the rows of a table, from 1 on
-    local shot=$1 number=0 marks=() place x y
-    for place in "${@:2}"; do
-        number=$((number + 1)) x=${place%,*} y=${place#*,}
-        marks+=(-fill '#c8102e' -stroke white -strokewidth 1.5 -draw "circle $x,$y $((x + 10)),$y")
-        marks+=(-stroke none -fill white -annotate "+$((x - (number > 9 ? 7 : 3)))+$((y - 8))" "$number")
-    done
-    convert "$room/$shot.png" -font "$font-Bold.ttf" -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/$shot.png"
-}
-number okno 82,13 70,334 420,60 874,14 874,94 880,270 872,328 738,358 374,357 866,362 310,406 881,408 80,534 153,470 \
-    520,505 521,567 540,560 659,560 785,560 785,606
-keep okno okno-opis 96
+
+# The window with numbers for the rows of a table, from 1 on.
+number=0 marks=()
+for place in 82,13 70,334 420,60 874,14 874,94 880,270 872,328 738,358 374,357 866,362 310,406 881,408 80,534 153,470 \
+    520,505 521,567 540,560 659,560 785,560 785,606; do
+    number=$((number + 1)) x=${place%,*} y=${place#*,}
+    marks+=(-fill '#c8102e' -stroke white -strokewidth 1.5 -draw "circle $x,$y $((x + 10)),$y")
+    marks+=(-stroke none -fill white -annotate "+$((x - (number > 9 ? 7 : 3)))+$((y - 8))" "$number")
+done
+convert "$room/okno.png" -font "$font-Bold.ttf" -pointsize 13 -gravity NorthWest "${marks[@]}" "$room/okno-opis.png"
+keep okno-opis 96
 
 # Every tile of the picker with its name, in the three worlds, down the columns; some tiles STD above INV.
-convert build/release/data/OBIEKTY/ORN_EXPORT/*.BMP -append +repage -crop 32x32 +repage -bordercolor gray60 -border 1 "$room/tile-%d.png"
-tiles() { for place; do echo "$room/tile-$place.png"; done; }
+convert build/release/data/OBIEKTY/ORN_EXPORT/*.BMP -append +repage -crop 32x32 +repage -bordercolor gray60 -border 1 \
+    "$room/tile-%d.png"
 mapfile -t codes < <(sed '1,/WYBOR_ORDER{/d' src/board/znak.h | grep -oE '[0-9]+')
 entries=()
 for i in "${!codes[@]}"; do
     code=${codes[i % 4 * 11 + i / 4]} entries+=("$room/entry-$i.png")
-    # shellcheck disable=SC2046 # names without spaces
-    convert $(tiles "$code" $((code + 128)) $((code + 256))) \( -size 4x34 xc:white \) \
-        \( -size 100x34 -gravity West -font "$font-Regular.ttf" -pointsize 11 \
-        caption:"$(sed -n "s/^$code \([^a-z]*\)$/\1/p" game/art/swiat1.txt)" \) +append "${entries[i]}"
+    name=$(sed -n "s/^$code \([^a-z]*\)$/\1/p" game/art/swiat1.txt)
+    convert "$room/tile-$code.png" "$room/tile-$((code + 128)).png" "$room/tile-$((code + 256)).png" \
+        \( -size 4x34 xc:white \) \
+        \( -size 100x34 -gravity West -font "$font-Regular.ttf" -pointsize 11 caption:"$name" \) +append "${entries[i]}"
 done
 montage "${entries[@]}" -tile 4x11 -geometry +3+2 "$room/znaki.png"
-keep znaki znaki 64
-# shellcheck disable=SC2046
-convert \( $(tiles 2 11 24 26 40 63) +append \) \( $(tiles 66 75 88 90 104 127) +append \) -append -scale 200% "$room/inv.png"
-keep inv znaki-inv 64
+keep znaki 64
+convert \( "$room"/tile-{2,11,24,26,40,63}.png +append \) \( "$room"/tile-{66,75,88,90,104,127}.png +append \) -append \
+    -scale 200% "$room/znaki-inv.png"
+keep znaki-inv 64
