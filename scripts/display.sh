@@ -56,10 +56,9 @@ close() {
 
 # Where to press controls, in pixels; in text boxes beside the text.
 places='
-optEtapNR(0) 37 32       optEtapNR(1) 37 48       optObiektyNR(0) 776 32   optObiektyNR(1) 816 32
-optObiektyNR(2) 856 32   lblKolor(0) 840 110      lblKolor(4) 852 175      cmdCzysc 816 373
+optEtapNR(0) 37 32       optEtapNR(1) 37 48       lblKolor(4) 852 175      cmdCzysc 816 373
 lblInfo(2) 280 376       txtNazwa 160 425         txtAutorGry(0) 100 585   txtAutorGry(1) 260 585
-cmdTest 836 572          cmdCreate 836 596        cmdLoad 592 572          cmdSave 592 596
+cmdTest 836 572          cmdCreate 836 596        cmdLoad 592 572
 '
 press() { # press CONTROL
     # shellcheck disable=SC2046 # two words: x and y

@@ -16,16 +16,15 @@ done
 
 # Wine for tests: with a folder of its own, without installation dialogs and without messages of its own.
 export WINEPREFIX="$PWD/$build/wine" WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
-libraries=$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)
 trap 'wineserver -k 2>/dev/null || true' EXIT # so that nothing of it goes on running
-export WINEPATH="${libraries%/*};/usr/x86_64-w64-mingw32/lib"
 
 if [ $# = 0 ]; then
     scripts/windows-qt.sh "$QT_WINDOWS"
 else
     cmake --preset windows -DQT_WINDOWS="$QT_WINDOWS"
     cmake --build --preset windows --target dorva_tests
-    timeout 600 wine $build/tests/dorva_tests.exe --gtest_brief
+    libraries=$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll) # the zip brings its own
+    WINEPATH="${libraries%/*};/usr/x86_64-w64-mingw32/lib" timeout 600 wine $build/tests/dorva_tests.exe --gtest_brief
     [ -f "$QT_WINDOWS/ready" ] || { echo "the logic only: there is no Qt for Windows yet; scripts/windows.sh builds it" && exit; }
 fi
 scripts/run.sh --no-start
