@@ -71,12 +71,8 @@ def run_of(stage):
 def until(label, go_on="CONT"):
     return f"BPC {address[label]:X}\n{go_on}"
 
-def place(label):
-    name, _, offset = label.partition("+")
-    return address[name] + int(offset or 0)
-
 def poke(label, *values):
-    return f"C {place(label):X} {' '.join(f'{value:X}' for value in values)}"
+    return f"C {address[label]:X} {' '.join(f'{value:X}' for value in values)}"
 
 def enter(stage):  # from the title on
     return poke("numer_etapu", stage) + "\n" + until("graj_etap", f"CONT {address['graj']:X}")
@@ -97,7 +93,8 @@ def play(file, tokens, steps, *machine, emulator=FAST):
     for step, made in zip(steps, files):
         start = size = 1
         if isinstance(step, tuple):
-            start, size = place(step[0]), len(step[1]) if isinstance(step[1], bytes) else 1
+            label, _, offset = step[0].partition("+")
+            start, size = address[label] + int(offset or 0), len(step[1]) if isinstance(step[1], bytes) else 1
         else:
             label = step.removeprefix("not ")
             commands.append(until(label) if re.fullmatch("[a-z_]+", label) else label)
@@ -216,7 +213,6 @@ def music(system, frame_rate):
     first = next(frame for frame, registers in enumerate(sound) if registers[4] == 64)  # B, not in the title's tune
     yield f"its tempo is the same on every system ({system})", 6.4 < (first - 410) / frame_rate < 7, True
 
-
 def records():
     yield follow("the initials B, space and A are chosen; after RESET too the title shows the result and, with the keys "
                  "again, a star for the finished stage, dark on light as the chosen one, and its best bonus", game,
@@ -269,12 +265,13 @@ def overlay():
     record = patched(stages[1], field["PLANSZA"], bytes(420) + bytes([DORVA, 0]))  # alone, row 10, column 20
     for keys, cell, columns, rows in (("R7", 421, [129, 129, 130, 131, 131, 132, 132], [80] * 7),
                                       ("U7", 380, [128] * 7, [79, 77, 76, 75, 73, 72, 72])):
+        end = [(f"plansza+{cell}", BENEATH), (f"gracz1+{top + 8 * (cell // COLUMNS) + 8}", bytes(8))]
         played = play(build_game(record), f"{TO_GAME} {keys} -60",
-                      ["graj_etap", *["takt_innych", "GTIA", ("linia", 0)] * 7, (f"plansza+{cell}", BENEATH)])
+                      ["graj_etap", *["takt_innych", "GTIA", ("linia", 0)] * 7, *end])
         yield (f"she glides to the next cell before the others' part of a tick ({keys})",
                ([int(column, 16) for column in re.findall("HPOSP0=(..)", played.log)],
                 [step[1] - top for step in played.steps if step[0] == "linia"]), (columns, rows))
-        yield "where she has the code that shows what lies beneath", played.steps[-1][1], BENEATH
+        yield "where she has the code that shows what lies beneath; below nothing is left of her", played.steps[-2:], end
 
 def all_stages():
     for stage, record in stages.items():
