@@ -1,7 +1,7 @@
 # display.sh: sourced by scripts that use the program by mouse and keys. Runs them again on a display of their own, of the
 # size $screen. Gives them a folder for temporary files, the program's window, and the places of its controls. Ends what
 # they start when they end.
-# shellcheck shell=sh disable=SC2034,SC2154
+# shellcheck shell=sh disable=SC2034,SC2046,SC2154
 
 for tool in xvfb-run xauth openbox xdotool; do
     command -v $tool >/dev/null || { echo "skipped: there is no $tool" && exit; }
@@ -61,7 +61,6 @@ lblInfo(2) 280 376       txtNazwa 160 425         txtAutorGry(0) 100 585   txtAu
 cmdTest 836 572          cmdCreate 836 596        cmdLoad 592 572
 '
 press() { # press CONTROL
-    # shellcheck disable=SC2046 # two words: x and y
     click $(echo "$places" | xargs -n 3 | sed -n "s/^$1 //p")
 }
 # Board cells are 16 pixels wide and begin at 96, 16; picker slots are 32 wide and begin at 168, 472.

@@ -1,6 +1,7 @@
 #!/bin/sh
 # windows-qt.sh FOLDER: builds Qt for Windows into the folder, once, from Debian's own source package. Builds only what
 # the window (core, gui, widgets) and its tests (testlib) need, as shared libraries. Takes about an hour on two cores.
+# shellcheck disable=SC2086 # words
 set -eu
 
 target=$1
@@ -19,9 +20,7 @@ apt-get indextargets --format 'deb-src [signed-by=/usr/share/keyrings/debian-arc
 own_list="-o Dir::Etc::SourceList=$work/sources.list -o Dir::Etc::SourceParts=- -o Dir::State::Lists=$work/lists
     -o Dir::Cache=$work -o Dir::Cache::Archives=$work/archives -o APT::Sandbox::User="
 cd "$work"
-# shellcheck disable=SC2086
 apt-get $own_list update -qq
-# shellcheck disable=SC2086
 apt-get $own_list source -qq qt6-base/bookworm
 source=$(echo qt6-base-*/)
 
@@ -31,7 +30,6 @@ for feature in network sql dbus xml concurrent printsupport vulkan direct2d dire
     system_zlib pkg_config tabletevent jpeg gif ico textmarkdownreader textmarkdownwriter textodfwriter; do
     off="$off -DFEATURE_$feature=OFF"
 done
-# shellcheck disable=SC2086
 cmake -G Ninja -S "$source" -B build -Wno-dev \
     -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_SYSTEM_PROCESSOR=x86_64 \
     -DCMAKE_C_COMPILER=x86_64-w64-mingw32-gcc-posix -DCMAKE_CXX_COMPILER=x86_64-w64-mingw32-g++-posix \
