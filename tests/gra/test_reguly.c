@@ -24,18 +24,16 @@ static const struct row {
     {"D   ", "RRRR", "   D", "f60"},
     {0, "---", "   D", "f63"},
     {0, "LU", "  D ", "f62"},
-    {"D..~.? ", "RRRRL", " ,D~,? "}, /* digging; a code that is no tile */
-    {"D        ", "r 10", " D"},     /* a press is a step; held, it makes the next one after */
-    {0, "1", "  D"},                 /* ten ticks and then one every six */
-    {0, "12", "    D"},
-    {0, ". 2 r 10", "     D"},                 /* a second press waits for no more than the pace of steps */
+    {"D..~.? ", "RRRRL", " ,D~,? "},           /* digging; a code that is no tile */
+    {"D        ", "r 10", " D"},               /* a press is a step; held, it makes the next one after */
+    {0, "1", "  D"},                           /* ten ticks and then one every six */
+    {0, "12 . 2 r 10", "     D"},              /* a second press waits for no more than the pace of steps */
     {"D    /     /     ", "r 6 d 6", " /#D"},  /* the newest direction wins */
     {0, ".r 2 d 2 .r 6", "//##D"},             /* a tap between two steps counts */
     {"D     ", "r 18 . 5 r 7", "    D"},       /* the same direction again: held, it waits as at first */
     {"  D   ", "r 2 . 7 l 7", "  D   "},       /* after a rest, a tap of seven ticks is one step */
     {"D   /||| /||| ", "r 22 .d 7", "//###D"}, /* a turn doesn't slow her down */
-    {"D ||||/|  |||/||  ||/|||  |/||||  ", "rd 46", "///####D"}, /* a barred direction gives way to another */
-    {0, "1", "////####D"},
+    {"D ||||/|  |||/||  ||/|||  |/||||  ", "rd 47", "////####D"}, /* a barred direction gives way to another */
     {"D    /|+ESz", "r 3 d 18", "    D", "g2"}, /* a door, an exit, a crate may bar her; at a thicket she tugs */
     {0, "16", "/####D"},
     {"  ", "", 0, "j0"},
@@ -53,7 +51,7 @@ static const struct row {
     {0, "150", 0, "p97"},            /* the bonus for time: one less every 75 ticks */
     {0, "7500", 0, "p0 w0"},
     {"0:DE", "R", 0, "w1"},             /* no goal: open at once */
-    {"DK++ ", "RRRR", "  D+", "k0"},    /* a key opens one door */
+    {"DK++ ", "RRRR", "  D+", "k0 g1"}, /* a key opens one door */
     {"Dnnnn ", "=e50 RR", 0, "e65 b0"}, /* jars: coins, strength, coins, a bomb */
     {0, "RRR", "     D", "b1"},
     {"D$$$$$$$$$$$$$$$$$$$$", "RRRRRRRRRRRRRRRRRRR", 0, "z3"}, /* twenty coins make a life */
