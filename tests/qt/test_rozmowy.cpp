@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileDialog>
+#include <QScrollBar>
 #include <QStandardPaths>
 #include <QTreeView>
 
@@ -40,7 +41,7 @@ TEST_F(DialogWindows, AStageGoesOutAndComesBack) {
     whenAskedChoose(copy);
     click("cmdLoad");
     EXPECT_EQ(folder, QString::fromStdString(fs::canonical(root).generic_string()));
-    EXPECT_EQ(find<QLabel>("lblInfo(3)")->text(), "9");
+    EXPECT_EQ(find<QScrollBar>("hscMonet")->value(), 9);
     EXPECT_FALSE(
         QFile::exists(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/QtProject.conf"));
 }
@@ -93,10 +94,6 @@ TEST_F(DialogWindows, FilesAreListedByNumberAndAlphabetInPolish) {
         EXPECT_TRUE(list->isColumnHidden(2));
         EXPECT_EQ(list->model()->headerData(3, Qt::Horizontal), "Data zmiany");
         EXPECT_EQ(QCoreApplication::translate("QFileDialog", "Directory:"), "Katalog:"); // the toolkit's own words
-        QStringList labels;
-        for (auto label : {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::FileType, QFileDialog::Reject})
-            labels += dialog->labelText(label);
-        EXPECT_EQ(labels.join("|"), "Szukaj w:|&Nazwa pliku:|Pliki typu:|&Anuluj");
         dialog->reject();
     });
     click("cmdLoad");

@@ -62,8 +62,6 @@ TEST_F(SessionWindows, ProgramsRunInTheCurrentFolder) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(base / "OBIEKTY/call").ends_with('\n'); }, 10000));
     const auto here = root.u8string();
     EXPECT_EQ(readFile(base / "OBIEKTY/call"), std::string(here.begin(), here.end()) + "\n");
-    startProgram(base / "PLIKI/BRAK.BAT", OknoProgramu::Hidden); // nothing happens, nothing is created
-    EXPECT_FALSE(fs::exists(base / "PLIKI/BRAK.BAT"));
 }
 
 TEST_F(SessionWindows, TheEndOfASessionStoresTheWork) {
