@@ -97,11 +97,8 @@ TEST_F(MainWindow, ThePaletteWritesIntoTheSlotThatWasPicked) {
     EXPECT_EQ(colour("lblKolor(11)", QPalette::WindowText), qRgb(255, 255, 255));
 
     find<QCheckBox>("chkZachowajKolory")->click();
-    for (const char* name : {"cmdResetKolory", "lblKolor(5)"}) {
-        whenAskedPress("OK");
-        click(name);
-    }
-    EXPECT_EQ(said.size(), 2);
+    click("cmdResetKolory", {"OK"});
+    click("lblKolor(5)", {"OK"});
     EXPECT_FALSE(dialog->isVisible());
     find<QCheckBox>("chkZachowajKolory")->click();
     click("lblKolor(0)");
@@ -290,8 +287,7 @@ TEST_F(Widgets, ArrowKeysGoFromTheSelectedOption) {
     EXPECT_EQ(e.NumerEtapu, 2);
     fs::remove(etap(2));
     fs::create_directory(etap(2));
-    whenAskedPress("OK");
-    down(); // refused
+    answering({"OK"}, down); // refused
     EXPECT_TRUE(find<QPushButton>("optEtapNR(1)")->isChecked());
     fs::remove(etap(2));
     okno->activateWindow();

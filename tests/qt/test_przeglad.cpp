@@ -1,27 +1,20 @@
 // The window of the overview.
-#include "desk.h"
+#include "window_desk.h"
+
 #include "przeglad_qt/arkusz.h"
 #include "przeglad_qt/okno.h"
 #include "stage/archiwum.h"
 #include "system/kopie.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QDropEvent>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
 #include <QStatusBar>
-#include <QTest>
-#include <QTimer>
 
 namespace dorva::test {
 namespace {
 
-class OverviewWindow : public Desk {
+class OverviewWindow : public DialogDesk {
 protected:
     void SetUp() override {
         Desk::SetUp();
@@ -31,10 +24,6 @@ protected:
         przeglad->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(przeglad.get()));
         arkusz = dynamic_cast<Arkusz*>(przeglad->findChild<QListView*>());
-    }
-    void TearDown() override {
-        przeglad.reset();
-        Desk::TearDown();
     }
 
     const Gra& gra() { return static_cast<KartyModel*>(arkusz->model())->gra(); }
@@ -46,10 +35,10 @@ protected:
         return numbers;
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(arkusz, key, modifiers); }
-    void run(const QString& caption) {
+    void run(const QString& caption, const QStringList& replies = {}) {
         for (QAction* action : przeglad->findChildren<QAction*>())
             if (action->text().remove('&').startsWith(caption))
-                return action->trigger();
+                return answering(replies, [=] { action->trigger(); });
         ADD_FAILURE() << "no action " << caption.toStdString();
     }
     // Drops the selected card at `part` of another one's width.
@@ -66,53 +55,18 @@ protected:
     }
     void dropFile(const fs::path& path) {
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path.string()))});
+        data.setUrls({QUrl::fromLocalFile(name(path))});
         QDragEnterEvent enter(QPoint(400, 400), Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(arkusz->viewport(), &enter);
         QDropEvent event(QPointF(400, 400), Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(arkusz->viewport(), &event);
     }
-    // Answers a dialog: presses the button of that caption, types that name, or takes the picture of that row.
-    void answer(QDialog* dialog, const QString& with) {
-        if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
-            said += box->text();
-            for (QAbstractButton* button : box->buttons())
-                if (button->text().remove('&') == with)
-                    return button->click();
-        } else if (qobject_cast<QFileDialog*>(dialog)) {
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(with);
-            return dialog->accept();
-        } else if (auto* list = dialog->findChild<QListWidget*>()) {
-            said += QString::number(list->count());
-            list->setCurrentRow(with.toInt());
-            return dialog->accept();
-        }
-        ADD_FAILURE() << "no " << with.toStdString();
-        dialog->reject();
-    }
-    // Does something, and answers the dialogs that it opens, no more and no fewer.
-    void run(const std::function<void()>& what, QStringList expected) {
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
-                answer(dialog, expected.isEmpty() ? "an answer" : expected.takeFirst());
-        });
-        timer.start(1);
-        what();
-        QApplication::processEvents();
-        EXPECT_TRUE(expected.isEmpty()) << expected.join(' ').toStdString();
-    }
-    void run(const QString& caption, const QStringList& expected) {
-        run([&] { run(caption); }, expected);
-    }
-    static QString name(const fs::path& path) { return QString::fromStdString(path.string()); }
     void keep(const fs::path& file, const Bajty& bytes, int minute, const char* ending = "") {
         ASSERT_TRUE(keepCopy(SYSTEM_CALLS, file, bytes, Time(std::chrono::minutes(29000000 + minute)), ending));
     }
 
     std::unique_ptr<OknoPrzegladu> przeglad;
     Arkusz* arkusz = nullptr;
-    QStringList said;
 };
 
 TEST_F(OverviewWindow, CardsAreArrangedByMouseAndKeysAndTakenBack) {
@@ -168,12 +122,12 @@ TEST_F(OverviewWindow, AnEarlierVersionComesBackAndTheEditorLoadsIt) {
     keep(etap(2), sampleEtap(21), 2);
     dropCard(0, 1, 0.5);
     arkusz->select(0);
-    run([&] { press(Qt::Key_Return); }, {"1"});
+    answering({"1"}, [&] { press(Qt::Key_Return); });
     EXPECT_EQ(gra().karty[0].image, sampleEtap(20)) << "those of the number under which the card was read";
     arkusz->setStyleSheet("QListView { activate-on-singleclick: 1 }"); // as some desktops have it
     const QPoint third = arkusz->visualRect(arkusz->model()->index(2, 0)).center();
-    run([&] { QTest::mouseClick(arkusz->viewport(), Qt::LeftButton, {}, third); }, {});
-    run([&] { QTest::mouseDClick(arkusz->viewport(), Qt::LeftButton, {}, third); }, {"OK"});
+    answering({}, [&] { QTest::mouseClick(arkusz->viewport(), Qt::LeftButton, {}, third); });
+    answering({"OK"}, [&] { QTest::mouseDClick(arkusz->viewport(), Qt::LeftButton, {}, third); });
 
     fs::remove(etap(3));
     run("Odśwież", {"Anuluj"});
@@ -190,7 +144,7 @@ TEST_F(OverviewWindow, AnEarlierVersionComesBackAndTheEditorLoadsIt) {
     run("Zapisz archiwum", {name(root / "gra"), "Anuluj"});
     EXPECT_TRUE(said.back().startsWith("Plik już istnieje!")) << "what it says once isn't said again";
 
-    run([&] { przeglad->open(root / "gra.dpa"); }, {});
+    answering({}, [&] { przeglad->open(root / "gra.dpa"); });
     dropCard(0, 1, 0.5);
     run("Odśwież", {"Zapisz archiwum...", name(root / "gra.dpa"), "OK", "OK"});
     EXPECT_EQ(gra().karty[1].image, sampleEtap(20)) << "what was saved right before is read";
@@ -218,9 +172,9 @@ TEST_F(OverviewWindow, AWrongArchiveIsTakenBack) {
 TEST_F(OverviewWindow, AFileIsDroppedAndTheWorkingSetIsNeverWrittenTo) {
     writeFile(root / "obca.dpa", sampleArchiwum());
     writeFile(root / "zla.dpa", Bajty(5));
-    run([&] { dropFile(root / "obca.dpa"); }, {});
+    answering({}, [&] { dropFile(root / "obca.dpa"); });
     EXPECT_EQ(gra().karty[0].image, sampleEtap(32));
-    run([&] { dropFile(root / "zla.dpa"); }, {"OK"});
+    answering({"OK"}, [&] { dropFile(root / "zla.dpa"); });
     EXPECT_EQ(gra().karty[0].image, sampleEtap(32));
 
     for (const fs::path& path : {etap(1), base / "PLIKI/nowy.dpa"})

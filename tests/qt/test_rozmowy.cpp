@@ -3,7 +3,6 @@
 #include "qt/rozmowy.h"
 
 #include <QFile>
-#include <QFileDialog>
 #include <QScrollBar>
 #include <QStandardPaths>
 #include <QTreeView>
@@ -11,37 +10,23 @@
 namespace dorva::test {
 namespace {
 
-class DialogWindows : public WindowDesk {
-protected:
-    static QLineEdit* nameOf(QFileDialog* dialog) { return dialog->findChild<QLineEdit*>("fileNameEdit"); }
-    // Answers the next file dialog with a name.
-    void whenAskedChoose(const fs::path& name) {
-        whenAsked<QFileDialog>([this, name](QFileDialog* dialog) {
-            folder = dialog->directory().absolutePath();
-            EXPECT_EQ(dialog->fileMode(), QFileDialog::AnyFile) << "the operation deals with a missing one";
-            nameOf(dialog)->setText(QString::fromStdString(name.string()));
-            static_cast<QDialog*>(dialog)->accept();
-        });
-    }
-    QString folder;
-};
+using DialogWindows = WindowDesk;
 
 TEST_F(DialogWindows, AStageGoesOutAndComesBack) {
     open();
     const fs::path copy = root / QString::fromUtf8("mój etap").toStdString();
     writeFile(copy, {1, 2, 3});
-    whenAskedChoose(copy);
-    whenAskedPress("OK"); // the only question about it
-    whenAskedPress("OK");
-    click("cmdSave");
-    EXPECT_EQ(said.join(" "),
-              "Ostrzeżenie!|Plik już istnieje!\nZastąpić? Informacja|Dane etapu zostały pomyślnie zapisane");
+    click("cmdSave", {name(copy), "OK", "OK"});
+    EXPECT_EQ(said.join("|"), "Plik już istnieje!\nZastąpić?|Dane etapu zostały pomyślnie zapisane");
     EXPECT_EQ(readFile(copy), sampleEtap(1));
     writeFile(copy, sampleEtap(9));
-    whenAskedChoose(copy);
-    click("cmdLoad");
-    EXPECT_EQ(folder, QString::fromStdString(fs::canonical(root).generic_string()));
+    look = [this](QDialog* dialog) {
+        EXPECT_EQ(static_cast<QFileDialog*>(dialog)->directory(), QDir(name(fs::canonical(root))));
+    };
+    click("cmdLoad", {name(copy)});
     EXPECT_EQ(find<QScrollBar>("hscMonet")->value(), 9);
+    click("cmdLoad", {name(root / "nie ma")});
+    EXPECT_EQ(e.OstatniaSciezka, root / "nie ma");
     EXPECT_FALSE(
         QFile::exists(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/QtProject.conf"));
 }
@@ -57,19 +42,20 @@ TEST_F(DialogWindows, EnterOnAButtonAsksItsQuestionOverWhatWasDone) {
         {"cmdTest", "Został utworzony plik XEX z testowanym etapem.\nUruchomić plik na emulatorze Atari?"},
         {"cmdCreate", "Zapisywanie jako|&Zapisz|Plik gry (*.xex)|Wszystkie pliki (*.*) (*)|Dorva - wyprawy.xex"},
     };
+    QString asked;
+    look = [&](QDialog* dialog) {
+        EXPECT_EQ(okno->windowTitle(), QString::fromStdString(e.okno.caption));
+        asked = dialog->property("text").toString();
+        if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
+            QStringList words{files->windowTitle(), files->labelText(QFileDialog::Accept)};
+            words += files->nameFilters();
+            words += files->findChild<QLineEdit*>("fileNameEdit")->text();
+            asked = words.join("|");
+        }
+    };
     for (const auto& [button, question] : rows) {
         e.okno.caption += "!";
-        QString asked;
-        whenAsked<QDialog>([&](QDialog* dialog) {
-            EXPECT_EQ(okno->windowTitle(), QString::fromStdString(e.okno.caption));
-            if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
-                const QStringList words{dialog->windowTitle(), files->labelText(QFileDialog::Accept)};
-                asked = (words + files->nameFilters() + QStringList(nameOf(files)->text())).join("|");
-            } else
-                asked = qobject_cast<QMessageBox*>(dialog)->text();
-            dialog->reject();
-        });
-        QTest::keyClick(find(button), Qt::Key_Return);
+        answering({""}, [&, b = button] { QTest::keyClick(find(b), Qt::Key_Return); });
         EXPECT_EQ(asked, QString(question)) << button;
     }
 }
@@ -79,7 +65,7 @@ TEST_F(DialogWindows, FilesAreListedByNumberAndAlphabetInPolish) {
     e.OstatniaSciezka = base / "ETAPY";
     for (const char8_t* name : {u8"DETAP.zoo", u8"DETAP.ćma"})
         writeFile(base / "ETAPY" / fs::path(name), {});
-    whenAsked<QFileDialog>([](QFileDialog* dialog) {
+    look = [](QDialog* dialog) {
         const auto* list = dialog->findChild<QTreeView*>("treeView");
         const auto row = [&](int number) {
             QStringList cells;
@@ -94,9 +80,8 @@ TEST_F(DialogWindows, FilesAreListedByNumberAndAlphabetInPolish) {
         EXPECT_TRUE(list->isColumnHidden(2));
         EXPECT_EQ(list->model()->headerData(3, Qt::Horizontal), "Data zmiany");
         EXPECT_EQ(QCoreApplication::translate("QFileDialog", "Directory:"), "Katalog:"); // the toolkit's own words
-        dialog->reject();
-    });
-    click("cmdLoad");
+    };
+    click("cmdLoad", {""});
 }
 
 TEST_F(DialogWindows, KeysAndIconOfEveryMessage) {
@@ -107,7 +92,8 @@ TEST_F(DialogWindows, KeysAndIconOfEveryMessage) {
                                           {Przyciski::OkCancel, Qt::Key_O, Qt::Key_A},
                                           {Przyciski::YesNo, Qt::Key_T, Qt::Key_N}})
             for (Qt::Key key : {yes, no, Qt::Key_Return, Qt::Key_Escape}) {
-                whenAsked<QMessageBox>([key, icon = icon](QMessageBox* box) {
+                QTimer::singleShot(0, [key, icon = icon] {
+                    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
                     EXPECT_EQ(box->icon(), icon);
                     QTest::keyClick(box, key);
                 });

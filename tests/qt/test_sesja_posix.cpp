@@ -47,8 +47,7 @@ TEST_F(SessionPosix, TheLauncherRunsTheEmulatorBesideTheEditor) {
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", QByteArray::fromStdString(root.string()) + ":" + path);
 
-    whenAskedPress("Tak");
-    click("cmdTest");
+    click("cmdTest", {"Tak"});
     const std::string called =
         fs::canonical(base).string() + "\n-xe -nobasic -win-width 1008 -win-height 720 -run PLIKI/TEST.XEX\n";
     EXPECT_TRUE(QTest::qWaitFor([&] { return readFile(root / "call").size() == called.size(); }));

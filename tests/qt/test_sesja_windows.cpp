@@ -22,8 +22,7 @@ protected:
     std::string launchedIn(const fs::path& folder) {
         const fs::path note = folder / "call";
         fs::remove(note);
-        whenAskedPress("Tak");
-        click("cmdTest");
+        click("cmdTest", {"Tak"});
         (void)QTest::qWaitFor([&] { return readFile(note).ends_with('\n'); }, 10000);
         return readFile(note);
     }

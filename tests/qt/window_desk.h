@@ -1,13 +1,15 @@
-// A desk with a real window: finds widgets by their names, and answers dialogs.
+// Desks with real windows: dialogs are answered, widgets found by their names.
 #pragma once
 
 #include "desk.h"
 #include "qt/okno_glowne.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -33,7 +35,50 @@ inline Bitmapa patternStrip(int shade) {
     return strip;
 }
 
-class WindowDesk : public Desk {
+class DialogDesk : public Desk {
+protected:
+    // Does something, and answers the dialogs that it opens, no more and no fewer.
+    void answering(QStringList replies, const std::function<void()>& what) {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            look(dialog);
+            answer(dialog, replies.isEmpty() ? "an answer" : replies.takeFirst());
+        });
+        timer.start(1);
+        what();
+        QApplication::processEvents();
+        EXPECT_TRUE(replies.isEmpty()) << replies.join(' ').toStdString();
+    }
+
+    static QString name(const fs::path& path) { return QString::fromStdString(path.string()); }
+
+    std::function<void(QDialog*)> look = [](QDialog*) {}; // before a dialog is answered
+    QStringList said;                                     // texts of the message boxes
+
+private:
+    // Presses the button of that caption, types that name, or takes the picture of that row. Nothing cancels.
+    void answer(QDialog* dialog, const QString& with) {
+        if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
+            said += box->text();
+            for (QAbstractButton* button : box->buttons())
+                if (button->text().remove('&') == with)
+                    return button->click();
+        } else if (qobject_cast<QFileDialog*>(dialog) && !with.isEmpty()) {
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(with);
+            return dialog->accept();
+        } else if (auto* list = dialog->findChild<QListWidget*>()) {
+            list->setCurrentRow(with.toInt());
+            return dialog->accept();
+        }
+        EXPECT_EQ(with, "") << dialog->windowTitle().toStdString();
+        dialog->reject();
+    }
+};
+
+class WindowDesk : public DialogDesk {
 protected:
     void SetUp() override {
         Desk::SetUp();
@@ -42,11 +87,6 @@ protected:
             const auto name = path.filename().string();
             return patternStrip(shadeOf(name[3] - '0'));
         };
-    }
-
-    void TearDown() override {
-        okno.reset();
-        Desk::TearDown();
     }
 
     void open() {
@@ -64,7 +104,9 @@ protected:
         return widget;
     }
 
-    void click(const QString& name) { QTest::mouseClick(find(name), Qt::LeftButton); }
+    void click(const QString& widget, const QStringList& replies = {}) {
+        answering(replies, [&] { QTest::mouseClick(find(widget), Qt::LeftButton); });
+    }
 
     // Types text as a keyboard of any language would.
     static void type(QWidget* widget, const QString& text) {
@@ -72,29 +114,6 @@ protected:
             QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
             QApplication::sendEvent(widget, &event);
         }
-    }
-
-    // Runs `answer` once a modal dialog is open.
-    template <typename Dialog, typename Answer> void whenAsked(Answer answer) {
-        QTimer::singleShot(0, [this, answer] {
-            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            if (dialog)
-                answer(dialog);
-            else
-                whenAsked<Dialog>(answer);
-        });
-    }
-
-    // Presses the button with this caption in the next message box, and keeps the box's text in `said`.
-    void whenAskedPress(const QString& caption) {
-        whenAsked<QMessageBox>([this, caption](QMessageBox* box) {
-            said.append(box->windowTitle() + "|" + box->text());
-            for (QAbstractButton* button : box->buttons())
-                if (button->text().remove('&') == caption)
-                    return button->click();
-            ADD_FAILURE() << "no button " << caption.toStdString();
-            box->reject();
-        });
     }
 
     [[nodiscard]] Znak cellOf(int cell) const { return e.okno.imgPG[cell].znak; }
@@ -107,7 +126,6 @@ protected:
 
     int shade = 20; // of the strips, in the first world
     std::unique_ptr<OknoGlowne> okno;
-    QStringList said;
 };
 
 } // namespace dorva::test
