@@ -1,7 +1,6 @@
 #include "window_desk.h"
 
 #include "stage/zbior_etapow.h"
-
 #include "tiles/zestaw.h"
 
 #include <QHelpEvent>
@@ -14,6 +13,8 @@
 
 namespace dorva::test {
 namespace {
+
+constexpr QRgb IN_BUFOR = qRgb(255, 224, 64), UNDER_POINTER = qRgb(255, 255, 255);
 
 // Sends a pointer event as a desktop would: it may be far from the one before.
 void pointer(QWidget* widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
@@ -55,15 +56,11 @@ TEST_F(Painting, ADragPaintsTheCellsThatItsStraightWayCuts) {
         {{{56, 88}, {72, 104}}, {{3, 5}, {4, 6}}}, // through a corner
         {{{72, 88}, {56, 104}}, {{4, 5}, {3, 6}}},
         {{{64, 96}, {32, 64}}, {{4, 6}, {3, 5}, {2, 4}}},
-        {{{50, 81}, {52, 94}}, {{3, 5}}},
-        {{{620, 40}, {652, 73}}, {{38, 2}, {39, 2}, {39, 3}}}, // out over the edge
         {{{632, 248}, {739, 248}, {739, 40}, {584, 40}},
-         {{39, 15}, {39, 2}, {38, 2}, {37, 2}, {36, 2}}}, // and in again
+         {{39, 15}, {39, 2}, {38, 2}, {37, 2}, {36, 2}}}, // out over the edge and in again
     };
     for (auto row : rows)
         for (bool back : {false, true}) {
-            if (back && row.way.front().x() >= 640)
-                continue;
             ClearEtap(e);
             clickSlot(14);
             pointer(board, QEvent::MouseButtonPress, row.way[0], Qt::LeftButton, Qt::LeftButton);
@@ -92,6 +89,7 @@ TEST_F(Painting, ButtonsAndTools) {
     EXPECT_EQ(cellOf(85), ZIEMIA);
     press(90, Qt::MiddleButton);
     EXPECT_EQ(e.lastCell, 90);
+    EXPECT_TRUE(e.ostatniaKopia) << "each operation looks after the copies";
     moveTo(centreOf(92), Qt::LeftButton | Qt::RightButton);
     EXPECT_NE(cellOf(92), KLUCZ);
     EXPECT_EQ(e.okno.obrys, 92);
@@ -105,6 +103,7 @@ TEST_F(Painting, ButtonsAndTools) {
 TEST_F(Painting, OnlyWhatChangedIsRepainted) {
     struct Counter : QObject {
         QRegion region;
+        explicit Counter(QWidget* widget) { widget->installEventFilter(this); }
         bool eventFilter(QObject*, QEvent* event) override {
             if (event->type() == QEvent::Paint)
                 region += static_cast<QPaintEvent*>(event)->region();
@@ -114,10 +113,7 @@ TEST_F(Painting, OnlyWhatChangedIsRepainted) {
             QTest::qWait(50);
             return std::exchange(region, {});
         }
-    } ofBoard, ofPicker, ofBufor;
-    board->installEventFilter(&ofBoard);
-    find("imgZnak")->installEventFilter(&ofPicker);
-    find("imgBufor")->installEventFilter(&ofBufor);
+    } ofBoard(board), ofPicker(find("imgZnak")), ofBufor(find("imgBufor"));
     (void)ofBoard.painted();
     ofBufor.region = {};
     clickSlot(7);
@@ -137,36 +133,29 @@ TEST_F(Painting, OnlyWhatChangedIsRepainted) {
 TEST_F(Painting, FramesTellTheSlotUnderThePointerAndTheOneInTheBuffer) {
     QWidget* picker = find("imgZnak");
     const auto frameOf = [&](int slot) { return shot("imgZnak").pixel(rectOf(slot).topLeft()); };
-    constexpr QRgb NONE = qRgb(0, 0, 0), IN_BUFOR = qRgb(255, 224, 64), UNDER_POINTER = qRgb(255, 255, 255);
+    const QRgb none = frameOf(16);
     e.okno.imgZnak[9].enabled = false;
     clickSlot(14);
     clickSlot(9); // disabled
+    moveOver(9);
+    EXPECT_EQ(frameOf(9), none);
     moveOver(16);
-    EXPECT_EQ(frameOf(16), UNDER_POINTER);
     QHelpEvent help(QEvent::ToolTip, rectOf(16).center(), {});
     QApplication::sendEvent(picker, &help);
     EXPECT_EQ(QToolTip::text(), "FIOLKA Z ELIKSIREM");
-    moveOver(9);
-    EXPECT_EQ(frameOf(9), NONE);
-    moveOver(16);
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(picker, &leave);
-    EXPECT_EQ(frameOf(16), NONE);
+    EXPECT_EQ(frameOf(16), none);
     QTest::mousePress(picker, Qt::LeftButton, {}, rectOf(16).center());
     QTest::mouseRelease(picker, Qt::LeftButton, {}, rectOf(17).center()); // no click
     EXPECT_EQ(frameOf(14), IN_BUFOR);
     QTest::mouseClick(picker, Qt::LeftButton, {}, picker->rect().bottomRight());
     EXPECT_EQ(frameOf(WYBOR_ORDER.back()), IN_BUFOR);
-    clickSlot(0);
-    EXPECT_EQ(frameOf(0), IN_BUFOR);
 }
 
 TEST_F(Painting, AFrameLiesOnTheBlackLinesAroundATile) {
-    const auto emptyBufor = [&] {
-        e.okno.imgBufor.znak = znak(62); // a hidden tile
-        okno->showRecord();
-    };
-    emptyBufor();
+    e.okno.imgBufor.znak = znak(62); // a hidden tile
+    okno->showRecord();
     const QImage before = shot("imgZnak");
     const auto framed = [&](QRect frame, QRgb colour) {
         QImage image = before;
@@ -179,11 +168,12 @@ TEST_F(Painting, AFrameLiesOnTheBlackLinesAroundATile) {
     for (auto [slot, size] : rows) {
         const QRect frame(rectOf(slot).topLeft(), size);
         EXPECT_EQ(framed(frame, qRgb(0, 0, 0)), before) << slot;
-        emptyBufor();
         moveOver(slot);
-        EXPECT_EQ(shot("imgZnak"), framed(frame, qRgb(255, 255, 255))) << slot << " under the pointer";
+        EXPECT_EQ(shot("imgZnak"), framed(frame, UNDER_POINTER)) << slot;
         clickSlot(slot);
-        EXPECT_EQ(shot("imgZnak"), framed(frame, qRgb(255, 224, 64))) << slot << " in the buffer";
+        EXPECT_EQ(shot("imgZnak"), framed(frame, IN_BUFOR)) << slot;
+        e.okno.imgBufor.znak = znak(62);
+        okno->showRecord();
     }
 }
 
@@ -210,20 +200,20 @@ TEST_F(Painting, PicturesAreTheStripsPixels) {
         e.okno.imgPG[51].znak = znak(70); // no tile
         optObiektyNR_Click(e, swiat);
         okno->showRecord();
-        const auto stripPixel = [&](Znak z, int x, int y) {
-            return QRgb(patternPixel(shadeOf(swiat), kod(z) < 64 ? kod(z) : kod(z) - 64, x, y));
+        int wrong = 0;
+        const auto compare = [&](QRgb pixel, Znak z, int x, int y) {
+            wrong += pixel != QRgb(patternPixel(shadeOf(swiat), kod(z) < 64 ? kod(z) : kod(z) - 64, x, y));
         };
         const QImage cells = shot("imgPG"), picker = shot("imgZnak");
-        int wrong = 0;
         for (int y = 0; y < cells.height(); ++y)
             for (int x = 0; x < cells.width(); ++x)
                 if (const Znak z = cellOf(y / 16 * 40 + x / 16); isTile(z))
-                    wrong += cells.pixel(x, y) != stripPixel(z, x % 16 * 2, y % 16 * 2);
+                    compare(cells.pixel(x, y), z, x % 16 * 2, y % 16 * 2);
         for (int slot : WYBOR_ORDER)
-            wrong += picker.pixel(rectOf(slot).topLeft() + QPoint(11, 21)) != stripPixel(znak(slot), 10, 20);
+            compare(picker.pixel(rectOf(slot).topLeft() + QPoint(11, 21)), znak(slot), 10, 20);
         for (auto [icon, slot] : {std::pair(0, 63), {1, 9}, {2, 12}, {4, 13}, {5, 10}, {6, 14}, {7, 2}, {8, 55}})
-            wrong += shot(QString("imgInfo(%1)").arg(icon)).pixel(5, 6) != stripPixel(znak(slot), 10, 12);
-        wrong += shot("imgBufor").pixel(7, 8) != stripPixel(NIC, 6, 7);
+            compare(shot(QString("imgInfo(%1)").arg(icon)).pixel(5, 6), znak(slot), 10, 12);
+        compare(shot("imgBufor").pixel(7, 8), NIC, 6, 7);
         EXPECT_EQ(wrong, 0) << "world " << swiat;
     }
 }
