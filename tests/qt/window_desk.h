@@ -6,8 +6,6 @@
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -84,8 +82,7 @@ protected:
         Desk::SetUp();
         okno = std::make_unique<OknoGlowne>(e);
         e.haki.loadPicture = [this](const fs::path& path, int, int) -> std::optional<Bitmapa> {
-            const auto name = path.filename().string();
-            return patternStrip(shadeOf(name[3] - '0'));
+            return patternStrip(shadeOf(path.filename().string()[3] - '0'));
         };
     }
 
@@ -106,14 +103,6 @@ protected:
 
     void click(const QString& widget, const QStringList& replies = {}) {
         answering(replies, [&] { QTest::mouseClick(find(widget), Qt::LeftButton); });
-    }
-
-    // Types text as a keyboard of any language would.
-    static void type(QWidget* widget, const QString& text) {
-        for (QChar c : text) {
-            QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-            QApplication::sendEvent(widget, &event);
-        }
     }
 
     [[nodiscard]] Znak cellOf(int cell) const { return e.okno.imgPG[cell].znak; }
