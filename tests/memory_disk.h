@@ -71,11 +71,12 @@ struct MemoryDisk {
         std::vector<Files> states(1);
         for (const auto& [name, file] : names)
             states[0][name] = file->flushed;
-        for (const auto& [lost, old] : unsure) {
+        for (const auto& [name, old] : unsure) {
             Files state = states[0];
-            std::erase_if(state, [&](const auto& entry) { return (entry.first + '/').starts_with(lost + '/'); });
+            std::erase_if(state,
+                          [lost = name + '/'](const auto& entry) { return (entry.first + '/').starts_with(lost); });
             if (old)
-                state[lost] = old->flushed;
+                state[name] = old->flushed;
             states.push_back(std::move(state));
         }
         return states;
@@ -108,7 +109,7 @@ inline Result openPath(const Path& path, OpenMode mode, Handle& handle) {
     return Result::Ok;
 }
 
-constexpr std::size_t TRANSFER_MAX = 20'000; // bytes that one call moves: less than an archive has
+inline constexpr std::size_t TRANSFER_MAX = 20'000; // bytes that one call moves: less than an archive has
 
 inline Result readBytes(Handle handle, std::span<Bajt> bytes, std::size_t& count) {
     auto& [file, at] = disk.at(handle);
