@@ -179,6 +179,7 @@ TEST_F(LayingOut, ALinkIsLeftAloneWhereverItLeads) {
     ASSERT_FALSE(layOut(folder));
     EXPECT_TRUE(fs::is_symlink(folder / "ETAPY"));
     fs::remove_all(folder / "wzorzec");
+    fs::remove_all(folder / "OBIEKTY");
     EXPECT_FALSE(layOut(folder)) << "nothing was delivered";
 }
 
