@@ -161,7 +161,8 @@ TEST_F(Slips, OrdinaryWorkMakesNoCopiesAndKeepingLeavesTheScreenAlone) {
     keepWork(e);
     EXPECT_EQ(cell(5, 5), DORVA_INV);
     EXPECT_EQ(cell(0, 0), BOMBA);
-    EXPECT_EQ(copiesWith(etap(32), screen()).size(), 1U);
+    PackEtap(e);
+    EXPECT_EQ(copiesWith(etap(32), e.image).size(), 1U);
 }
 
 TEST_F(Slips, TheExitLeavesTheNewest200CopiesAndOtherFiles) {
