@@ -37,15 +37,18 @@ class DialogDesk : public Desk {
 protected:
     // Does something, and answers the dialogs that it opens, no more and no fewer.
     void answering(QStringList replies, const std::function<void()>& what) {
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            look(dialog);
-            answer(dialog, replies.isEmpty() ? "an answer" : replies.takeFirst());
-        });
-        timer.start(1);
+        const QObject whileItRuns;
+        const std::function<void()> answerNext = [&] {
+            QTimer::singleShot(1, &whileItRuns, [&] {
+                auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                if (dialog)
+                    look(dialog);
+                answerNext(); // before this answer, which may make the dialog open another one
+                if (dialog)
+                    answer(dialog, replies.isEmpty() ? "an answer" : replies.takeFirst());
+            });
+        };
+        answerNext();
         what();
         QApplication::processEvents();
         EXPECT_TRUE(replies.isEmpty()) << replies.join(' ').toStdString();
