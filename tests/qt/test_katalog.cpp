@@ -24,18 +24,13 @@ protected:
         okno->showRecord();
         okno->show();
     }
-    // The controls of a window, each before what may cover it.
-    static QList<QWidget*> controlsOf(const QWidget* window) {
-        QList<QWidget*> controls;
-        for (auto* widget : window->findChildren<QWidget*>(QRegularExpression("^(fra|frm|c|opt|txt|lbl|img|hsc|pic)")))
-            if (widget->window() == window)
-                controls.append(widget);
-        return controls;
-    }
-    // Compares their names, places, texts and states with a file.
-    static void expectControls(const char* file, const QList<QWidget*>& controls) {
+    // Compares the names, places, texts and states of a window's controls with a file.
+    static void expectControls(const char* file, const QWidget* window) {
+        const QRegularExpression names("^(fra|frm|c|opt|txt|lbl|img|hsc|pic)");
         std::vector<std::string> rows;
-        for (const QWidget* control : controls) {
+        for (const auto* control : window->findChildren<QWidget*>(names)) {
+            if (control->window() != window)
+                continue;
             const QRect r = control->geometry();
             QString row = control->objectName() + " in " + control->parentWidget()->objectName() +
                           QString(" at %1,%2 of %3x%4").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
@@ -54,7 +49,7 @@ protected:
 };
 
 TEST_F(Catalogue, EveryControlStandsAtItsPlaceWithItsWords) {
-    expectControls("okno.txt", controlsOf(okno.get()));
+    expectControls("okno.txt", okno.get());
     EXPECT_EQ(okno->minimumSize(), QSize(897, 617));
     const auto* bar = find<QScrollBar>("hscMonet");
     EXPECT_EQ(std::tuple(bar->minimum(), bar->maximum(), bar->value(), bar->hasTracking()),
@@ -63,7 +58,7 @@ TEST_F(Catalogue, EveryControlStandsAtItsPlaceWithItsWords) {
     start();
     click("lblKolor(4)");
     const auto* palette = find("dlgPaleta");
-    expectControls("paleta.txt", controlsOf(palette));
+    expectControls("paleta.txt", palette);
     EXPECT_EQ(palette->windowTitle(), "Paleta Atari");
     EXPECT_EQ(palette->minimumSize(), QSize(210, 337));
 }
