@@ -124,6 +124,9 @@ TEST_F(Stage, TheLastOneIsMarkedAsSuch) {
     SelectEtapNR(e, 4);
     EXPECT_TRUE(e.okno.chkOstatniEnabled);
     EXPECT_EQ(e.okno.chkOstatni, 0);
+    ASSERT_TRUE(SetOstatni(e, 2));
+    Form_QueryUnload(e);
+    EXPECT_EQ(readFile(etap(5))[uklad::OSTATNI], 2) << "a file's third value stays what it is";
 }
 
 TEST_F(Stage, LoadTakesAStageOverIntoTheCurrentOne) {
