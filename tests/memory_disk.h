@@ -195,13 +195,17 @@ inline const SystemCalls* memoryCalls() {
     return &calls;
 }
 
-// A path on the disk in memory.
+// A path on the disk in memory, in a folder of this run alone.
 inline std::string at(const std::string& name) {
-    static const fs::path folder = makeFolder(); // of this run alone
+    static const fs::path folder = [] {
+        const fs::path unused = makeFolder();
+        fs::remove(unused); // a run without tests on this disk would leave it
+        return unused;
+    }();
     return (folder / name).generic_string();
 }
 
-// There is also a real, empty folder of that name, since operations make it the current one.
+// In each test there is also a real, empty folder of that name, since operations make it the current one.
 class DeskInMemory : public Desk {
 protected:
     void SetUp() override {
