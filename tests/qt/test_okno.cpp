@@ -217,7 +217,7 @@ TEST_F(Widgets, ACompositionInAnEmptiedBoxGoesOn) {
     nazwa->selectAll();
     compose("x", {});
     okno->close(); // ends it
-    EXPECT_EQ(e.okno.pola[TXT_NAZWA].tekst.znaki, std::string(32, ' '));
+    EXPECT_EQ(readFile(etap(1))[uklad::NAZWA + 15], 0) << "the emptied box is stored";
 }
 
 TEST_F(Widgets, ThePaletteTakesTheKeyboardFromABoxAnotherProgramDoesNot) {
