@@ -94,6 +94,9 @@ TEST_F(MainWindow, ThePaletteWritesIntoTheSlotThatWasPicked) {
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(colour("lblKolor(11)", QPalette::WindowText), qRgb(255, 255, 255));
 
+    const QImage swatch = find("lblKolor(5)")->grab().toImage().convertToFormat(QImage::Format_Indexed8);
+    EXPECT_TRUE(swatch.colorTable().contains(qRgb(255, 255, 255))) << "its figure is white";
+
     find<QCheckBox>("chkZachowajKolory")->click();
     click("cmdResetKolory", {"OK"});
     click("lblKolor(5)", {"OK"});

@@ -54,7 +54,7 @@ TEST_F(DialogWindows, EnterOnAButtonAsksItsQuestionOverWhatWasDone) {
         }
     };
     for (const auto& [button, question] : rows) {
-        e.okno.caption += "!";
+        e.okno.caption += "!"; // the window shows it before it asks
         answering({""}, [&, b = button] { QTest::keyClick(find(b), Qt::Key_Return); });
         EXPECT_EQ(asked, QString(question)) << button;
     }
@@ -95,6 +95,7 @@ TEST_F(DialogWindows, KeysAndIconOfEveryMessage) {
                 QTimer::singleShot(0, [key, icon = icon] {
                     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
                     EXPECT_EQ(box->icon(), icon);
+                    EXPECT_EQ(box->windowTitle(), "tytuł");
                     QTest::keyClick(box, key);
                 });
                 const bool answer = showMessageBox(okno.get(), {"tytuł", "tekst", ikona, przyciski});
