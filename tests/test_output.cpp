@@ -150,8 +150,8 @@ TEST_F(Dialogs, NamesFiltersAndWhereTheNextOneStarts) {
     } all[]{{cmdSave_Click, "DETAP.7", "Etap gry|DETAP.*|Wszystkie pliki (*.*)|*.*", "etap"},
             {cmdLoad_Click, "", "Etapy gry|DETAP.*|Wszystkie pliki (*.*)|*.*", "etap"},
             {cmdSaveArch_Click, "DPArchiwum.dpa", "Plik archiwum|*.dpa|Wszystkie pliki (*.*)|*.*", "gra/x.dpa"},
-            {cmdLoadArch_Click, "", "Pliki archiwum|*.dpa|Wszystkie pliki (*.*)|*.*", "gra/x.dpa"},
-            {cmdCreate_Click, "Dorva - wyprawy.xex", "Plik gry|*.xex|Wszystkie pliki (*.*)|*.*", "gra.xex"}};
+            {cmdCreate_Click, "Dorva - wyprawy.xex", "Plik gry|*.xex|Wszystkie pliki (*.*)|*.*", "gra.xex"},
+            {cmdLoadArch_Click, "", "Pliki archiwum|*.dpa|Wszystkie pliki (*.*)|*.*", "gra/x.dpa"}};
     start();
     SelectEtapNR(e, 6);
     fs::create_directory(root / "gra");

@@ -69,6 +69,7 @@ TEST_F(Stage, PackingBringsTheEdgeAndTheHeroineToTheirForms) {
     EXPECT_EQ(kod(cell(0, 4)), 6);
     EXPECT_EQ(e.image[159], 63);
     EXPECT_EQ(cell(3, 7), DORVA);
+    EXPECT_TRUE(e.okno.etapInfo.jestDorva) << "the figures are those of the packed board";
     EXPECT_EQ(e.okno.imgPG[127].obraz.znak, DORVA_INV) << "the picture follows at the next redraw";
     const Bajty once = e.image;
     PackEtap(e);
@@ -160,7 +161,8 @@ TEST_F(Stage, SaveAsksBeforeItReplaces) {
     EXPECT_EQ(e.OstatniaSciezka, root / "brak/folderu");
     chosen = "";
     cmdSave_Click(e);
-    EXPECT_EQ(messages(), "") << "a dialog that names no file is cancelled";
+    EXPECT_EQ(e.OstatniaSciezka, root / "brak/folderu") << "a dialog that names no file is cancelled";
+    EXPECT_EQ(messages(), "");
 }
 
 TEST_F(Stage, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
@@ -170,6 +172,7 @@ TEST_F(Stage, ShortTextsAreFilledAndLongOnesNeverReachAFile) {
     text(TXT_AUTOR_GRY + 1) = ascii("ola");
     Form_QueryUnload(e);
     EXPECT_EQ(readFile(etap(1))[uklad::NAZWA + 15], 33);
+    EXPECT_EQ(text(TXT_NAZWA), FitNazwa(ascii("ala"))) << "the box shows what was stored";
     EXPECT_EQ(text(TXT_AUTOR).znaki, std::string(64, 'q')) << "full texts stay as they are";
     EXPECT_EQ(text(TXT_AUTOR_GRY + 1).znaki, "OLA" + std::string(17, ' '));
     const Bajty lines = readFile(base / "PLIKI/DP1.DTA");

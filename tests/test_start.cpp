@@ -99,6 +99,8 @@ TEST_F(Start, EmptiedBoxIsRefilledAndLeavingFitsTheText) {
     txt_Change(e, POLE_AUTOR, {});
     EXPECT_EQ(text(TXT_AUTOR), std::string(64, ' '));
     EXPECT_EQ(e.okno.pola[TXT_AUTOR].zaznaczenia, before + 1);
+    txt_Change(e, POLE_NAZWA, {std::string(33, 'A')});
+    EXPECT_EQ(text(TXT_NAZWA).size(), 32U) << "a longer one couldn't be stored";
     const struct {
         std::size_t box;
         std::string typed, left;
