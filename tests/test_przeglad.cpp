@@ -23,9 +23,9 @@ class Przeglad : public Desk {};
 
 TEST_F(Przeglad, EachSourceGivesTheVeryGameOfTheEditor) {
     writeFile(base / "PLIKI/DP1.DTA", Bajty(25, 'Q')); // one whole line
-    start();
-    run(cmdSaveArch_Click, "gra.dpa"); // stores what start-up made of the title lines, too
     const Gra gra = readZestaw(SYSTEM_CALLS, base);
+    start(); // fills the title lines that are missing
+    run(cmdSaveArch_Click, "gra.dpa");
     EXPECT_EQ(archiwumOf(gra), readFile(*chosen));
     EXPECT_EQ(readZrodlo(SYSTEM_CALLS, *chosen).gra, gra);
 

@@ -165,8 +165,8 @@ TEST_F(OverviewWindow, AFileIsDroppedAndTheWorkingSetIsNeverWrittenTo) {
     answering({"OK"}, [&] { dropFile(root / "zla.dpa"); });
     EXPECT_EQ(gra().karty[0].image, sampleEtap(32));
 
-    for (const fs::path& path : {etap(1), base / "PLIKI/nowy.dpa"})
-        run("Zapisz archiwum", {name(path), "OK"});
+    for (const fs::path& path : {etap(1), base / "PLIKI/nowy.dpa", root / "brak folderu/gra.dpa"})
+        run("Zapisz archiwum", {name(path), "OK"}); // OK to why it isn't written
     run("Zapisz obraz", {name(etap(1)), "OK"});
     EXPECT_EQ(readFile(etap(1)), sampleEtap(1));
     EXPECT_FALSE(fs::exists(base / "PLIKI/nowy.dpa"));
