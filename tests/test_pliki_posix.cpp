@@ -142,6 +142,7 @@ TEST_F(FilesPosix, ReadOnlyTreeAndReadOnlyFiles) {
             SelectEtapNR(e, 31);
             EXPECT_TRUE(messages().starts_with("Nie można zapisać etapu."));
             EXPECT_EQ(cell(5, 5), BOMBA);
+            EXPECT_TRUE(e.okno.chkOstatniEnabled) << "this isn't stage 32";
             chosen = etap(3);
             useEverything();
         });

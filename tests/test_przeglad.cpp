@@ -185,8 +185,9 @@ TEST(Ustawianie, OddMarks) {
     last[uklad::OSTATNI] = 1;
     EXPECT_EQ(replaced(gra, 3, last).karty[3].image, last);
     EXPECT_EQ(replaced(gra, 31, faultless(4)).karty[31].image, last) << "place 32 is always marked";
-    EXPECT_EQ(replaced(exchanged(gra, 3, 1), 1, last).karty[1].image, faultless(4)) << "a place of another stage";
-    EXPECT_EQ(archiwumOf(gra)[AUTOR_GRY_SIZE_BYTES + uklad::OSTATNI], 7) << "what isn't touched isn't changed";
+    EXPECT_EQ(replaced(exchanged(gra, 3, 1), 1, last).karty[1], (Karta{faultless(4), "", 4})) << "of another place";
+    EXPECT_EQ(archiwumOf(exchanged(gra, 1, 2))[AUTOR_GRY_SIZE_BYTES + uklad::OSTATNI], 7)
+        << "what isn't touched isn't changed";
     EXPECT_EQ(placesOf(exchanged(gra, 0, 1)).substr(0, 4), "2 1 ") << "a mark that is none stays with nobody";
 }
 
