@@ -26,8 +26,8 @@ changed() { ! cmp -s "$folder/wzorzec/$1" "$folder/$1"; }
 
 unpack
 folder=$(echo "$place"/dorva-planszownik-*)
-expect "nothing that a user works on stands at its place" all absent
-expect "the game template does" [ -f "$folder/PLIKI/DP2.DTA" ]
+expect "what a user works on waits in wzorzec/" all absent
+expect "the game template stands at its place" [ -f "$folder/PLIKI/DP2.DTA" ]
 
 title='Przegląd etapów' run przeglad
 close

@@ -104,6 +104,8 @@ def play(file, tokens, steps, *machine, emulator=FAST):
                           "-xe", *machine, "-run", file, "-monitor"],
                          cwd=folder, input="\n".join([*commands, "QUIT", ""]), text=True, errors="replace",
                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT).stdout
+    if not (folder / "pokey").exists():
+        sys.exit(f"play-check: the emulator doesn't start:\n{log}")
     return Played([*map(outcome, steps, files)], log, (folder / "pokey").read_text().split())
 
 def outcome(step, made):
