@@ -3,6 +3,7 @@
 
 #include "przeglad_qt/arkusz.h"
 #include "przeglad_qt/okno.h"
+#include "przeglad_qt/rysownik.h"
 #include "stage/archiwum.h"
 #include "system/kopie.h"
 
@@ -18,6 +19,9 @@ class OverviewWindow : public DialogDesk {
 protected:
     void SetUp() override {
         Desk::SetUp();
+        QImage strip(PASEK_WIDTH, OBRAZ_SIDE, QImage::Format_RGB32);
+        strip.fill(Qt::magenta);
+        strip.save(name(base / "OBIEKTY/ORN_EXPORT/FNT21.ORN.ND.TILES.BMP"));
         przeglad = std::make_unique<OknoPrzegladu>(base, "1.0.2");
         przeglad->resize(1100, 700); // for three cards in a row
         przeglad->show();
@@ -171,7 +175,8 @@ TEST_F(OverviewWindow, AFileIsDroppedAndTheWorkingSetIsNeverWrittenTo) {
     EXPECT_EQ(readFile(etap(1)), sampleEtap(1));
     EXPECT_FALSE(fs::exists(base / "PLIKI/nowy.dpa"));
     run("Zapisz obraz", {name(root / "etapy")});
-    EXPECT_FALSE(QImage(name(root / "etapy.png")).isNull());
+    const QImage sheet(name(root / "etapy.png"));
+    EXPECT_EQ(sheet.pixelColor(KARTA_WIDTH / 2, OBRAZ_KARTY_HEIGHT), Qt::magenta) << "a tile of the first board";
 }
 
 TEST_F(OverviewWindow, ClosingAsksAboutWhatIsNotSaved) {
