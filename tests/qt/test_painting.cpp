@@ -56,8 +56,8 @@ TEST_F(Painting, ADragPaintsTheCellsThatItsStraightWayCuts) {
         {{{56, 88}, {72, 104}}, {{3, 5}, {4, 6}}}, // through a corner
         {{{72, 88}, {56, 104}}, {{4, 5}, {3, 6}}},
         {{{64, 96}, {32, 64}}, {{4, 6}, {3, 5}, {2, 4}}},
-        {{{632, 248}, {739, 248}, {739, 40}, {584, 40}},
-         {{39, 15}, {39, 2}, {38, 2}, {37, 2}, {36, 2}}}, // out over the edge and in again
+        {{{632, 248}, {739, 248}, {739, 8}, {584, 8}},
+         {{39, 15}, {39, 0}, {38, 0}, {37, 0}, {36, 0}}}, // out over the edge and in again
     };
     for (auto row : rows)
         for (bool back : {false, true}) {
