@@ -82,7 +82,7 @@ RESET = until("rysuj_tytul", "WARMSTART")
 FAST = ["env", "SDL_VIDEODRIVER=dummy", "SDL_AUDIODRIVER=dummy", "atari800", "-turbo"]
 SHOWN = ["xvfb-run", "-a", "-s", "-noreset -screen 0 672x480x24", "env", "SDL_AUDIODRIVER=dummy", "atari800", "-pal",
          "-win-width", "672", "-win-height", "480"]
-Played = namedtuple("Played", "steps log pokey")  # the steps that were made, the monitor's words, the sound chip
+Played = namedtuple("Played", "steps log pokey")  # the steps that were made, the monitor's words, the sound chip's file
 
 def play(file, tokens, steps, *machine, emulator=FAST):
     """Plays a game with recorded input. The machine is a 130XE unless another is given."""
@@ -104,9 +104,10 @@ def play(file, tokens, steps, *machine, emulator=FAST):
                           "-xe", *machine, "-run", file, "-monitor"],
                          cwd=folder, input="\n".join([*commands, "QUIT", ""]), text=True, errors="replace",
                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT).stdout
-    if not (folder / "pokey").exists():
+    pokey = folder / "pokey"
+    if not pokey.exists():
         sys.exit(f"play-check: the emulator doesn't start:\n{log}")
-    return Played([*map(outcome, steps, files)], log, (folder / "pokey").read_text().split())
+    return Played([*map(outcome, steps, files)], log, pokey)
 
 def outcome(step, made):
     """A step as it went: whether the program got there, or what was there in memory."""
@@ -207,7 +208,7 @@ def music(system, frame_rate):
     tokens = "-400 F10 -500 O5 -100 O5 -100 M50 -100 M5 -100 E5 -9 E5 -400 T10 -99 T10 -60 O5 -60 M5 -400 M5 -60 M5 -20"
     played = play(game, tokens, ["ekran_konca", "graj", "przelacz_muzyke", RESET, "przelacz_muzyke", "przelacz_muzyke",
                                  "ekran_konca"], system)
-    sound = [bytes.fromhex(line) for line in played.pokey]
+    sound = [bytes.fromhex(line) for line in played.pokey.read_text().split()]
     heard = {300: True, 900: True, 1000: False, 1100: True, 1150: False, 1250: False, 1350: True, 1450: True,
              2030: False, 2250: True, 2490: False, 2530: True}
     yield (f"the tune waits in a pause, the key M stops it, RESET in a pause brings it back ({system})",
