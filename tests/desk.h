@@ -115,7 +115,6 @@ protected:
     void TearDown() override {
         fs::current_path(fs::temp_directory_path());
         std::error_code error;
-        fs::permissions(base / "ETAPY", fs::perms::owner_all, error);
         fs::remove_all(root, error);
     }
 

@@ -2,7 +2,6 @@
 #include "board/census.h"
 #include "board/plansza.h"
 #include "desk.h"
-#include "stage/etap.h"
 #include "stage/zbior_etapow.h"
 
 namespace dorva::test {
