@@ -205,6 +205,11 @@ inline std::string at(const std::string& name) {
     return (folder / name).generic_string();
 }
 
+// How the names of a file's copies begin.
+inline std::string copiesOf(const fs::path& file) {
+    return (file.parent_path() / "KOPIE" / file.filename()).generic_string() + '/';
+}
+
 // In each test there is also a real, empty folder of that name, since operations make it the current one.
 class DeskInMemory : public Desk {
 protected:

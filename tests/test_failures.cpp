@@ -73,8 +73,7 @@ bool isCopy(const std::string& name) {
 
 // Whether the file or a copy of it holds the bytes.
 bool holds(const Files& files, const std::string& name, const Bajty& bytes) {
-    const fs::path file = name;
-    const std::string copies = (file.parent_path() / "KOPIE" / file.filename()).generic_string() + '/';
+    const std::string copies = copiesOf(name);
     return std::ranges::any_of(files, [&](const auto& entry) {
         return (entry.first == name || entry.first.starts_with(copies)) && entry.second == bytes;
     });

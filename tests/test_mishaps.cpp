@@ -16,8 +16,7 @@ using std::chrono::hours, std::chrono::minutes;
 // The copies of a file that hold the bytes.
 std::vector<fs::path> copiesWith(const fs::path& file, const Bajty& bytes) {
     std::vector<fs::path> copies;
-    const fs::path folder = file.parent_path() / "KOPIE" / file.filename();
-    for (const auto& [name, content] : disk.files(folder.generic_string() + '/'))
+    for (const auto& [name, content] : disk.files(copiesOf(file)))
         if (content == bytes)
             copies.emplace_back(name);
     return copies;
